@@ -1,0 +1,78 @@
+// What a host implements to watch a parse, and to refuse values or take unknown arguments.
+#ifndef KEXA_EVENT_HANDLER_H
+#define KEXA_EVENT_HANDLER_H
+
+#include <cstdint>
+
+#include "kexa/variant.h"
+
+namespace kexa_3_3
+{
+
+// One converted value, as an event handler sees it.
+struct ValueRecord
+{
+    // The option's primary (first) name. Owned by the parser; lives as long as the parser.
+    const wchar_t* optionName;
+
+    // The value in the option's type, after completion of an abbreviation and replacement of a
+    // deprecated value.
+    vexkit2::variant_t value;
+
+    // The number of the value among all values converted in this process, from 0; it is the
+    // position that the parse result reports for the value. After 2147483646 it starts at 0 again.
+    std::int32_t sequenceNumber;
+};
+
+// Receives the events of a parse. Each operation does nothing and answers true unless overridden.
+//
+// A handler is registered with IParser::addEventHandler and belongs to the host, which must keep
+// it alive until it is removed or the parser is released. Several handlers are called in the order
+// of their addresses, on the thread that parses. A handler may throw: a standard exception ends the
+// parse with code 3, any other with code 4.
+class EventHandler
+{
+public:
+    // An option was recognised; its value is not yet converted.
+    // name: the option's primary name; lives as long as the parser.
+    // The answer is ignored.
+    virtual bool onOptionParsed(const wchar_t* name)
+    {
+        static_cast<void>(name);
+        return true;
+    }
+
+    // A value was converted and passed the option's own checks.
+    // name:  the option's primary name; lives as long as the parser.
+    // value: the value; valid during the call only, never null.
+    // Answering false refuses the value: the parse ends with code 1 and a message, and handlers
+    // with a higher address are not asked.
+    virtual bool onValueParsed(const wchar_t* name, const ValueRecord* value)
+    {
+        static_cast<void>(name);
+        static_cast<void>(value);
+        return true;
+    }
+
+    // No option and no positional option took the argument.
+    // argument: the argument as given; lives as long as the parser.
+    // Answering false takes the argument: it is no error even under creation flag 2. Every handler
+    // is asked; one false is enough.
+    virtual bool onUnknownArgument(const wchar_t* argument)
+    {
+        static_cast<void>(argument);
+        return true;
+    }
+
+protected:
+    // Handlers are never destroyed through this interface. No operation is added here: IParser's
+    // slots begin right after the three above.
+    ~EventHandler() = default;
+    EventHandler() = default;
+    EventHandler(const EventHandler&) = default;
+    EventHandler& operator=(const EventHandler&) = default;
+};
+
+} // namespace kexa_3_3
+
+#endif
