@@ -4,6 +4,11 @@ install(TARGETS kexa EXPORT kexaTargets
     RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
     ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+if(MINGW AND NOT KEXA_STATIC_RUNTIME)
+    # Interfaces and exceptions cross between host and library, so both share one C++ runtime: it
+    # comes along, and the folder of kexa.dll runs anywhere.
+    install(FILES ${KEXA_RUNTIME_DLLS} DESTINATION "${CMAKE_INSTALL_BINDIR}")
+endif()
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/kexa" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
 
 set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/kexa")

@@ -1,0 +1,57 @@
+# What only Windows needs: where programs find the DLLs, the C++ runtime of MinGW, version
+# resources, and running the tests of a cross build.
+enable_language(RC)
+
+# A Windows program looks for its DLLs in its own folder first: everything is built into one, so
+# that tests and examples start from the build tree as they would from an installed folder.
+if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_RUNTIME_OUTPUT_DIRECTORY)
+    set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
+endif()
+
+# The DLLs of MinGW's C++ runtime, as kexa.dll needs them: KEXA_RUNTIME_DLLS, full paths. Empty with
+# MSVC, whose runtime is installed by its own package.
+set(KEXA_RUNTIME_DLLS "")
+if(MINGW)
+    cmake_path(GET CMAKE_CXX_COMPILER PARENT_PATH compiler_folder)
+    foreach(dll IN ITEMS libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+        # A cross compiler answers a path; a native one keeps its DLLs beside itself and answers
+        # the name alone.
+        execute_process(COMMAND "${CMAKE_CXX_COMPILER}" -print-file-name=${dll}
+            OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+        if(NOT IS_ABSOLUTE "${path}")
+            set(path "${compiler_folder}/${dll}")
+        endif()
+        if(NOT EXISTS "${path}")
+            message(FATAL_ERROR "kexa: ${dll} not found beside the compiler ${CMAKE_CXX_COMPILER}")
+        endif()
+        cmake_path(NORMAL_PATH path)
+        list(APPEND KEXA_RUNTIME_DLLS "${path}")
+    endforeach()
+    if(CMAKE_RUNTIME_OUTPUT_DIRECTORY)
+        file(COPY ${KEXA_RUNTIME_DLLS} DESTINATION "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
+    endif()
+endif()
+
+# Links the C++ runtime into a DLL, which then needs nothing beyond what Windows itself has. With
+# MSVC the choice is made when compiling, for all of the project alike.
+function(kexa_link_static_runtime target)
+    if(MINGW)
+        target_link_options(${target} PRIVATE -static)
+    endif()
+endfunction()
+if(MSVC AND KEXA_STATIC_RUNTIME)
+    set(CMAKE_MSVC_RUNTIME_LIBRARY "MultiThreaded$<$<CONFIG:Debug>:Debug>")
+endif()
+
+# Gives a DLL the version resource made from a template.
+function(kexa_add_version_resource target template)
+    set(resource "${CMAKE_CURRENT_BINARY_DIR}/${target}.rc")
+    configure_file("${template}" "${resource}" @ONLY)
+    target_sources(${target} PRIVATE "${resource}")
+endfunction()
+
+# Lets CTest run the programs of a cross build under Wine, with a Wine prefix in the build folder.
+if(CMAKE_CROSSCOMPILING AND CMAKE_HOST_UNIX AND NOT CMAKE_CROSSCOMPILING_EMULATOR)
+    set(KEXA_WINE "${PROJECT_SOURCE_DIR}/scripts/wine.sh" "${PROJECT_BINARY_DIR}/wine")
+    set(CMAKE_CROSSCOMPILING_EMULATOR ${KEXA_WINE})
+endif()

@@ -1,0 +1,80 @@
+#include <algorithm>
+#include <string>
+
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
+
+#include "support/ConsoleStreams.h"
+#include "support/Text.h"
+#include "support/Utf8.h"
+
+namespace kexa_3_3::internal
+{
+
+namespace
+{
+
+bool writeToConsole(HANDLE console, std::wstring_view text)
+{
+    // The detour leaves well-formed text only.
+    const std::wstring units = wideFromUtf8(utf8FromWide(text));
+    std::wstring_view rest = units;
+    while (!rest.empty())
+    {
+        // Old consoles refuse more than 64 KiB at once.
+        constexpr std::size_t most_units = 8192;
+        std::size_t length = std::min(rest.size(), most_units);
+        if (length < rest.size() && isHighSurrogate(rest[length - 1]))
+        {
+            --length;
+        }
+        DWORD written = 0;
+        if (!::WriteConsoleW(console, rest.data(), static_cast<DWORD>(length), &written, nullptr) ||
+            written == 0)
+        {
+            return false;
+        }
+        rest.remove_prefix(std::min<std::size_t>(written, rest.size()));
+    }
+    return true;
+}
+
+bool writeToFile(HANDLE file, std::wstring_view text)
+{
+    const std::string bytes = utf8FromWide(text);
+    std::string_view rest = bytes;
+    while (!rest.empty())
+    {
+        constexpr std::size_t most_bytes = std::size_t{1} << 30;
+        const auto length = static_cast<DWORD>(std::min(rest.size(), most_bytes));
+        DWORD written = 0;
+        // A pipe that does not wait answers that it took nothing.
+        if (!::WriteFile(file, rest.data(), length, &written, nullptr) || written == 0)
+        {
+            return false;
+        }
+        rest.remove_prefix(std::min<std::size_t>(written, rest.size()));
+    }
+    return true;
+}
+
+} // namespace
+
+bool writeConsole(ConsoleTarget target, std::wstring_view text)
+{
+    // Asked for at every write: the host may have redirected the descriptor since.
+    const HANDLE handle =
+        ::GetStdHandle(target == ConsoleTarget::output ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE);
+    if (handle == nullptr || handle == INVALID_HANDLE_VALUE)
+    {
+        return false; // a program without a console
+    }
+    DWORD mode = 0;
+    return ::GetConsoleMode(handle, &mode) ? writeToConsole(handle, text)
+                                           : writeToFile(handle, text);
+}
+
+} // namespace kexa_3_3::internal
