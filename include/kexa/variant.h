@@ -59,7 +59,10 @@ public:
         m_value.m_u64 = static_cast<u64_t>(value);
     }
     explicit variant_t(u64_t value) noexcept : m_type(kind_u64) { m_value.m_u64 = value; }
-    explicit variant_t(float value) noexcept : m_type(kind_float) { m_value.m_double = value; }
+    explicit variant_t(float value) noexcept : variant_t(static_cast<double>(value))
+    {
+        m_type = kind_float;
+    }
     explicit variant_t(double value) noexcept : m_type(kind_double) { m_value.m_double = value; }
 
     // A copy of the text, up to its terminating zero; null counts as empty.
@@ -151,6 +154,10 @@ public:
     template <class T>
     T get() const;
 
+    // The narrow text of kinds 12 and 14, encoded as UTF-8 wherever the library reads it. Throws
+    // AssertionFailure for any other kind.
+    const char* narrow_text() const;
+
     // Holds a new block with a copy of the bytes.
     // kind:   12 (narrow text), 13 (wide text) or 16 (blob); any other throws AssertionFailure.
     // bytes:  what to copy; may be null only when length is 0.
@@ -159,10 +166,7 @@ public:
 
     // The length in bytes of what kinds 12, 13, 16 and 18 hold (a text's terminating zero
     // included); 0 for other kinds.
-    std::size_t byte_length() const noexcept
-    {
-        return owns_block() ? detail::block_length(m_value.m_data) : 0;
-    }
+    std::size_t byte_length() const;
 
     friend bool operator==(const variant_t& left, const variant_t& right);
     friend bool operator<(const variant_t& left, const variant_t& right);

@@ -45,6 +45,21 @@ inline const void* variant_t::data() const
     return m_value.m_data;
 }
 
+inline std::size_t variant_t::byte_length() const
+{
+    return owns_block() ? detail::block_length(data()) : 0;
+}
+
+inline const char* variant_t::narrow_text() const
+{
+    if (m_type != kind_narrow_text && m_type != kind_narrow_reference)
+    {
+        kexa_3_3::raiseAssertion("m_type == vtString || m_type == vtStringReference", __FILE__,
+                                 __LINE__, __func__);
+    }
+    return static_cast<const char*>(data());
+}
+
 inline double variant_t::as_double() const noexcept
 {
     if (!is_integer())

@@ -57,6 +57,10 @@ inline block_header_t* header_of(void* data) noexcept
 {
     return static_cast<block_header_t*>(data) - 1;
 }
+inline const block_header_t* header_of(const void* data) noexcept
+{
+    return static_cast<const block_header_t*>(data) - 1;
+}
 
 // A block with room for `length` bytes followed by a zero wide character, so that a text in it ends
 // whatever length it was given. Answers its data.
@@ -85,7 +89,7 @@ inline void* make_block(const void* bytes, std::size_t length, std::size_t termi
     return data;
 }
 
-inline std::size_t block_length(void* data)
+inline std::size_t block_length(const void* data) noexcept
 {
     return header_of(data)->length;
 }

@@ -39,10 +39,15 @@ inline rank_t rank_of(s32_t kind) noexcept
 {
     switch (kind)
     {
-    case kind_null:
-        return rank_t::null;
     case kind_boolean:
         return rank_t::boolean;
+    case kind_s32:
+    case kind_u32:
+    case kind_s64:
+    case kind_u64:
+    case kind_float:
+    case kind_double:
+        return rank_t::number;
     case kind_narrow_text:
     case kind_narrow_reference:
         return rank_t::narrow_text;
@@ -53,8 +58,8 @@ inline rank_t rank_of(s32_t kind) noexcept
         return rank_t::blob;
     case kind_object:
         return rank_t::object;
-    default:
-        return rank_t::number;
+    default: // kind_null, and what no operation makes: equality refuses that
+        return rank_t::null;
     }
 }
 
