@@ -1,0 +1,20 @@
+// A member that a copy of its object does not take over.
+#pragma once
+
+namespace kexa_3_3
+{
+
+// For what belongs to one object and not to its value: a cache, a registration elsewhere. A copy
+// starts with a new T; assigning keeps the target's own.
+template <class T>
+struct NotCopied
+{
+    NotCopied() = default;
+    NotCopied(const NotCopied&) noexcept {}
+    NotCopied& operator=(const NotCopied&) noexcept { return *this; }
+    ~NotCopied() = default;
+
+    T held = T();
+};
+
+} // namespace kexa_3_3

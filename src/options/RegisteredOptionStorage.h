@@ -1,0 +1,108 @@
+// The registry of all declared options.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "kexa/option.h"
+
+#include "options/OptionDescription.h"
+#include "options/OptionIndex.h"
+#include "support/TextTable.h"
+
+namespace kexa_3_3
+{
+
+// Owns the options, in the order of their declaration, and the list of groups. Options are never
+// removed.
+class RegisteredOptionStorage final
+{
+public:
+    // owner:            keeps all texts and the options' memory; lives longer than the registry.
+    // defaultSeparator: given to every new option.
+    RegisteredOptionStorage(Garbage& owner, wchar_t defaultSeparator);
+    ~RegisteredOptionStorage();
+    RegisteredOptionStorage(const RegisteredOptionStorage&) = delete;
+    RegisteredOptionStorage& operator=(const RegisteredOptionStorage&) = delete;
+
+    // Declares an option.
+    //
+    // names:     split at ','; one to three, of which the third has at most two characters. None
+    // may
+    //            be a name of a declared option.
+    // keywords:  split at ','; may be null. The names of a switch are its keywords too.
+    // groupText: the group, optionally followed by ':' and its text. The text of the first
+    //            declaration of a group stays.
+    //
+    // Answers lastRegistration(). Where it fails nothing but a new group is kept; a taken name is
+    // reported on the console output. Throws std::bad_alloc, lastRegistration() telling the
+    // failure.
+    virtual const Registration& registerOption(const wchar_t* names, const wchar_t* keywords,
+                                               const wchar_t* description, bool isSwitch,
+                                               std::int32_t valueType, const wchar_t* groupText);
+
+    // As registerOption, of a switch without further keywords.
+    virtual const Registration& registerSwitch(const wchar_t* names, const wchar_t* description,
+                                               std::int32_t valueType, const wchar_t* groupText);
+
+    // As registerOption, of an option that takes a value.
+    virtual const Registration& registerValueOption(const wchar_t* names, const wchar_t* keywords,
+                                                    const wchar_t* description,
+                                                    std::int32_t valueType,
+                                                    const wchar_t* groupText);
+
+    [[nodiscard]] const Registration& lastRegistration() const noexcept
+    {
+        return m_lastRegistration;
+    }
+
+    void setDefaultSeparator(wchar_t separator) noexcept { m_defaultSeparator = separator; }
+
+    [[nodiscard]] bool empty() const noexcept { return m_options.empty(); }
+    [[nodiscard]] std::size_t size() const noexcept { return m_options.size(); }
+    [[nodiscard]] const OptionDescription& operator[](std::size_t index) const
+    {
+        return *m_options[index];
+    }
+
+    // The first option with exactly this name, or null.
+    [[nodiscard]] const OptionDescription* find(std::wstring_view name) const noexcept;
+
+    [[nodiscard]] const OptionIndex& index() const noexcept { return m_index; }
+
+    // Whether an action is declared.
+    [[nodiscard]] bool hasActions() const noexcept { return m_actionCount != 0; }
+
+    // Every (group, group text) once, in order of first appearance.
+    using Group = std::pair<std::wstring_view, std::wstring_view>;
+    [[nodiscard]] const std::vector<Group>& groups() const noexcept { return m_groups; }
+
+private:
+    // The memory belongs to the owner of texts; only the object is destroyed.
+    struct Destroy
+    {
+        void operator()(OptionDescription* option) const noexcept;
+    };
+    using OptionPointer = std::unique_ptr<OptionDescription, Destroy>;
+
+    [[nodiscard]] const Group& groupOf(std::wstring_view groupText);
+    [[nodiscard]] bool acceptNames(std::wstring_view names);
+    [[nodiscard]] OptionPointer makeOption(const Group& group, bool isSwitch);
+
+    wchar_t m_defaultSeparator;
+    std::vector<OptionPointer> m_options;
+    std::vector<Group> m_groups;
+    Garbage& m_owner;
+    Registration m_lastRegistration = {nullptr, 1};
+
+    TextTable m_groupNames; // numbers are indices of m_groups
+    OptionIndex m_index;
+    std::size_t m_actionCount = 0;
+    std::vector<std::wstring_view> m_names; // of the declaration at work
+};
+
+} // namespace kexa_3_3

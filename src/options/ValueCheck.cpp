@@ -1,0 +1,108 @@
+#include "options/ValueCheck.h"
+
+#include <utility>
+
+#include "kexa/option.h"
+
+#include "options/OptionDescription.h"
+#include "options/ValueConversion.h"
+#include "options/ValueText.h"
+#include "options/ValueType.h"
+#include "support/ConsoleStreams.h"
+#include "support/Text.h"
+
+namespace kexa_3_3
+{
+
+namespace
+{
+
+using vexkit2::variant_t;
+
+std::wstring conversionMessage(const OptionDescription& option, std::wstring_view text)
+{
+    return concatenate({L"Option '", option.primaryName(), L"' can not parse '", text,
+                        L"' value, requires a type '", typeName(option), L"' here."});
+}
+
+std::wstring possibleValues(const OptionDescription& option)
+{
+    std::wstring list;
+    for (const variant_t& value : option.allowedValues)
+    {
+        list += concatenate({list.empty() ? L"'" : L", '", valueText(value), L"'"});
+    }
+    return L"Possible values follows: " + list;
+}
+
+std::wstring ambiguityMessage(const OptionDescription& option)
+{
+    return concatenate(
+        {L"Ambiguous value for option '", option.primaryName(), L"'. ", possibleValues(option)});
+}
+
+std::wstring refusalMessage(const OptionDescription& option, std::wstring_view text)
+{
+    return concatenate({L"Option '", option.primaryName(), L"' does not allow value '", text,
+                        L"'. ", possibleValues(option)});
+}
+
+void warnOfDeprecation(const OptionDescription& option, const variant_t& oldValue,
+                       const variant_t& replacement)
+{
+    ucerr() << concatenate({L"Warning: '", valueText(oldValue),
+                            L"' argument is deprecated for the option '-", option.primaryName(),
+                            L"'. Use the '", valueText(replacement), L"' argument instead.\n"});
+}
+
+} // namespace
+
+ValueVerdict checkValue(const OptionDescription& option, std::wstring_view text, variant_t& value,
+                        std::wstring& error)
+{
+    value = convertValue(option.valueType, text);
+    if (value.kind() == vexkit2::kind_null)
+    {
+        error = conversionMessage(option, text);
+        return ValueVerdict::rejected;
+    }
+    if (option.allowedValues.empty())
+    {
+        return ValueVerdict::accepted;
+    }
+
+    const AllowedValueIndex& candidates = option.allowedValueIndex();
+    ValueVerdict verdict = ValueVerdict::accepted;
+    const variant_t* match = candidates.findEqual(value);
+    if (match == nullptr && option.valueType == value_type_string)
+    {
+        const AllowedValueIndex::TextMatches matches = candidates.matchText(text);
+        if (matches.count > 1)
+        {
+            error = ambiguityMessage(option);
+            return ValueVerdict::rejected;
+        }
+        if (matches.count == 1)
+        {
+            match = matches.candidate;
+            value = variant_t(matches.text.data(), matches.text.size());
+            verdict = ValueVerdict::changed;
+        }
+    }
+    if (match == nullptr)
+    {
+        error = refusalMessage(option, text);
+        return ValueVerdict::rejected;
+    }
+
+    const auto deprecated = option.deprecatedValues.find(*match);
+    if (deprecated != option.deprecatedValues.end())
+    {
+        warnOfDeprecation(option, deprecated->first, deprecated->second);
+        value = deprecated->second;
+        verdict = ValueVerdict::changed;
+    }
+    return verdict;
+}
+
+} // namespace kexa_3_3

@@ -1,0 +1,244 @@
+#include "options/ValueConversion.h"
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+#include <optional>
+#include <string>
+#include <system_error>
+#include <type_traits>
+
+#include "kexa/option.h"
+
+#include "support/Text.h"
+
+namespace kexa_3_3
+{
+
+namespace
+{
+
+using vexkit2::u64_t;
+using vexkit2::variant_t;
+
+[[nodiscard]] std::wstring_view trim(std::wstring_view text) noexcept
+{
+    while (!text.empty() && isClassicSpace(text.front()))
+    {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && isClassicSpace(text.back()))
+    {
+        text.remove_suffix(1);
+    }
+    return text;
+}
+
+// Removes a sign from the front of the text. Answers whether it was a minus.
+[[nodiscard]] bool takeSign(std::wstring_view& text) noexcept
+{
+    const bool negative = !text.empty() && text.front() == L'-';
+    if (negative || (!text.empty() && text.front() == L'+'))
+    {
+        text.remove_prefix(1);
+    }
+    return negative;
+}
+
+// The value of a digit, or a number that is no digit in any base.
+[[nodiscard]] constexpr unsigned digitValue(wchar_t character) noexcept
+{
+    if (character >= L'0' && character <= L'9')
+    {
+        return static_cast<unsigned>(character - L'0');
+    }
+    if (character >= L'a' && character <= L'f')
+    {
+        return static_cast<unsigned>(character - L'a') + 10;
+    }
+    if (character >= L'A' && character <= L'F')
+    {
+        return static_cast<unsigned>(character - L'A') + 10;
+    }
+    return 255;
+}
+
+// One or more digits and nothing else, up to and including `highest`.
+[[nodiscard]] std::optional<u64_t> readDigits(std::wstring_view digits, unsigned base,
+                                              u64_t highest) noexcept
+{
+    if (digits.empty())
+    {
+        return std::nullopt;
+    }
+    u64_t number = 0;
+    for (const wchar_t character : digits)
+    {
+        const unsigned digit = digitValue(character);
+        if (digit >= base || number > (highest - digit) / base)
+        {
+            return std::nullopt;
+        }
+        number = number * base + digit;
+    }
+    return number;
+}
+
+template <class Integer>
+[[nodiscard]] variant_t convertDecimal(std::wstring_view text)
+{
+    constexpr auto highest = static_cast<u64_t>(std::numeric_limits<Integer>::max());
+    text = trim(text);
+    const bool negative = takeSign(text);
+    if (negative && std::is_unsigned_v<Integer>)
+    {
+        return variant_t();
+    }
+    const std::optional<u64_t> number = readDigits(text, 10, negative ? highest + 1 : highest);
+    if (!number)
+    {
+        return variant_t();
+    }
+    return variant_t(static_cast<Integer>(negative ? u64_t{0} - *number : *number));
+}
+
+[[nodiscard]] variant_t convertUnsigned64(std::wstring_view text)
+{
+    constexpr u64_t highest = std::numeric_limits<u64_t>::max();
+    const auto isHexadecimal = [](std::wstring_view digits)
+    {
+        return digits.find_first_not_of(L"1234567890ABCDEFabcdef") == std::wstring_view::npos;
+    };
+    std::wstring_view digits;
+    if (text.size() >= 2 && text[0] == L'0' && (text[1] == L'x' || text[1] == L'X') &&
+        isHexadecimal(text.substr(2)))
+    {
+        digits = text.substr(2);
+    }
+    else if (!text.empty() && (text.back() == L'h' || text.back() == L'H') &&
+             isHexadecimal(text.substr(0, text.size() - 1)))
+    {
+        digits = text.substr(0, text.size() - 1);
+    }
+    else
+    {
+        return convertDecimal<u64_t>(text);
+    }
+    const std::optional<u64_t> number = readDigits(digits, 16, highest);
+    return number ? variant_t(*number) : variant_t();
+}
+
+// Whether a well-formed decimal number, of which `std::from_chars` said that a double cannot hold
+// it, is too small rather than too large.
+[[nodiscard]] bool isTiny(std::string_view number) noexcept
+{
+    // The exponent counts from the first digit that is not 0; it decides, since the number is far
+    // away from 1. Digits are counted and not collected, so that no length overflows.
+    const std::size_t exponentMark = number.find_first_of("eE");
+    const std::string_view mantissa = number.substr(0, exponentMark);
+    const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
+    const std::size_t first = mantissa.find_first_of("123456789");
+    if (first == std::string_view::npos)
+    {
+        return true;
+    }
+    long long magnitude = first < point ? static_cast<long long>(point - first)
+                                        : -static_cast<long long>(first - point);
+    if (exponentMark == std::string_view::npos)
+    {
+        return magnitude < 0;
+    }
+    std::string_view digits = number.substr(exponentMark + 1);
+    const bool negative = digits.front() == '-';
+    if (negative || digits.front() == '+')
+    {
+        digits.remove_prefix(1);
+    }
+    constexpr long long far = 1LL << 40; // beyond what the length of any text makes up for
+    long long exponent = 0;
+    for (const char digit : digits)
+    {
+        exponent = std::min(far, exponent * 10 + (digit - '0'));
+    }
+    magnitude += negative ? -exponent : exponent;
+    return magnitude < 0;
+}
+
+[[nodiscard]] variant_t convertDouble(std::wstring_view text)
+{
+    text = trim(text);
+    const bool negative = takeSign(text);
+    std::string narrow;
+    narrow.reserve(text.size());
+    for (const wchar_t character : text)
+    {
+        const bool belongs = (character >= L'0' && character <= L'9') || character == L'.' ||
+                             character == L'e' || character == L'E' || character == L'+' ||
+                             character == L'-';
+        if (!belongs || (narrow.empty() && (character == L'+' || character == L'-')))
+        {
+            return variant_t(); // shuts out a second sign, hexadecimal numbers, "inf" and "nan"
+        }
+        narrow.push_back(static_cast<char>(character));
+    }
+    double number = 0;
+    const char* const end = narrow.data() + narrow.size();
+    const std::from_chars_result read = std::from_chars(narrow.data(), end, number);
+    if (read.ptr != end || (read.ec != std::errc() && read.ec != std::errc::result_out_of_range))
+    {
+        return variant_t();
+    }
+    if (read.ec == std::errc::result_out_of_range)
+    {
+        if (!isTiny(narrow))
+        {
+            return variant_t();
+        }
+        number = 0;
+    }
+    else if (number > std::numeric_limits<double>::max())
+    {
+        return variant_t(); // some libraries answer infinity without an error
+    }
+    return variant_t(negative ? -number : number);
+}
+
+[[nodiscard]] variant_t convertBoolean(std::wstring_view text)
+{
+    if (text == L"1" || text == L"true")
+    {
+        return variant_t(true);
+    }
+    if (text == L"0" || text == L"false")
+    {
+        return variant_t(false);
+    }
+    return variant_t();
+}
+
+} // namespace
+
+variant_t convertValue(std::int32_t valueType, std::wstring_view text)
+{
+    switch (valueType)
+    {
+    case value_type_boolean:
+        return convertBoolean(text);
+    case value_type_integer:
+        return convertDecimal<vexkit2::s32_t>(text);
+    case value_type_unsigned:
+        return convertDecimal<vexkit2::u32_t>(text);
+    case value_type_integer64:
+        return convertDecimal<vexkit2::s64_t>(text);
+    case value_type_unsigned64:
+        return convertUnsigned64(text);
+    case value_type_double:
+        return convertDouble(text);
+    case value_type_string:
+        return variant_t(text.data(), text.size());
+    default:
+        return variant_t();
+    }
+}
+
+} // namespace kexa_3_3

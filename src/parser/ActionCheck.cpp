@@ -1,0 +1,159 @@
+#include "parser/ActionCheck.h"
+
+#include <algorithm>
+#include <optional>
+#include <string_view>
+
+#include "options/OptionDescription.h"
+#include "options/RegisteredOptionStorage.h"
+#include "result/OptionResultTable.h"
+#include "support/Text.h"
+
+namespace kexa_3_3
+{
+
+namespace
+{
+
+// A name under which the result holds an occurrence, and the option that it names.
+struct Given
+{
+    std::wstring_view name;
+    const OptionDescription* option;
+};
+
+struct Overview
+{
+    std::vector<Given> actions;    // by name
+    std::vector<Given> restricted; // options that take a value and have keywords, in any order
+    std::optional<std::wstring_view> firstUnknown; // the first name that the registry does not know
+    bool valueOptionSeen = false;
+};
+
+Overview survey(const OptionResultTable& result, const RegisteredOptionStorage& options)
+{
+    Overview overview;
+    for (std::size_t number = 0; number < result.size(); ++number)
+    {
+        if (result.record(number).result.positions.empty())
+        {
+            continue;
+        }
+        const std::wstring_view name = result.name(number);
+        const OptionDescription* const option = options.find(name);
+        if (option == nullptr)
+        {
+            overview.firstUnknown = std::min(overview.firstUnknown.value_or(name), name);
+        }
+        else if (!option->takesValue())
+        {
+            overview.actions.push_back({name, option});
+        }
+        else
+        {
+            overview.valueOptionSeen = true;
+            if (!option->keywords.empty())
+            {
+                overview.restricted.push_back({name, option});
+            }
+        }
+    }
+    std::sort(overview.actions.begin(), overview.actions.end(),
+              [](const Given& left, const Given& right) { return left.name < right.name; });
+    return overview;
+}
+
+// Whether one group contains all the names.
+bool areCompatible(const std::vector<std::wstring>& names, const ActionGroups& groups)
+{
+    return std::any_of(groups.begin(), groups.end(),
+                       [&names](const std::set<std::wstring>& group)
+                       {
+                           return std::all_of(names.begin(), names.end(),
+                                              [&group](const std::wstring& name)
+                                              { return group.find(name) != group.end(); });
+                       });
+}
+
+// The first action, in the order of names, that may not be combined with those before it.
+const Given* findConflict(const std::vector<Given>& actions, const ActionGroups& groups)
+{
+    std::vector<std::wstring> names;
+    for (const Given& action : actions)
+    {
+        const std::wstring_view name = action.option->primaryName();
+        if (std::find(names.begin(), names.end(), name) != names.end())
+        {
+            continue;
+        }
+        names.emplace_back(name);
+        if (names.size() > 1 && !areCompatible(names, groups))
+        {
+            return &action;
+        }
+    }
+    return nullptr;
+}
+
+// The first option, in the order of names, that the action does not accept.
+const Given* findUnaccepted(const std::vector<Given>& restricted, const OptionDescription& action)
+{
+    const Given* first = nullptr;
+    for (const Given& given : restricted)
+    {
+        if ((first == nullptr || given.name < first->name) && !shareKeyword(*given.option, action))
+        {
+            first = &given;
+        }
+    }
+    return first;
+}
+
+std::wstring conflictMessage(const OptionDescription& action, const OptionDescription& chosen)
+{
+    return concatenate({L"Action '-", action.primaryName(), L"' and action '-",
+                        chosen.primaryName(), L"' were defined, but only one action possible."});
+}
+
+std::wstring unacceptedMessage(const OptionDescription& action, const OptionDescription& option)
+{
+    return concatenate({L"Action '-", action.primaryName(), L"' doesn't accept option '-",
+                        option.primaryName(), L"'"});
+}
+
+} // namespace
+
+result_t checkActions(const OptionResultTable& result, const RegisteredOptionStorage& options,
+                      const ActionGroups& compatible, std::wstring& message)
+{
+    const Overview overview = survey(result, options);
+    const Given* const conflict = findConflict(overview.actions, compatible);
+    if (overview.firstUnknown && (conflict == nullptr || *overview.firstUnknown < conflict->name))
+    {
+        return result_nothing;
+    }
+    if (conflict != nullptr)
+    {
+        message = conflictMessage(*conflict->option, *overview.actions.front().option);
+        return result_invalid_arguments;
+    }
+    if (overview.actions.empty())
+    {
+        if (options.hasActions() && overview.valueOptionSeen)
+        {
+            message = L"No action defined.";
+            return result_invalid_arguments;
+        }
+        return result_success;
+    }
+    const OptionDescription& chosen = *overview.actions.front().option;
+    const Given* const unaccepted = findUnaccepted(overview.restricted, chosen);
+    if (unaccepted != nullptr)
+    {
+        message = unacceptedMessage(chosen, *unaccepted->option);
+        return result_invalid_arguments;
+    }
+    return result_success;
+}
+
+} // namespace kexa_3_3

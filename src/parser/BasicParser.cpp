@@ -1,0 +1,240 @@
+#include "parser/BasicParser.h"
+
+#include <exception>
+#include <new>
+
+#include "help/HelpOutput.h"
+#include "parser/OptionFiles.h"
+#include "result/ParseResult.h"
+#include "support/Text.h"
+
+namespace kexa_3_3
+{
+
+namespace
+{
+
+constexpr std::size_t first_text_block = 8192; // bytes; holds the declarations of a usual program
+
+// The calls of one event still hold when a handler adds or removes handlers, itself too: the next
+// handler to call is found by address each time.
+EventHandler* handlerBehind(const std::set<EventHandler*>& handlers, EventHandler* last)
+{
+    const auto next = last == nullptr ? handlers.begin() : handlers.upper_bound(last);
+    return next == handlers.end() ? nullptr : *next;
+}
+
+} // namespace
+
+result_t createParser(IParser** out, int flags)
+{
+    try
+    {
+        *out = new (std::nothrow) BasicParser(flags);
+        return result_success;
+    }
+    catch (const std::exception&)
+    {
+        return result_standard_exception;
+    }
+}
+
+BasicParser::BasicParser(std::int32_t flags)
+    : m_strings(first_text_block), m_options(m_strings, L','), m_flags(flags)
+{
+    if ((flags & flag_no_value_lists) != 0)
+    {
+        m_options.setDefaultSeparator(0);
+    }
+}
+
+BasicParser::~BasicParser() = default;
+
+void BasicParser::release()
+{
+    delete this;
+}
+
+result_t BasicParser::createParseResult(IParseResult** out)
+{
+    try
+    {
+        *out = new (std::nothrow) ParseResult();
+        return result_success;
+    }
+    catch (const std::exception&)
+    {
+        return result_standard_exception;
+    }
+}
+
+bool BasicParser::onOptionParsed(const wchar_t* name)
+{
+    if (!m_handlers.empty())
+    {
+        const wchar_t* const interned = m_strings.intern(name);
+        for (EventHandler* handler = nullptr;
+             (handler = handlerBehind(m_handlers, handler)) != nullptr;)
+        {
+            static_cast<void>(handler->onOptionParsed(interned));
+        }
+    }
+    return true;
+}
+
+bool BasicParser::onValueParsed(const wchar_t* name, const ValueRecord* value)
+{
+    bool accepted = true;
+    if (!m_handlers.empty())
+    {
+        const wchar_t* const interned = m_strings.intern(name);
+        for (EventHandler* handler = nullptr;
+             accepted && (handler = handlerBehind(m_handlers, handler)) != nullptr;)
+        {
+            accepted = handler->onValueParsed(interned, value);
+        }
+    }
+    return accepted;
+}
+
+bool BasicParser::onUnknownArgument(const wchar_t* argument)
+{
+    bool unknown = true;
+    if (!m_handlers.empty())
+    {
+        const wchar_t* const interned = m_strings.intern(argument);
+        for (EventHandler* handler = nullptr;
+             (handler = handlerBehind(m_handlers, handler)) != nullptr;)
+        {
+            unknown = handler->onUnknownArgument(interned) && unknown;
+        }
+    }
+    return unknown;
+}
+
+bool BasicParser::addEventHandler(EventHandler* handler)
+{
+    return handler != nullptr && m_handlers.insert(handler).second;
+}
+
+bool BasicParser::removeEventHandler(EventHandler* handler)
+{
+    return m_handlers.erase(handler) != 0;
+}
+
+// Declares an option; running out of memory is a failed declaration like any other.
+template <class Declare>
+const Registration& BasicParser::declare(Declare declareOption)
+{
+    try
+    {
+        return declareOption();
+    }
+    catch (const std::exception&)
+    {
+        return m_options.lastRegistration();
+    }
+}
+
+const Registration& BasicParser::addOption(const wchar_t* names, const wchar_t* description,
+                                           std::int32_t valueType, const wchar_t* groupText)
+{
+    return declare(
+        [&]() -> const Registration& {
+            return m_options.registerOption(names, nullptr, description, false, valueType,
+                                            groupText);
+        });
+}
+
+const Registration& BasicParser::addSwitch(const wchar_t* names, const wchar_t* description,
+                                           std::int32_t valueType, const wchar_t* groupText)
+{
+    return declare([&]() -> const Registration&
+                   { return m_options.registerSwitch(names, description, valueType, groupText); });
+}
+
+const Registration& BasicParser::addOptionWithKeywords(const wchar_t* names,
+                                                       const wchar_t* keywords,
+                                                       const wchar_t* description,
+                                                       std::int32_t valueType,
+                                                       const wchar_t* groupText)
+{
+    return declare(
+        [&]() -> const Registration& {
+            return m_options.registerValueOption(names, keywords, description, valueType,
+                                                 groupText);
+        });
+}
+
+bool BasicParser::hasOption(const wchar_t* name, bool switchesOnly, const wchar_t* group)
+{
+    if (name == nullptr)
+    {
+        return false;
+    }
+    const std::wstring_view wanted(name);
+    for (std::size_t index = 0; index < m_options.size(); ++index)
+    {
+        const OptionDescription& option = m_options[index];
+        if (option.takesValue() != switchesOnly && (group == nullptr || option.group == group) &&
+            option.answersTo(wanted))
+        {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool BasicParser::enableOptionFiles(const wchar_t* description, const wchar_t* groupText)
+{
+    m_optionFilesEnabled = true;
+    return addOption(option_file_name, description, value_type_string, groupText).option != nullptr;
+}
+
+void BasicParser::addCompatibleActions(const std::set<std::wstring>& actions)
+{
+    // A copy first: the set may be one of those that are about to move.
+    std::set<std::wstring> group(actions);
+    m_compatibleActions.push_back(std::move(group));
+}
+
+const wchar_t* BasicParser::getErrorMessage()
+{
+    return help([this] { return m_errorMessage; });
+}
+
+// Hands a text out; the empty one where there is no memory for it.
+template <class MakeHelp>
+const wchar_t* BasicParser::help(MakeHelp makeHelp)
+{
+    try
+    {
+        return m_strings.internText(makeHelp()).data();
+    }
+    catch (const std::exception&)
+    {
+        return L"";
+    }
+}
+
+const wchar_t* BasicParser::showTopicHelp(const wchar_t* topic, bool hidden)
+{
+    return help([&] { return formatTopicHelp(m_options, topic, hidden); });
+}
+
+const wchar_t* BasicParser::getTopicList(bool hidden)
+{
+    return help([&] { return formatTopicList(m_options, hidden); });
+}
+
+const wchar_t* BasicParser::showRelatedHelp(const wchar_t* topic, bool hidden)
+{
+    return help([&] { return formatRelatedHelp(m_options, topic, hidden); });
+}
+
+const wchar_t* BasicParser::showFullHelp(bool hidden)
+{
+    return help([&] { return formatFullHelp(m_options, hidden); });
+}
+
+} // namespace kexa_3_3

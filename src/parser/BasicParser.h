@@ -1,0 +1,94 @@
+// The parser that a host holds as IParser.
+#pragma once
+
+#include <cstdint>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "kexa/parser.h"
+
+#include "options/RegisteredOptionStorage.h"
+#include "parser/ActionCheck.h"
+#include "recognition/ArgumentQueue.h"
+#include "support/Garbage.h"
+
+namespace kexa_3_3
+{
+
+class ParseResult;
+
+// See IParser for its operations; the three of its own come behind those in the slot order.
+class BasicParser : public IParser
+{
+public:
+    explicit BasicParser(std::int32_t flags);
+    BasicParser(const BasicParser&) = delete;
+    BasicParser& operator=(const BasicParser&) = delete;
+
+    // Events are forwarded to the registered handlers, by ascending address.
+    bool onOptionParsed(const wchar_t* name) override;
+    bool onValueParsed(const wchar_t* name, const ValueRecord* value) override;
+    bool onUnknownArgument(const wchar_t* argument) override;
+
+    void release() override;
+    result_t createParseResult(IParseResult** out) override;
+    const Registration& addOption(const wchar_t* names, const wchar_t* description,
+                                  std::int32_t valueType, const wchar_t* groupText) override;
+    const Registration& addSwitch(const wchar_t* names, const wchar_t* description,
+                                  std::int32_t valueType, const wchar_t* groupText) override;
+    const Registration& addOptionWithKeywords(const wchar_t* names, const wchar_t* keywords,
+                                              const wchar_t* description, std::int32_t valueType,
+                                              const wchar_t* groupText) override;
+    bool hasOption(const wchar_t* name, bool switchesOnly, const wchar_t* group) override;
+    result_t parse(std::int32_t argc, const wchar_t* const* argv, IParseResult* result) override;
+    result_t parseCommandLine(const wchar_t* commandLine, IParseResult* result) override;
+    const wchar_t* getErrorMessage() override;
+    const wchar_t* showTopicHelp(const wchar_t* topic, bool hidden) override;
+    const wchar_t* getTopicList(bool hidden) override;
+    const wchar_t* showRelatedHelp(const wchar_t* topic, bool hidden) override;
+    const wchar_t* showFullHelp(bool hidden) override;
+    bool addEventHandler(EventHandler* handler) override;
+    bool removeEventHandler(EventHandler* handler) override;
+    bool enableOptionFiles(const wchar_t* description, const wchar_t* groupText) override;
+    void addCompatibleActions(const std::set<std::wstring>& actions) override;
+    ~BasicParser() override;
+
+    // Parses arguments without a program name: the arguments, what is left of them, the option
+    // files, and the action check. Standard exceptions are passed on, any other becomes code 4.
+    virtual result_t parseArguments(Arguments& arguments, IParseResult* result);
+
+    // Parses up to the end marker, which stays in front of the arguments left.
+    virtual result_t parseVector(std::wstring_view endMarker, Arguments& arguments,
+                                 IParseResult* result, std::wstring& message);
+
+    // The action check over what the result holds; the arguments are not looked at.
+    virtual result_t checkActions(const Arguments& arguments, IParseResult* result,
+                                  std::wstring& message);
+
+private:
+    [[nodiscard]] result_t parseAll(Arguments& arguments, IParseResult* result);
+    [[nodiscard]] result_t parseOnce(Arguments& arguments, IParseResult* result,
+                                     ParseResult* leftOver);
+    [[nodiscard]] result_t collectNonparsingArguments(std::wstring_view endMarker,
+                                                      Arguments& arguments, IParseResult* result,
+                                                      ParseResult* leftOver, std::wstring& message);
+    [[nodiscard]] bool takesUnknown(std::wstring_view argument);
+    void storeDefaults(IParseResult& result) const;
+
+    template <class Declare>
+    const Registration& declare(Declare declareOption);
+    template <class MakeHelp>
+    const wchar_t* help(MakeHelp makeHelp);
+
+    Garbage m_strings; // first: the options keep their texts in it
+    RegisteredOptionStorage m_options;
+    std::wstring m_errorMessage;
+    std::int32_t m_flags;
+    std::set<EventHandler*> m_handlers; // not owned
+    bool m_optionFilesEnabled = false;
+    ActionGroups m_compatibleActions;
+};
+
+} // namespace kexa_3_3

@@ -1,0 +1,101 @@
+#include "parser/OptionFiles.h"
+
+#include "parser/ArgumentSplitter.h"
+#include "support/FileLoading.h"
+#include "support/Text.h"
+#include "support/Utf8.h"
+
+namespace kexa_3_3
+{
+
+namespace
+{
+
+std::wstring_view reasonOf(FileProblem problem) noexcept
+{
+    switch (problem)
+    {
+    case FileProblem::not_found:
+        return L"no such file";
+    case FileProblem::no_permission:
+        return L"permission denied";
+    case FileProblem::is_folder:
+        return L"it is a folder";
+    case FileProblem::too_large:
+        return L"it is larger than 1 GiB";
+    default:
+        return L"it cannot be read";
+    }
+}
+
+// The text of a file without a leading byte order mark. The bytes are freed before the text is
+// used.
+FileProblem loadText(const std::wstring& name, std::wstring& text)
+{
+    constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
+    std::string bytes;
+    const FileProblem problem = loadFile(name, bytes);
+    if (problem == FileProblem::none)
+    {
+        std::string_view content(bytes);
+        if (content.substr(0, byte_order_mark.size()) == byte_order_mark)
+        {
+            content.remove_prefix(byte_order_mark.size());
+        }
+        text = wideFromUtf8(content);
+    }
+    return problem;
+}
+
+const OptionResult* resultOf(OptionResultTable& options) noexcept
+{
+    const StoredOption* const stored = options.find(option_file_name);
+    return stored == nullptr ? nullptr : &stored->result;
+}
+
+} // namespace
+
+OptionFiles::OptionFiles(OptionResultTable& options) : m_options(options), m_next(0)
+{
+    const OptionResult* const result = resultOf(options);
+    m_next = result == nullptr ? 0 : result->values.size();
+}
+
+result_t OptionFiles::readAll(const ParseFile& parseFile, std::wstring& message)
+{
+    // The record is looked up each time: a file may bring the first value, or more of them.
+    for (;;)
+    {
+        const OptionResult* const result = resultOf(m_options);
+        if (result == nullptr || m_next >= result->values.size())
+        {
+            return result_success;
+        }
+        const std::wstring name(result->values[m_next++].text);
+        if (!m_read.insert(canonicalPath(name)).second)
+        {
+            continue;
+        }
+        const result_t code = readFile(name, parseFile, message);
+        if (code != result_success)
+        {
+            return code;
+        }
+    }
+}
+
+result_t OptionFiles::readFile(const std::wstring& name, const ParseFile& parseFile,
+                               std::wstring& message)
+{
+    std::wstring text;
+    const FileProblem problem = loadText(name, text);
+    if (problem != FileProblem::none)
+    {
+        message = concatenate({L"Error reading option file '", name, L"': ", reasonOf(problem)});
+        return result_unreadable_option_file;
+    }
+    Arguments arguments = splitArguments(text);
+    return parseFile(arguments);
+}
+
+} // namespace kexa_3_3

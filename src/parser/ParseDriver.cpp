@@ -1,0 +1,271 @@
+// BasicParser's way through the arguments of a parse.
+
+#include <array>
+#include <exception>
+
+#include "options/ValueText.h"
+#include "parser/ArgumentSplitter.h"
+#include "parser/BasicParser.h"
+#include "parser/OptionFiles.h"
+#include "recognition/AbbreviationParser.h"
+#include "recognition/PositionalOptionsParser.h"
+#include "result/ParseResult.h"
+#include "support/Text.h"
+#include "support/Trace.h"
+
+namespace kexa_3_3
+{
+
+namespace
+{
+
+constexpr std::wstring_view end_marker = L"--";
+constexpr std::wstring_view trace_keyword = L"kexaoption=kexalogenable=1";
+
+// A result made by this library, or null: nothing else can be filled.
+ParseResult* fillable(IParseResult* result)
+{
+    return dynamic_cast<ParseResult*>(result);
+}
+
+// The keyword counts as the first argument only, and is never parsed.
+void switchTraceBy(Arguments& arguments)
+{
+    switchTrace(false);
+    if (!arguments.empty() && arguments.front() == trace_keyword)
+    {
+        switchTrace(true);
+        arguments.erase(arguments.begin());
+    }
+}
+
+// The parser with the highest priority among those that claim the front argument, or null.
+template <class Chain>
+IArgumentParser* chooseParser(const Chain& chain, const ArgumentQueue& arguments,
+                              const RegisteredOptionStorage& options, std::wstring& message)
+{
+    IArgumentParser* best = nullptr;
+    std::int32_t bestPriority = -99999999;
+    for (IArgumentParser* const parser : chain)
+    {
+        if (parser->recognize(arguments, options, message) == IArgumentParser::claimed &&
+            parser->priority() > bestPriority)
+        {
+            best = parser;
+            bestPriority = parser->priority();
+        }
+    }
+    return best;
+}
+
+} // namespace
+
+result_t BasicParser::parse(std::int32_t argc, const wchar_t* const* argv, IParseResult* result)
+{
+    try
+    {
+        if (result != nullptr)
+        {
+            storeDefaults(*result);
+        }
+        Arguments arguments;
+        if (argv != nullptr && argc > 1)
+        {
+            arguments.reserve(static_cast<std::size_t>(argc) - 1);
+            for (std::int32_t index = 1; index < argc; ++index)
+            {
+                arguments.push_back(viewOf(argv[index]));
+            }
+        }
+        return parseArguments(arguments, result);
+    }
+    catch (const std::exception&)
+    {
+        return result_standard_exception;
+    }
+}
+
+result_t BasicParser::parseCommandLine(const wchar_t* commandLine, IParseResult* result)
+{
+    try
+    {
+        Arguments arguments = splitArguments(viewOf(commandLine));
+        return parseArguments(arguments, result);
+    }
+    catch (const std::exception&)
+    {
+        return result_standard_exception;
+    }
+}
+
+result_t BasicParser::parseArguments(Arguments& arguments, IParseResult* result)
+{
+    try
+    {
+        return parseAll(arguments, result);
+    }
+    catch (const std::exception&)
+    {
+        throw;
+    }
+    catch (...)
+    {
+        m_errorMessage = L"Unidentified problem detected.";
+        return result_unknown_exception;
+    }
+}
+
+result_t BasicParser::parseAll(Arguments& arguments, IParseResult* result)
+{
+    ParseResult* const filled = fillable(result);
+    if (filled == nullptr || !m_optionFilesEnabled)
+    {
+        const result_t code = parseOnce(arguments, result, filled);
+        return code != result_success ? code : checkActions(arguments, result, m_errorMessage);
+    }
+    OptionFiles files(filled->options());
+    result_t code = parseOnce(arguments, result, filled);
+    if (code == result_success)
+    {
+        code = files.readAll([&](Arguments& fileArguments)
+                             { return parseOnce(fileArguments, result, filled); },
+                             m_errorMessage);
+    }
+    return code != result_success ? code : checkActions(arguments, result, m_errorMessage);
+}
+
+// The arguments of the command line, or of one option file.
+result_t BasicParser::parseOnce(Arguments& arguments, IParseResult* result, ParseResult* leftOver)
+{
+    const result_t code = parseVector(end_marker, arguments, result, m_errorMessage);
+    return code != result_success ? code
+                                  : collectNonparsingArguments(end_marker, arguments, result,
+                                                               leftOver, m_errorMessage);
+}
+
+result_t BasicParser::parseVector(std::wstring_view endMarker, Arguments& arguments,
+                                  IParseResult* result, std::wstring& message)
+{
+    switchTraceBy(arguments);
+    const auto flags = static_cast<std::uint32_t>(m_flags);
+    PositionalOptionsParser positional(*this, m_strings, flags);
+    AbbreviationParser abbreviation(*this, m_strings, flags);
+    const std::array<IArgumentParser*, 2> chain = {&positional, &abbreviation};
+    IResultCollector* const collector = fillable(result);
+
+    ArgumentQueue queue(arguments);
+    while (!queue.empty() && queue.front() != endMarker)
+    {
+        IArgumentParser* const parser = chooseParser(chain, queue, m_options, message);
+        if (parser != nullptr)
+        {
+            std::int64_t optionIndex = -1;
+            const int code = parser->parse(queue, collector, m_options, optionIndex, message);
+            if (code != 0)
+            {
+                return static_cast<result_t>(code);
+            }
+            continue;
+        }
+        const std::wstring_view argument = queue.front();
+        if (takesUnknown(argument))
+        {
+            traceLine(L"ignoring ", argument);
+            queue.removeFront();
+            continue;
+        }
+        message = concatenate({L"Unknown option: ", argument});
+        return result_invalid_arguments;
+    }
+    return result_success;
+}
+
+// Offers an unknown argument to the handlers. Answers whether it may be dropped.
+bool BasicParser::takesUnknown(std::wstring_view argument)
+{
+    const bool isError = (m_flags & flag_unknown_is_error) != 0;
+    // An argument is terminated only where the host's is: the handlers get a text of the pool.
+    const bool unknown =
+        m_handlers.empty() || onUnknownArgument(m_strings.internText(argument).data());
+    return !(isError && unknown);
+}
+
+// Takes the arguments behind the marker: positional ones are parsed, the others kept as left over.
+result_t BasicParser::collectNonparsingArguments(std::wstring_view endMarker, Arguments& arguments,
+                                                 IParseResult* result, ParseResult* leftOver,
+                                                 std::wstring& message)
+{
+    constexpr std::wstring_view prefix = L"collectNonparsingArguments: ";
+    auto flags = static_cast<std::uint32_t>(m_flags);
+    if ((m_flags & flag_any_positional_after_marker) != 0)
+    {
+        flags &= ~static_cast<std::uint32_t>(flag_no_hyphen_positional);
+    }
+    PositionalOptionsParser positional(*this, m_strings, flags);
+    IResultCollector* const collector = fillable(result);
+
+    ArgumentQueue queue(arguments);
+    if (!queue.empty() && queue.front() == endMarker)
+    {
+        queue.removeFront();
+    }
+    while (!queue.empty())
+    {
+        const int recognized = positional.recognize(queue, m_options, message);
+        traceLine(prefix, L"recognize result: ", recognized, L", message: ", message);
+        if (recognized != IArgumentParser::claimed)
+        {
+            const std::wstring_view argument = queue.front();
+            if (leftOver != nullptr)
+            {
+                leftOver->addUnparsed(argument);
+            }
+            traceLine(prefix, L"stored argument: '", argument, L"'");
+            queue.removeFront();
+            continue;
+        }
+        std::int64_t optionIndex = -1;
+        const int code = positional.parse(queue, collector, m_options, optionIndex, message);
+        traceLine(prefix, L"parse result: ", code, L", message: ", message);
+        if (code != 0)
+        {
+            return static_cast<result_t>(code);
+        }
+    }
+    return result_success;
+}
+
+result_t BasicParser::checkActions(const Arguments& /*arguments*/, IParseResult* result,
+                                   std::wstring& message)
+{
+    ParseResult* const filled = fillable(result);
+    return filled == nullptr
+               ? result_success
+               : kexa_3_3::checkActions(filled->options(), m_options, m_compatibleActions, message);
+}
+
+// Hands the result the default of every option that has one.
+void BasicParser::storeDefaults(IParseResult& result) const
+{
+    ParseResult* const filled = fillable(&result);
+    if (filled == nullptr)
+    {
+        return;
+    }
+    for (std::size_t index = 0; index < m_options.size(); ++index)
+    {
+        const OptionDescription& option = m_options[index];
+        if (!option.hasDefault)
+        {
+            continue;
+        }
+        const std::wstring text = valueText(option.defaultValue);
+        OptionResult record;
+        record.defaultText = text;
+        record.defaultValue = option.defaultValue;
+        record.defaultPosition = no_position;
+        static_cast<void>(filled->storeOption(option, record));
+    }
+}
+
+} // namespace kexa_3_3

@@ -1,0 +1,170 @@
+#include "recognition/AbbreviationParser.h"
+
+#include "kexa/event_handler.h"
+#include "kexa/option.h"
+
+#include "options/OptionDescription.h"
+#include "options/RegisteredOptionStorage.h"
+#include "recognition/BestMatch.h"
+#include "support/Text.h"
+#include "support/Trace.h"
+
+namespace kexa_3_3
+{
+
+namespace
+{
+
+constexpr int parsed = 0;
+constexpr int invalid = 2;
+constexpr std::size_t shortest_option = 2; // a hyphen and a character
+
+} // namespace
+
+AbbreviationParser::AbbreviationParser(EventHandler& owner, Garbage& settings, std::uint32_t flags)
+    : IArgumentParser(owner, settings, flags), m_storing(*this)
+{
+    rename(L"AbbreviationParser");
+}
+
+int AbbreviationParser::recognize(const ArgumentQueue& arguments,
+                                  const RegisteredOptionStorage& options, std::wstring& /*message*/)
+{
+    const std::wstring_view argument = arguments.front();
+    m_candidateList.clear();
+    traceLine(name(), L": recognizing argument '", argument, L"'");
+    m_matchedIndex = OptionIndex::none;
+    if (argument.size() < shortest_option || hyphenPrefixLength(argument, 0) == 0)
+    {
+        return declined;
+    }
+    m_split = splitOptionArgument(argument, m_whiteSpace);
+    recognizeName(argument, options);
+    return m_matchedIndex != OptionIndex::none || !m_candidateList.empty() ? claimed : declined;
+}
+
+void AbbreviationParser::recognizeName(std::wstring_view argument,
+                                       const RegisteredOptionStorage& options)
+{
+    const BestMatch match = findBestMatch(options.index(), m_split.name, m_bestName);
+    if (match.count == 1)
+    {
+        traceLine(name(), L": best match option for '", m_split.name, L"' in argument '", argument,
+                  L"' is '", m_bestName, L"'");
+        m_matchedIndex = match.option;
+    }
+    else if (match.count > 1)
+    {
+        // Claimed all the same: parse reports the ambiguity.
+        m_candidateList = listCandidates(options.index(), m_split.name);
+        traceLine(name(), L": failed to get best match for '", m_split.name, L"' in argument '",
+                  argument, L"':", L"Ambiguous option, possible options are: ", m_candidateList);
+    }
+}
+
+int AbbreviationParser::parse(ArgumentQueue& arguments, IResultCollector* collector,
+                              const RegisteredOptionStorage& options, std::int64_t& optionIndex,
+                              std::wstring& error)
+{
+    const std::wstring_view argument = arguments.front();
+    optionIndex = m_matchedIndex;
+    traceLine(name(), L": parsing argument '", argument, L"'");
+    if (m_split.name.empty() || m_split.name.front() == L'-')
+    {
+        error = concatenate({L"Unknown option '", argument, L"'"});
+        return invalid;
+    }
+    if (!m_candidateList.empty())
+    {
+        error = concatenate({L"Ambiguous option '", m_split.name, L"'",
+                             formatArgumentContext(argument), L", could be: ", m_candidateList});
+        return invalid;
+    }
+
+    const OptionDescription& option = options[static_cast<std::size_t>(m_matchedIndex)];
+    traceLine(name(), L": detected option: '", option.primaryName(), L"'");
+    if (m_split.hasValue)
+    {
+        traceLine(name(), L": value from the same argument taken: '", m_split.value, L"'");
+    }
+    Given given = takeValue(arguments, option);
+    if (!given.error.empty())
+    {
+        traceLine(name(), L": ", given.error);
+        error = std::move(given.error);
+        return invalid;
+    }
+
+    static_cast<void>(owner().onOptionParsed(option.primaryName().data()));
+    traceLine(name(), L": sent event on option parsed");
+    const int code = m_storing.store(given.value, error, option, argument, collector);
+    if (code != parsed)
+    {
+        return code;
+    }
+    for (; given.consumed != 0; --given.consumed)
+    {
+        traceLine(name(), L": removing argument: '", arguments.front(), L"'");
+        arguments.removeFront();
+    }
+    return parsed;
+}
+
+AbbreviationParser::Given AbbreviationParser::takeValue(const ArgumentQueue& arguments,
+                                                        const OptionDescription& option) const
+{
+    const std::wstring_view argument = arguments.front();
+    const bool empty = m_split.value.empty();
+    if (option.valueType == value_type_none)
+    {
+        return {{},
+                1,
+                empty
+                    ? std::wstring()
+                    : concatenate({L"Option '", option.primaryName(), L"'does not requires a value",
+                                   formatArgumentContext(argument)})};
+    }
+    if (option.valueType == value_type_boolean)
+    {
+        const bool negated = m_bestName.compare(0, negation.size(), negation) == 0;
+        return {negated ? L"0" : L"1", 1,
+                empty ? std::wstring()
+                      : concatenate({L"Option '", option.primaryName(),
+                                     L"' is boolean and should be declared in form '--option' "
+                                     L"or '--no-option'",
+                                     formatArgumentContext(argument)})};
+    }
+    return empty ? takeNextArgument(arguments, option) : Given{m_split.value, 1, {}};
+}
+
+AbbreviationParser::Given
+AbbreviationParser::takeNextArgument(const ArgumentQueue& arguments,
+                                     const OptionDescription& option) const
+{
+    traceLine(name(), L": no value in the same argument, looking next");
+    if (arguments.size() < 2)
+    {
+        return {{}, 1, valueMissing(option, arguments.front())};
+    }
+    const std::wstring_view value = arguments[1];
+    if (!value.empty() && value.front() == L'-')
+    {
+        return {{},
+                1,
+                concatenate({L"Option '", option.primaryName(),
+                             L"' received value from the next argument: '", value,
+                             L"', but it seems to be an option. Use '-option=value' declaration "
+                             L"form or make sure that value is not missed"})};
+    }
+    traceLine(name(), L": got value from the next argument: '", value, L"'");
+    return {value, 2, value.empty() ? valueMissing(option, arguments.front()) : std::wstring()};
+}
+
+std::wstring AbbreviationParser::valueMissing(const OptionDescription& option,
+                                              std::wstring_view argument) const
+{
+    return concatenate({L"Option '", option.primaryName(), L"' requires a value",
+                        formatArgumentContext(argument)});
+}
+
+} // namespace kexa_3_3

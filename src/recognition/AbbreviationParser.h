@@ -1,0 +1,58 @@
+// Named options, recognised by full name or unambiguous beginning.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "recognition/IArgumentParser.h"
+#include "recognition/OptionArgument.h"
+#include "recognition/ValueStoring.h"
+
+namespace kexa_3_3
+{
+
+class OptionDescription;
+
+class AbbreviationParser final : public IArgumentParser
+{
+public:
+    AbbreviationParser(EventHandler& owner, Garbage& settings, std::uint32_t flags);
+
+    int recognize(const ArgumentQueue& arguments, const RegisteredOptionStorage& options,
+                  std::wstring& message) override;
+    int parse(ArgumentQueue& arguments, IResultCollector* collector,
+              const RegisteredOptionStorage& options, std::int64_t& optionIndex,
+              std::wstring& error) override;
+    [[nodiscard]] std::int32_t priority() const noexcept override { return -10; }
+
+private:
+    // What an option is given: its value, and how many arguments name and value take. Empty
+    // `error`: no failure.
+    struct Given
+    {
+        std::wstring_view value;
+        std::size_t consumed = 1;
+        std::wstring error;
+    };
+
+    void recognizeName(std::wstring_view argument, const RegisteredOptionStorage& options);
+    [[nodiscard]] Given takeValue(const ArgumentQueue& arguments,
+                                  const OptionDescription& option) const;
+    [[nodiscard]] Given takeNextArgument(const ArgumentQueue& arguments,
+                                         const OptionDescription& option) const;
+    [[nodiscard]] std::wstring valueMissing(const OptionDescription& option,
+                                            std::wstring_view argument) const;
+
+    WhiteSpace m_whiteSpace;
+    ValueStoring m_storing;
+
+    // Of the argument recognised last.
+    OptionArgument m_split;
+    std::int64_t m_matchedIndex = -1;
+    std::wstring m_candidateList; // not empty: the name is ambiguous
+    std::wstring m_bestName;      // may begin with "no-"
+};
+
+} // namespace kexa_3_3

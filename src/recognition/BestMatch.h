@@ -1,0 +1,34 @@
+// Which option a typed name stands for.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "options/OptionIndex.h"
+
+namespace kexa_3_3
+{
+
+struct BestMatch
+{
+    // How many candidates match: 0 unknown, 1 found, more: ambiguous. The candidates are the names
+    // of all options and, for boolean ones, "no-" before them.
+    std::size_t count = 0;
+
+    // Where count is 1: the option's index.
+    std::int64_t option = OptionIndex::none;
+};
+
+// A name that equals a candidate stands for it alone, even where it begins others; otherwise the
+// candidates that begin with it match. Case counts.
+//
+// bestName: receives the matching candidate where there is exactly one.
+[[nodiscard]] BestMatch findBestMatch(const OptionIndex& index, std::wstring_view typedName,
+                                      std::wstring& bestName);
+
+// All candidates that begin with the name, in table order, each in quotes, separated by ", ".
+[[nodiscard]] std::wstring listCandidates(const OptionIndex& index, std::wstring_view typedName);
+
+} // namespace kexa_3_3

@@ -1,0 +1,78 @@
+// The strategies that claim and consume arguments.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "kexa/result.h"
+
+#include "recognition/ArgumentQueue.h"
+
+namespace kexa_3_3
+{
+
+class EventHandler;
+class Garbage;
+class IResultCollector;
+class RegisteredOptionStorage;
+
+// Made for one parse run. Whatever an operation is given lives longer than the run.
+class IArgumentParser
+{
+public:
+    static constexpr int claimed = 0;
+    static constexpr int declined = 1;
+
+    virtual ~IArgumentParser() = default;
+
+    // Whether this parser claims the front argument: `claimed` or `declined`. Reports no error:
+    // what is wrong with a claimed argument is said by `parse`.
+    virtual int recognize(const ArgumentQueue& arguments, const RegisteredOptionStorage& options,
+                          std::wstring& message) = 0;
+
+    // Parses the front argument, which the last `recognize` claimed.
+    //
+    // collector:   what to store into; may be null.
+    // optionIndex: receives the index of the option parsed.
+    // error:       receives the message of a failure.
+    //
+    // Answers 0, the arguments used having been removed from the front; 2 with a message, the
+    // failing argument and those behind it being unchanged; or another code from storing the value.
+    virtual int parse(ArgumentQueue& arguments, IResultCollector* collector,
+                      const RegisteredOptionStorage& options, std::int64_t& optionIndex,
+                      std::wstring& error) = 0;
+
+    // What messages about one argument end with.
+    [[nodiscard]] virtual std::wstring formatArgumentContext(std::wstring_view argument) const;
+
+    // Of several parsers that claim an argument the one with the highest priority parses it.
+    [[nodiscard]] virtual std::int32_t priority() const noexcept = 0;
+
+    // What the storing of values needs to know of the parser that runs it.
+    [[nodiscard]] EventHandler& owner() const noexcept { return *m_owner; }
+    [[nodiscard]] std::wstring_view name() const noexcept { return m_name; }
+
+protected:
+    // owner:    receives the events.
+    // settings: the parser's texts.
+    // flags:    the creation flags.
+    IArgumentParser(EventHandler& owner, Garbage& settings, std::uint32_t flags) noexcept
+        : m_owner(&owner), m_settings(&settings), m_flags(flags)
+    {
+    }
+    IArgumentParser(const IArgumentParser&) = delete;
+    IArgumentParser& operator=(const IArgumentParser&) = delete;
+
+    void rename(std::wstring_view name) noexcept { m_name = name; }
+    [[nodiscard]] Garbage& settings() const noexcept { return *m_settings; }
+    [[nodiscard]] bool hasFlag(std::uint32_t flag) const noexcept { return (m_flags & flag) != 0; }
+
+private:
+    EventHandler* m_owner;
+    std::wstring_view m_name = L"UndefinedParser"; // begins every trace line; a literal
+    Garbage* m_settings;
+    std::uint32_t m_flags;
+};
+
+} // namespace kexa_3_3

@@ -1,0 +1,30 @@
+// Arguments that no option names, bound to the positional option.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "recognition/IArgumentParser.h"
+#include "recognition/ValueStoring.h"
+
+namespace kexa_3_3
+{
+
+// Everything goes to the first positional option of the table; further ones never get a value here.
+class PositionalOptionsParser final : public IArgumentParser
+{
+public:
+    PositionalOptionsParser(EventHandler& owner, Garbage& settings, std::uint32_t flags);
+
+    int recognize(const ArgumentQueue& arguments, const RegisteredOptionStorage& options,
+                  std::wstring& message) override;
+    int parse(ArgumentQueue& arguments, IResultCollector* collector,
+              const RegisteredOptionStorage& options, std::int64_t& optionIndex,
+              std::wstring& error) override;
+    [[nodiscard]] std::int32_t priority() const noexcept override { return -100; }
+
+private:
+    ValueStoring m_storing;
+};
+
+} // namespace kexa_3_3

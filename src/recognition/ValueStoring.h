@@ -1,0 +1,52 @@
+// The last step of parsing an argument: its value is cut, converted, offered to the event handlers
+// and stored.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "result/OptionResult.h"
+
+namespace kexa_3_3
+{
+
+class IArgumentParser;
+class IResultCollector;
+class OptionDescription;
+
+// The number that the next converted value will get. One counter for the whole process, unguarded:
+// it orders the values of all parsers by the time of their conversion.
+[[nodiscard]] std::int32_t nextSequenceNumber() noexcept;
+
+// Lets the counter go on from a number, so that its wrap can be reached.
+void setNextSequenceNumber(std::int32_t number) noexcept;
+
+// Stores the occurrences that one argument parser finds.
+class ValueStoring
+{
+public:
+    explicit ValueStoring(const IArgumentParser& parser) noexcept : m_parser(parser) {}
+
+    // value:     what was given for the option; empty for an occurrence without values.
+    // argument:  the argument that is parsed, as messages name it.
+    // collector: what to store into; may be null.
+    // error:     receives the message of a failure.
+    // Answers 0; 2 where the value does not convert or is not allowed; 1 where a handler refused
+    // it. Nothing of the occurrence is stored then.
+    [[nodiscard]] int store(std::wstring_view value, std::wstring& error,
+                            const OptionDescription& option, std::wstring_view argument,
+                            IResultCollector* collector);
+
+private:
+    [[nodiscard]] int addPieces(std::wstring_view value, std::wstring& error,
+                                const OptionDescription& option, std::wstring_view argument);
+    [[nodiscard]] int addValue(std::wstring_view piece, std::wstring_view value,
+                               std::wstring& error, const OptionDescription& option,
+                               std::wstring_view argument);
+
+    const IArgumentParser& m_parser;
+    OptionResult m_occurrence; // of the argument at work; keeps its room for the next
+};
+
+} // namespace kexa_3_3

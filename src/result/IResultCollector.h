@@ -1,0 +1,30 @@
+// The writer's view of a parse result.
+#pragma once
+
+#include "kexa/result.h"
+
+#include "result/OptionResult.h"
+
+namespace kexa_3_3
+{
+
+class OptionDescription;
+
+class IResultCollector
+{
+public:
+    // Stores one occurrence of an option, or its default, under all names of the option. What is
+    // stored before stays; a default is kept as first stored.
+    //
+    // record: its values are moved away and its positions taken; the vectors keep their room. Their
+    //         texts need to live only during the call. It is unchanged where this throws.
+    //
+    // Answers 0. Throws std::out_of_range where the option has no name, and std::bad_alloc; nothing
+    // is stored then.
+    virtual result_t storeOption(const OptionDescription& option, OptionResult& record) = 0;
+
+protected:
+    ~IResultCollector() = default;
+};
+
+} // namespace kexa_3_3

@@ -1,0 +1,201 @@
+#include "result/OptionResultTable.h"
+
+#include <algorithm>
+#include <iterator>
+#include <span>
+#include <utility>
+
+#include "options/OptionDescription.h"
+
+namespace kexa_3_3
+{
+
+namespace
+{
+
+// Room for `count` elements more, growing so that appending stays cheap.
+template <class T>
+void reserveMore(std::vector<T>& elements, std::size_t count)
+{
+    const std::size_t needed = elements.size() + count;
+    if (needed > elements.capacity())
+    {
+        elements.reserve(std::max(needed, 2 * elements.size()));
+    }
+}
+
+void makeRoom(OptionResult& target, const OptionResult& record)
+{
+    reserveMore(target.positions, record.positions.size());
+    reserveMore(target.values, record.values.size());
+}
+
+// Appends into room made before, so without throwing.
+void appendCopies(OptionResult& target, const OptionResult& record) noexcept
+{
+    target.positions.insert(target.positions.end(), record.positions.begin(),
+                            record.positions.end());
+    target.values.insert(target.values.end(), record.values.begin(), record.values.end());
+}
+
+void appendMoved(OptionResult& target, OptionResult& record) noexcept
+{
+    target.positions.insert(target.positions.end(), record.positions.begin(),
+                            record.positions.end());
+    std::move(record.values.begin(), record.values.end(), std::back_inserter(target.values));
+}
+
+bool contains(std::span<const std::wstring_view> names, std::wstring_view name) noexcept
+{
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+} // namespace
+
+void OptionResultTable::store(const OptionDescription& option, OptionResult& record)
+{
+    const Names names(option.names);
+    StoredOption* const known = find(names.front());
+    if (known == nullptr)
+    {
+        storeNew(names, record);
+    }
+    else if (std::equal(names.begin(), names.end(), known->names.begin(), known->names.end()))
+    {
+        makeRoom(known->result, record);
+        keepTexts(record);
+        appendMoved(known->result, record);
+    }
+    else
+    {
+        storeApart(names, record);
+    }
+}
+
+StoredOption* OptionResultTable::find(std::wstring_view name) noexcept
+{
+    const std::uint32_t number = m_names.find(name);
+    return number == TextTable::absent ? nullptr : m_records[m_recordOf[number]].get();
+}
+
+void OptionResultTable::storeNew(Names names, OptionResult& record)
+{
+    std::unique_ptr<StoredOption> stored = makeRecord(names);
+    makeRoom(stored->result, record);
+    keepTexts(record);
+    OptionResult& result = bind(std::move(stored)).result;
+    appendMoved(result, record);
+    result.defaultText = record.defaultText;
+    result.defaultValue = record.defaultValue;
+    result.defaultPosition = record.defaultPosition;
+}
+
+// Stores where the names do not share exactly one record: another declaration stored some of them.
+void OptionResultTable::storeApart(Names names, OptionResult& record)
+{
+    const std::vector<StoredOption*> targets = takeRecords(names);
+    for (StoredOption* const target : targets)
+    {
+        makeRoom(target->result, record);
+    }
+    keepTexts(record);
+    for (StoredOption* const target : targets)
+    {
+        appendCopies(target->result, record);
+    }
+}
+
+std::vector<StoredOption*> OptionResultTable::takeRecords(Names names)
+{
+    std::vector<StoredOption*> targets;
+    for (const std::wstring_view name : names)
+    {
+        StoredOption* target = find(name);
+        if (target == nullptr)
+        {
+            StoredOption& first = *find(names.front());
+            std::unique_ptr<StoredOption> joined = makeRecord(names.subspan(0, 1));
+            joined->result = first.result;
+            std::vector<std::wstring_view> shared = first.names;
+            shared.push_back(m_strings.keep(name));
+            joined->names = std::move(shared);
+            targets.erase(std::remove(targets.begin(), targets.end(), &first), targets.end());
+            target = &bind(std::move(joined));
+        }
+        const auto foreign =
+            std::find_if(target->names.begin(), target->names.end(),
+                         [names](std::wstring_view other) { return !contains(names, other); });
+        if (foreign != target->names.end())
+        {
+            std::vector<std::wstring_view> own;
+            std::copy_if(target->names.begin(), target->names.end(), std::back_inserter(own),
+                         [names](std::wstring_view other) { return contains(names, other); });
+            std::unique_ptr<StoredOption> apart = makeRecord(own);
+            apart->result = target->result;
+            target = &bind(std::move(apart));
+        }
+        if (std::find(targets.begin(), targets.end(), target) == targets.end())
+        {
+            targets.push_back(target);
+        }
+    }
+    return targets;
+}
+
+std::unique_ptr<StoredOption> OptionResultTable::makeRecord(Names names)
+{
+    auto stored = std::make_unique<StoredOption>();
+    stored->names.reserve(names.size());
+    for (const std::wstring_view name : names)
+    {
+        const std::uint32_t number = m_names.find(name);
+        stored->names.push_back(number == TextTable::absent ? m_strings.keep(name)
+                                                            : m_names.text(number));
+    }
+    return stored;
+}
+
+StoredOption& OptionResultTable::bind(std::unique_ptr<StoredOption> stored)
+{
+    // All that may throw comes first.
+    m_names.reserve(stored->names.size());
+    reserveMore(m_recordOf, stored->names.size());
+    reserveMore(m_records, 1);
+
+    const auto record = static_cast<std::uint32_t>(m_records.size());
+    for (const std::wstring_view name : stored->names)
+    {
+        const std::uint32_t number = m_names.insert(name);
+        if (number == m_recordOf.size())
+        {
+            m_recordOf.push_back(record);
+            continue;
+        }
+        std::vector<std::wstring_view>& former = m_records[m_recordOf[number]]->names;
+        former.erase(std::remove(former.begin(), former.end(), name), former.end());
+        m_recordOf[number] = record;
+    }
+    m_records.push_back(std::move(stored));
+    return *m_records.back();
+}
+
+void OptionResultTable::keepTexts(OptionResult& record)
+{
+    const auto keep = [this](std::wstring_view text, const vexkit2::variant_t& value)
+    {
+        // A string value holds its own text, in a block that stays where it is.
+        return value.kind() == vexkit2::kind_wide_text
+                   ? std::wstring_view(value.get<const wchar_t*>(), text.size())
+                   : m_strings.keep(text);
+    };
+    for (ValueEntry& entry : record.values)
+    {
+        entry.text = keep(entry.text, entry.value);
+    }
+    if (!record.defaultText.empty())
+    {
+        record.defaultText = keep(record.defaultText, record.defaultValue);
+    }
+}
+
+} // namespace kexa_3_3

@@ -1,0 +1,76 @@
+// The records of a parse result, found by option name.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "result/OptionResult.h"
+#include "support/Garbage.h"
+#include "support/TextTable.h"
+
+namespace kexa_3_3
+{
+
+class OptionDescription;
+
+// The record that some names share.
+struct StoredOption
+{
+    std::vector<std::wstring_view> names;
+    OptionResult result;
+};
+
+// Behaves as if every name had an entry of its own, in which the entries of one option start as
+// copies and receive the same appends. The names of one option share one record as long as nothing
+// tells them apart; only results filled from different declarations of a name ever do.
+class OptionResultTable
+{
+public:
+    // strings: keeps the texts; lives longer than the table.
+    explicit OptionResultTable(Garbage& strings) : m_strings(strings) {}
+
+    // See IResultCollector::storeOption.
+    void store(const OptionDescription& option, OptionResult& record);
+
+    // The record of a name, or null. It stays where it is as long as the table lives.
+    [[nodiscard]] StoredOption* find(std::wstring_view name) noexcept;
+
+    // The names in the order of their first storing, each with its record.
+    [[nodiscard]] std::size_t size() const noexcept { return m_names.size(); }
+    [[nodiscard]] std::wstring_view name(std::size_t number) const
+    {
+        return m_names.text(static_cast<std::uint32_t>(number));
+    }
+    [[nodiscard]] const StoredOption& record(std::size_t number) const
+    {
+        return *m_records[m_recordOf[number]];
+    }
+
+private:
+    using Names = std::span<const std::wstring_view>;
+
+    void storeNew(Names names, OptionResult& record);
+    void storeApart(Names names, OptionResult& record);
+
+    // The records of the names, each once and cut loose from names that are not among them. Absent
+    // names join the record of the first.
+    [[nodiscard]] std::vector<StoredOption*> takeRecords(Names names);
+
+    // Lets the names in stored->names find it from now on.
+    StoredOption& bind(std::unique_ptr<StoredOption> stored);
+    [[nodiscard]] std::unique_ptr<StoredOption> makeRecord(Names names);
+
+    // Gives the texts of a record the lifetime of the table.
+    void keepTexts(OptionResult& record);
+
+    Garbage& m_strings;
+    TextTable m_names;
+    std::vector<std::uint32_t> m_recordOf; // by the numbers of m_names
+    std::vector<std::unique_ptr<StoredOption>> m_records;
+};
+
+} // namespace kexa_3_3

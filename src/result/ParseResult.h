@@ -1,0 +1,77 @@
+// What a parse found: filled by the argument parsers, queried by the host.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+#include "kexa/parse_result.h"
+
+#include "result/IResultCollector.h"
+#include "result/OptionResultTable.h"
+#include "support/Garbage.h"
+
+namespace kexa_3_3
+{
+
+class ParseResult final : public IParseResult, public IResultCollector
+{
+public:
+    ParseResult();
+    ~ParseResult() override = default;
+    ParseResult(const ParseResult&) = delete;
+    ParseResult& operator=(const ParseResult&) = delete;
+
+    void release() override;
+    std::int32_t isPresent(const wchar_t* name, std::int32_t from, std::int32_t to) override;
+    result_t getFirstValue(Value* out, const wchar_t* name, std::int32_t from,
+                           std::int32_t to) override;
+    result_t getNextValue(Value* out, const wchar_t* name) override;
+    std::int32_t getNextPosition() override;
+    result_t getFirstUnparsed(const wchar_t** out) override;
+    result_t getNextUnparsed(const wchar_t** out) override;
+
+    result_t storeOption(const OptionDescription& option, OptionResult& record) override;
+
+    // Adds a left-over argument.
+    void addUnparsed(std::wstring_view argument);
+
+    // What is stored, for the later steps of a parse.
+    [[nodiscard]] OptionResultTable& options() noexcept { return m_options; }
+
+private:
+    // One value as a query gives it; the text is terminated by a zero.
+    struct Found
+    {
+        const wchar_t* text = nullptr;
+        const vexkit2::variant_t* value = nullptr;
+        std::int32_t position = no_position;
+    };
+
+    struct Unparsed
+    {
+        std::wstring_view text;
+        std::int32_t index; // among the left-over arguments
+    };
+
+    [[nodiscard]] bool walksOccurrences() const noexcept;
+    [[nodiscard]] bool beginQuery(const wchar_t* name, std::int32_t from, std::int32_t to) noexcept;
+    [[nodiscard]] bool nextValue(Found& found) noexcept;
+    [[nodiscard]] Found defaultOf(const OptionResult& option) const noexcept;
+    [[nodiscard]] static result_t answer(Value* out, bool found, const Found& what) noexcept;
+
+    Garbage m_strings; // keeps every text handed out, so it is destroyed after what refers to it
+    OptionResultTable m_options;
+
+    std::size_t m_valueCursor = 0;
+    std::size_t m_positionCursor = 0;
+    std::int32_t m_rangeFrom = 0;
+    std::int32_t m_rangeTo = no_position;
+    const OptionResult* m_currentOption = nullptr;
+
+    std::vector<Unparsed> m_unparsed;
+    std::size_t m_unparsedCursor = 0;
+};
+
+} // namespace kexa_3_3

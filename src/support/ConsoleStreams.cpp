@@ -1,0 +1,106 @@
+#include "support/ConsoleStreams.h"
+
+#include <locale>
+#include <streambuf>
+#include <string>
+
+#include "support/Text.h"
+
+namespace kexa_3_3
+{
+
+namespace
+{
+
+using internal::ConsoleTarget;
+using internal::writeConsole;
+
+// Hands every insertion to the console at once. Only the first half of a surrogate pair waits, for
+// the second.
+class ConsoleBuffer final : public std::wstreambuf
+{
+public:
+    explicit ConsoleBuffer(ConsoleTarget target) : m_target(target) {}
+    ConsoleBuffer(const ConsoleBuffer&) = delete;
+    ConsoleBuffer& operator=(const ConsoleBuffer&) = delete;
+    ~ConsoleBuffer() override
+    {
+        if (m_pending != 0)
+        {
+            static_cast<void>(writeConsole(m_target, {&m_pending, 1}));
+        }
+    }
+
+protected:
+    std::streamsize xsputn(const wchar_t* text, std::streamsize length) override
+    {
+        return write({text, static_cast<std::size_t>(length)}) ? length : 0;
+    }
+
+    int_type overflow(int_type character) override
+    {
+        if (traits_type::eq_int_type(character, traits_type::eof()))
+        {
+            return traits_type::not_eof(character);
+        }
+        const wchar_t unit = traits_type::to_char_type(character);
+        return write({&unit, 1}) ? character : traits_type::eof();
+    }
+
+private:
+    bool write(std::wstring_view text)
+    {
+        if (text.empty())
+        {
+            return true;
+        }
+        if (!wide_is_utf16)
+        {
+            return writeConsole(m_target, text);
+        }
+        std::wstring whole;
+        if (m_pending != 0)
+        {
+            whole.assign(1, m_pending).append(text);
+            m_pending = 0;
+            text = whole;
+        }
+        if (isHighSurrogate(text.back()))
+        {
+            m_pending = text.back();
+            text.remove_suffix(1);
+        }
+        return text.empty() || writeConsole(m_target, text);
+    }
+
+    ConsoleTarget m_target;
+    wchar_t m_pending = 0;
+};
+
+struct ConsoleStream
+{
+    explicit ConsoleStream(ConsoleTarget target) : buffer(target), stream(&buffer)
+    {
+        // A host's global locale must not put thousands separators into numbers.
+        stream.imbue(std::locale::classic());
+    }
+
+    ConsoleBuffer buffer;
+    std::wostream stream;
+};
+
+} // namespace
+
+std::wostream& ucout()
+{
+    static ConsoleStream console(ConsoleTarget::output);
+    return console.stream;
+}
+
+std::wostream& ucerr()
+{
+    static ConsoleStream console(ConsoleTarget::error);
+    return console.stream;
+}
+
+} // namespace kexa_3_3

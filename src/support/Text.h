@@ -1,0 +1,72 @@
+// Small operations on wide texts.
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+namespace kexa_3_3
+{
+
+// A C string as a view; null counts as empty.
+[[nodiscard]] inline std::wstring_view viewOf(const wchar_t* text)
+{
+    return text == nullptr ? std::wstring_view() : std::wstring_view(text);
+}
+
+// The pieces one after the other.
+[[nodiscard]] inline std::wstring concatenate(std::initializer_list<std::wstring_view> pieces)
+{
+    std::size_t length = 0;
+    for (const std::wstring_view piece : pieces)
+    {
+        length += piece.size();
+    }
+    std::wstring text;
+    text.reserve(length);
+    for (const std::wstring_view piece : pieces)
+    {
+        text.append(piece);
+    }
+    return text;
+}
+
+// Calls `use` with every maximal run of characters other than the separator; empty pieces are never
+// produced.
+template <class Use>
+void forEachPiece(std::wstring_view text, wchar_t separator, Use use)
+{
+    std::size_t position = 0;
+    while (position < text.size())
+    {
+        const std::size_t found = text.find(separator, position);
+        const std::size_t end = found == std::wstring_view::npos ? text.size() : found;
+        if (end > position)
+        {
+            use(text.substr(position, end - position));
+        }
+        position = end + 1;
+    }
+}
+
+// White space of the classic locale. The same six characters everywhere, since the C runtimes
+// disagree on which wide characters beyond them are blank.
+[[nodiscard]] constexpr bool isClassicSpace(wchar_t character) noexcept
+{
+    return character == L' ' || (character >= L'\t' && character <= L'\r');
+}
+
+// UTF-16 surrogates; where a wide character has 32 bits they stand for no character at all.
+[[nodiscard]] constexpr bool isHighSurrogate(wchar_t character) noexcept
+{
+    return character >= 0xD800 && character <= 0xDBFF;
+}
+[[nodiscard]] constexpr bool isLowSurrogate(wchar_t character) noexcept
+{
+    return character >= 0xDC00 && character <= 0xDFFF;
+}
+
+// Whether text is stored as UTF-16, so that one character may take two units.
+inline constexpr bool wide_is_utf16 = sizeof(wchar_t) == 2;
+
+} // namespace kexa_3_3

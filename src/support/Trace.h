@@ -1,0 +1,48 @@
+// The diagnostic trace of parsing decisions.
+#pragma once
+
+#include <ostream>
+#include <streambuf>
+
+namespace kexa_3_3
+{
+
+namespace internal
+{
+
+// Discards what is written to it: without storage, every write fails.
+class basic_nullbuf final : public std::wstreambuf
+{
+public:
+    basic_nullbuf() = default;
+    basic_nullbuf(const basic_nullbuf&) = delete;
+    basic_nullbuf& operator=(const basic_nullbuf&) = delete;
+    ~basic_nullbuf() override = default;
+};
+
+// The trace switch. One for the whole process and unguarded: parsers in several threads interfere
+// in what they trace, and in nothing else.
+extern bool trace_switch;
+
+} // namespace internal
+
+// Standard output while the trace switch is on, else a stream that discards everything.
+std::wostream& traceStream();
+
+inline void switchTrace(bool on) noexcept
+{
+    internal::trace_switch = on;
+}
+
+// Writes one line made of the pieces (wide texts and integers). While the trace is off it costs a
+// look at the switch: the pieces are not even formatted.
+template <class... Pieces>
+void traceLine(const Pieces&... pieces)
+{
+    if (internal::trace_switch)
+    {
+        (traceStream() << ... << pieces) << std::endl;
+    }
+}
+
+} // namespace kexa_3_3
