@@ -102,14 +102,18 @@ std::string withoutExponent(const std::string& digits, int exponent)
 {
     if (exponent < 0)
     {
-        return "0." + std::string(static_cast<std::size_t>(-exponent - 1), '0') + digits;
+        std::string text = "0.";
+        text.append(static_cast<std::size_t>(-exponent - 1), '0');
+        return text.append(digits);
     }
     const std::size_t whole = static_cast<std::size_t>(exponent) + 1;
     if (digits.size() <= whole)
     {
         return digits + std::string(whole - digits.size(), '0');
     }
-    return digits.substr(0, whole) + "." + digits.substr(whole);
+    std::string text = digits.substr(0, whole);
+    text += '.';
+    return text.append(digits.substr(whole));
 }
 
 std::string withExponent(const std::string& digits, int exponent)
@@ -117,11 +121,16 @@ std::string withExponent(const std::string& digits, int exponent)
     std::string text = digits.substr(0, 1);
     if (digits.size() > 1)
     {
-        text += "." + digits.substr(1);
+        text += '.';
+        text += digits.substr(1);
     }
-    const std::string magnitude = std::to_string(std::abs(exponent));
     text += exponent < 0 ? "e-" : "e+";
-    return text + (magnitude.size() < 2 ? "0" : "") + magnitude;
+    if (std::abs(exponent) < 10)
+    {
+        text += '0';
+    }
+    text += std::to_string(std::abs(exponent));
+    return text;
 }
 
 // Tries one digit more until the text reads back to the number.
@@ -151,7 +160,7 @@ std::string textOfDouble(double number)
         const bool decimal = exponent >= -5 && exponent < 16;
         const std::string text =
             decimal ? withoutExponent(digits, exponent) : withExponent(digits, exponent);
-        return number < 0 ? "-" + text : text;
+        return (number < 0 ? std::string("-") : std::string()).append(text);
     }
     return "";
 }

@@ -5,15 +5,21 @@ namespace naive
 
 void Result::store(const Option& option, const Record& record)
 {
-    const bool stored = m_records.count(option.primaryName()) != 0;
-    for (const std::wstring& name : option.names)
+    const auto found = m_records.find(option.primaryName());
+    if (found == m_records.end())
     {
-        if (!stored)
+        for (const std::wstring& name : option.names)
         {
             m_records[name] = record;
-            continue;
         }
-        Record& entry = m_records[name];
+        return;
+    }
+    // An entry under the primary name alone came from another option, one with that name among its
+    // own; the further names start where the primary name stands.
+    const Record before = found->second;
+    for (const std::wstring& name : option.names)
+    {
+        Record& entry = m_records.emplace(name, before).first->second;
         for (const std::int32_t position : record.positions)
         {
             entry.positions.push_back(position);

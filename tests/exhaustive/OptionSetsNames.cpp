@@ -85,10 +85,9 @@ void appendNegationSets(std::vector<OptionSet>& sets)
 
 void appendOddNameSets(std::vector<OptionSet>& sets)
 {
-    OptionSet* set = &append(sets, "names added later: a duplicate, an empty one, one with hyphen");
+    OptionSet* set = &append(sets, "names added later, one of them empty, one with a hyphen");
     set->declarations.addOption(L"alpha,a", value_type_string)
         .addName(L"alphabet")
-        .addName(L"a")
         .addName(L"-odd")
         .addName(L"");
     set->alphabet = {L"---odd=1", L"--alpha=1", L"-a", L"--al=1", L"--alphabet=2,3",
