@@ -110,10 +110,15 @@ void ConsoleCapture::restore()
     }
 }
 
+std::string ConsoleCapture::soFar() const
+{
+    return readFile(m_folder.path() / file_name);
+}
+
 std::string ConsoleCapture::finish()
 {
     restore();
-    return readFile(m_folder.path() / file_name);
+    return soFar();
 }
 
 std::string capture(ConsoleCapture::Stream stream, const std::function<void()>& action)

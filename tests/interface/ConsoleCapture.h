@@ -25,6 +25,9 @@ public:
     ConsoleCapture& operator=(const ConsoleCapture&) = delete;
     ~ConsoleCapture();
 
+    // The bytes that have arrived by now, nothing being flushed.
+    std::string soFar() const;
+
     // Ends the capture and answers the bytes. Line ends are as they were written. Once only.
     std::string finish();
 
