@@ -148,6 +148,10 @@ std::unique_ptr<StoredOption> OptionResultTable::makeRecord(Names names)
     stored->names.reserve(names.size());
     for (const std::wstring_view name : names)
     {
+        if (contains(stored->names, name))
+        {
+            continue; // an option may list a name twice; it is one entry all the same
+        }
         const std::uint32_t number = m_names.find(name);
         stored->names.push_back(number == TextTable::absent ? m_strings.keep(name)
                                                             : m_names.text(number));
