@@ -1,5 +1,7 @@
 #include "NaiveResult.h"
 
+#include <set>
+
 namespace naive
 {
 
@@ -17,7 +19,9 @@ void Result::store(const Option& option, const Record& record)
     // An entry under the primary name alone came from another option, one with that name among its
     // own; the further names start where the primary name stands.
     const Record before = found->second;
-    for (const std::wstring& name : option.names)
+    // A name that the option lists twice is one entry all the same, and grows once.
+    const std::set<std::wstring> names(option.names.begin(), option.names.end());
+    for (const std::wstring& name : names)
     {
         Record& entry = m_records.emplace(name, before).first->second;
         for (const std::int32_t position : record.positions)

@@ -100,6 +100,12 @@ void appendOddNameSets(std::vector<OptionSet>& sets)
     set->alphabet = {L"--gamma=1", L"--beta=2", L"--be=3", L"--ga=4",
                      L"--delta",   L"--d",      L"x",      L"--gamma"};
 
+    set = &append(sets, "a name that an option has twice");
+    set->declarations.addOption(L"alpha,a", value_type_string).addName(L"a");
+    set->declarations.addOption(L"beta,beta", value_type_boolean);
+    set->alphabet = {L"--alpha=1", L"-a=2", L"--a=3",  L"--al=4,5",
+                     L"--beta",    L"--be", L"--no-b", L"x"};
+
     set = &append(sets, "declarations that fail", flag_unknown_is_error);
     set->declarations.addOption(L"one,,two", value_type_string);
     set->declarations.addOption(L"a,b,cde", value_type_string);
