@@ -1,8 +1,10 @@
 #include "options/OptionIndex.h"
 
 #include <algorithm>
+#include <iterator>
 #include <tuple>
 
+#include "support/Growth.h"
 #include "support/Text.h"
 
 namespace kexa_3_3
@@ -10,6 +12,8 @@ namespace kexa_3_3
 
 namespace
 {
+
+constexpr std::size_t expected_names = 32; // room taken at once, for programs of usual size
 
 // The smaller index of the two, where `none` counts as larger than any.
 std::int64_t firstOf(std::int64_t left, std::int64_t right) noexcept
@@ -21,44 +25,32 @@ std::int64_t firstOf(std::int64_t left, std::int64_t right) noexcept
     return std::min(left, right);
 }
 
-template <class T>
-void reserveMore(std::vector<T>& elements, std::size_t count)
-{
-    const std::size_t needed = elements.size() + count;
-    if (needed > elements.capacity())
-    {
-        constexpr std::size_t smallest = 16;
-        elements.reserve(std::max({needed, 2 * elements.size(), smallest}));
-    }
-}
-
 } // namespace
 
 void OptionIndex::reserve(std::size_t count)
 {
     m_texts.reserve(count);
-    reserveMore(m_owners, count);
-    reserveMore(m_all.names, count);
-    reserveMore(m_booleans.names, count);
+    reserveMore(m_owners, count, expected_names);
+    reserveMore(m_names, count, expected_names);
 }
 
 void OptionIndex::add(std::wstring_view name, std::size_t option, std::size_t position,
-                      bool boolean)
+                      bool boolean) noexcept
 {
-    reserve(1);
     const std::uint32_t number = m_texts.insert(name);
-    m_owners.resize(m_texts.size());
+    if (number == m_owners.size())
+    {
+        m_owners.emplace_back();
+    }
     Owners& owners = m_owners[number];
     const auto index = static_cast<std::int64_t>(option);
-    const Name entry = {name, static_cast<std::uint32_t>(option),
-                        static_cast<std::uint32_t>(position)};
     owners.first = firstOf(owners.first, index);
-    m_all.names.push_back(entry);
     if (boolean)
     {
         owners.firstBoolean = firstOf(owners.firstBoolean, index);
-        m_booleans.names.push_back(entry);
     }
+    m_names.push_back({name, static_cast<std::uint32_t>(option),
+                       static_cast<std::uint32_t>(position & 0x7FFFFFFF), boolean ? 1U : 0U});
 }
 
 std::int64_t OptionIndex::findNamed(std::wstring_view name) const noexcept
@@ -81,30 +73,34 @@ std::int64_t OptionIndex::findAnswering(std::wstring_view text) const noexcept
     return found;
 }
 
-void OptionIndex::SortedNames::sort()
+void OptionIndex::sortNames() const
 {
-    if (sorted == names.size())
+    if (m_sorted.size() == m_names.size())
     {
         return;
     }
+    // New lists first: where memory runs out, the next search tries again.
     const auto before = [](const Name& left, const Name& right)
     {
         return left.text < right.text;
     };
-    const auto middle = names.begin() + static_cast<std::ptrdiff_t>(sorted);
-    std::sort(middle, names.end(), before);
-    if (sorted != 0)
-    {
-        std::inplace_merge(names.begin(), middle, names.end(), before);
-    }
-    sorted = names.size();
+    const auto known = static_cast<std::ptrdiff_t>(m_sorted.size());
+    std::vector<Name> sorted(m_sorted);
+    sorted.insert(sorted.end(), m_names.begin() + known, m_names.end());
+    std::sort(sorted.begin() + known, sorted.end(), before);
+    std::inplace_merge(sorted.begin(), sorted.begin() + known, sorted.end(), before);
+    std::vector<Name> booleans;
+    std::copy_if(sorted.begin(), sorted.end(), std::back_inserter(booleans),
+                 [](const Name& name) { return name.boolean != 0; });
+    m_sorted = std::move(sorted);
+    m_sortedBooleans = std::move(booleans);
 }
 
-OptionIndex::Range OptionIndex::rangeOf(SortedNames& names, std::wstring_view beginning)
+OptionIndex::Range OptionIndex::rangeOf(const std::vector<Name>& sorted,
+                                        std::wstring_view beginning)
 {
-    names.sort();
-    const Name* const begin = names.names.data();
-    const Name* const end = begin + names.names.size();
+    const Name* const begin = sorted.data();
+    const Name* const end = begin + sorted.size();
     const Name* const first =
         std::lower_bound(begin, end, beginning,
                          [](const Name& name, std::wstring_view text) { return name.text < text; });
@@ -115,21 +111,23 @@ OptionIndex::Range OptionIndex::rangeOf(SortedNames& names, std::wstring_view be
     return {first, last};
 }
 
-OptionIndex::Range OptionIndex::negatedRangeOf(std::wstring_view beginning) const
+OptionIndex::Range OptionIndex::plainRange(std::wstring_view beginning) const
 {
-    if (beginning.size() <= negation.size())
-    {
-        const bool all = negation.substr(0, beginning.size()) == beginning;
-        return all ? rangeOf(m_booleans, {}) : Range();
-    }
-    const bool negated = beginning.substr(0, negation.size()) == negation;
-    return negated ? rangeOf(m_booleans, beginning.substr(negation.size())) : Range();
+    return rangeOf(m_sorted, beginning);
+}
+
+OptionIndex::Range OptionIndex::negatedRange(std::wstring_view beginning) const
+{
+    const std::size_t shared = std::min(beginning.size(), negation.size());
+    const bool negated = beginning.substr(0, shared) == negation.substr(0, shared);
+    return negated ? rangeOf(m_sortedBooleans, beginning.substr(shared)) : Range();
 }
 
 OptionIndex::PrefixMatches OptionIndex::matchPrefix(std::wstring_view beginning) const
 {
-    const Range plain = rangeOf(m_all, beginning);
-    const Range negated = negatedRangeOf(beginning);
+    sortNames();
+    const Range plain = plainRange(beginning);
+    const Range negated = negatedRange(beginning);
     PrefixMatches matches;
     matches.count = plain.size() + negated.size();
     if (matches.count == 1)
@@ -153,8 +151,9 @@ std::vector<std::wstring> OptionIndex::listPrefix(std::wstring_view beginning) c
             matches.emplace_back(name->option, name->position, negated, name->text);
         }
     };
-    collect(rangeOf(m_all, beginning), false);
-    collect(negatedRangeOf(beginning), true);
+    sortNames();
+    collect(plainRange(beginning), false);
+    collect(negatedRange(beginning), true);
     std::sort(matches.begin(), matches.end());
 
     std::vector<std::wstring> texts;

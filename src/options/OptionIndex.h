@@ -38,12 +38,13 @@ public:
         bool negated = false;
     };
 
-    // Makes room for `count` names more, so that adding them does not throw.
+    // Makes room for `count` names more, which adding them needs. Throws std::bad_alloc.
     void reserve(std::size_t count);
 
     // Adds a name. name: kept alive and unchanged by the caller. option: its index. position: the
     // name's place among those of the option.
-    void add(std::wstring_view name, std::size_t option, std::size_t position, bool boolean);
+    void add(std::wstring_view name, std::size_t option, std::size_t position,
+             bool boolean) noexcept;
 
     // The first option, in table order, with exactly this name.
     [[nodiscard]] std::int64_t findNamed(std::wstring_view name) const noexcept;
@@ -68,7 +69,8 @@ private:
     {
         std::wstring_view text;
         std::uint32_t option;
-        std::uint32_t position;
+        std::uint32_t position : 31;
+        std::uint32_t boolean : 1;
     };
 
     // Options that have one text as a name.
@@ -78,31 +80,28 @@ private:
         std::int64_t firstBoolean = none;
     };
 
-    // Names sorted by text. Those behind `sorted` were added since the last search.
-    struct SortedNames
-    {
-        std::vector<Name> names;
-        std::size_t sorted = 0;
-
-        void sort();
-    };
-
-    // Names that begin with the text, as a range.
+    // Names that begin with a text, as a range of a sorted list.
     struct Range
     {
         const Name* begin = nullptr;
         const Name* end = nullptr;
         [[nodiscard]] std::size_t size() const { return static_cast<std::size_t>(end - begin); }
     };
-    [[nodiscard]] static Range rangeOf(SortedNames& names, std::wstring_view beginning);
+    [[nodiscard]] static Range rangeOf(const std::vector<Name>& sorted,
+                                       std::wstring_view beginning);
 
-    // The boolean names whose negation begins with the text.
-    [[nodiscard]] Range negatedRangeOf(std::wstring_view beginning) const;
+    // The names that begin with the text, and the boolean ones whose negation does.
+    [[nodiscard]] Range plainRange(std::wstring_view beginning) const;
+    [[nodiscard]] Range negatedRange(std::wstring_view beginning) const;
+
+    // Sorts in the names added since the last search.
+    void sortNames() const;
 
     TextTable m_texts;
-    std::vector<Owners> m_owners; // by the numbers of m_texts
-    mutable SortedNames m_all;
-    mutable SortedNames m_booleans;
+    std::vector<Owners> m_owners;               // by the numbers of m_texts
+    std::vector<Name> m_names;                  // as they were added
+    mutable std::vector<Name> m_sorted;         // the first of them, by text
+    mutable std::vector<Name> m_sortedBooleans; // those of m_sorted that belong to boolean options
     std::int64_t m_firstPositional = none;
 };
 

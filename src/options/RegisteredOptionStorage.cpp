@@ -6,6 +6,7 @@
 
 #include "support/ConsoleStreams.h"
 #include "support/Garbage.h"
+#include "support/Growth.h"
 #include "support/Text.h"
 
 namespace kexa_3_3
@@ -18,7 +19,7 @@ constexpr std::int32_t registered = 3;
 constexpr std::int32_t refused = 1;
 constexpr std::size_t most_names = 3;
 constexpr std::size_t longest_short_form = 2;
-constexpr std::size_t expected_options = 16; // room taken at once, for programs of usual size
+constexpr std::size_t expected_options = 32; // room taken at once, for programs of usual size
 
 } // namespace
 
@@ -59,10 +60,7 @@ const Registration& RegisteredOptionStorage::registerOption(const wchar_t* names
     }
     option->setSeparator(m_defaultSeparator);
 
-    if (m_options.size() == m_options.capacity())
-    {
-        m_options.reserve(std::max(expected_options, 2 * m_options.size()));
-    }
+    reserveMore(m_options, 1, expected_options);
     option->enterInto(m_index, m_options.size());
     m_lastRegistration = {option.get(), registered};
     m_options.push_back(std::move(option));
@@ -98,6 +96,10 @@ const RegisteredOptionStorage::Group& RegisteredOptionStorage::groupOf(std::wstr
 {
     const std::size_t colon = std::min(groupText.find(L':'), groupText.size());
     const std::wstring_view name = groupText.substr(0, colon);
+    if (!m_groups.empty() && m_groups.back().first == name)
+    {
+        return m_groups.back(); // declarations of a group usually stand together
+    }
     std::uint32_t number = m_groupNames.find(name);
     if (number == TextTable::absent)
     {

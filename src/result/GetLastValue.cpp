@@ -1,4 +1,5 @@
 #include <exception>
+#include <utility>
 
 #include "kexa/parse_result.h"
 #include "kexa/value.h"
@@ -31,7 +32,7 @@ Value getLastValue(IParseResult* result, const wchar_t* name, int from, int to)
         last.status = code;
         while (code == result_success)
         {
-            last = next;
+            last = std::move(next);
             last.status = result_success;
             code = result->getNextValue(&next, name);
         }

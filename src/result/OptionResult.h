@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory_resource>
 #include <string_view>
 #include <vector>
 
@@ -22,9 +23,16 @@ struct ValueEntry
 // The occurrences of an option, and what to report when it never occurred.
 struct OptionResult
 {
-    std::vector<std::int32_t> positions; // in the order stored
-    std::vector<ValueEntry> values;      // in the order stored
-    std::wstring_view defaultText;       // empty: no default
+    OptionResult() = default;
+
+    // memory: where positions and values are kept.
+    explicit OptionResult(std::pmr::memory_resource& memory) : positions(&memory), values(&memory)
+    {
+    }
+
+    std::pmr::vector<std::int32_t> positions; // in the order stored
+    std::pmr::vector<ValueEntry> values;      // in the order stored
+    std::wstring_view defaultText;            // empty: no default
     vexkit2::variant_t defaultValue;
     std::uint32_t defaultPosition = 0;
 };

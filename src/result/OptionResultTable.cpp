@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <iterator>
+#include <new>
 #include <span>
 #include <utility>
 
 #include "options/OptionDescription.h"
+#include "support/Growth.h"
 
 namespace kexa_3_3
 {
@@ -13,16 +15,7 @@ namespace kexa_3_3
 namespace
 {
 
-// Room for `count` elements more, growing so that appending stays cheap.
-template <class T>
-void reserveMore(std::vector<T>& elements, std::size_t count)
-{
-    const std::size_t needed = elements.size() + count;
-    if (needed > elements.capacity())
-    {
-        elements.reserve(std::max(needed, 2 * elements.size()));
-    }
-}
+constexpr std::size_t expected_names = 16; // room taken at once, for command lines of usual size
 
 void makeRoom(OptionResult& target, const OptionResult& record)
 {
@@ -80,7 +73,7 @@ StoredOption* OptionResultTable::find(std::wstring_view name) noexcept
 
 void OptionResultTable::storeNew(Names names, OptionResult& record)
 {
-    std::unique_ptr<StoredOption> stored = makeRecord(names);
+    RecordPointer stored = makeRecord(names);
     makeRoom(stored->result, record);
     keepTexts(record);
     OptionResult& result = bind(std::move(stored)).result;
@@ -114,11 +107,10 @@ std::vector<StoredOption*> OptionResultTable::takeRecords(Names names)
         if (target == nullptr)
         {
             StoredOption& first = *find(names.front());
-            std::unique_ptr<StoredOption> joined = makeRecord(names.subspan(0, 1));
+            RecordPointer joined = makeRecord(names.subspan(0, 1));
             joined->result = first.result;
-            std::vector<std::wstring_view> shared = first.names;
-            shared.push_back(m_strings.keep(name));
-            joined->names = std::move(shared);
+            joined->names = first.names;
+            joined->names.push_back(m_strings.keep(name));
             targets.erase(std::remove(targets.begin(), targets.end(), &first), targets.end());
             target = &bind(std::move(joined));
         }
@@ -130,7 +122,7 @@ std::vector<StoredOption*> OptionResultTable::takeRecords(Names names)
             std::vector<std::wstring_view> own;
             std::copy_if(target->names.begin(), target->names.end(), std::back_inserter(own),
                          [names](std::wstring_view other) { return contains(names, other); });
-            std::unique_ptr<StoredOption> apart = makeRecord(own);
+            RecordPointer apart = makeRecord(own);
             apart->result = target->result;
             target = &bind(std::move(apart));
         }
@@ -142,9 +134,10 @@ std::vector<StoredOption*> OptionResultTable::takeRecords(Names names)
     return targets;
 }
 
-std::unique_ptr<StoredOption> OptionResultTable::makeRecord(Names names)
+OptionResultTable::RecordPointer OptionResultTable::makeRecord(Names names)
 {
-    auto stored = std::make_unique<StoredOption>();
+    void* const memory = m_strings.memory().allocate(sizeof(StoredOption), alignof(StoredOption));
+    RecordPointer stored(new (memory) StoredOption(m_memory));
     stored->names.reserve(names.size());
     for (const std::wstring_view name : names)
     {
@@ -159,12 +152,12 @@ std::unique_ptr<StoredOption> OptionResultTable::makeRecord(Names names)
     return stored;
 }
 
-StoredOption& OptionResultTable::bind(std::unique_ptr<StoredOption> stored)
+StoredOption& OptionResultTable::bind(RecordPointer stored)
 {
     // All that may throw comes first.
     m_names.reserve(stored->names.size());
-    reserveMore(m_recordOf, stored->names.size());
-    reserveMore(m_records, 1);
+    reserveMore(m_recordOf, stored->names.size(), expected_names);
+    reserveMore(m_records, 1, expected_names);
 
     const auto record = static_cast<std::uint32_t>(m_records.size());
     for (const std::wstring_view name : stored->names)
@@ -175,7 +168,7 @@ StoredOption& OptionResultTable::bind(std::unique_ptr<StoredOption> stored)
             m_recordOf.push_back(record);
             continue;
         }
-        std::vector<std::wstring_view>& former = m_records[m_recordOf[number]]->names;
+        std::pmr::vector<std::wstring_view>& former = m_records[m_recordOf[number]]->names;
         former.erase(std::remove(former.begin(), former.end(), name), former.end());
         m_recordOf[number] = record;
     }

@@ -4,12 +4,14 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <memory_resource>
 #include <span>
 #include <string_view>
 #include <vector>
 
 #include "result/OptionResult.h"
 #include "support/Garbage.h"
+#include "support/SmallBlocks.h"
 #include "support/TextTable.h"
 
 namespace kexa_3_3
@@ -20,7 +22,9 @@ class OptionDescription;
 // The record that some names share.
 struct StoredOption
 {
-    std::vector<std::wstring_view> names;
+    explicit StoredOption(std::pmr::memory_resource& memory) : names(&memory), result(memory) {}
+
+    std::pmr::vector<std::wstring_view> names;
     OptionResult result;
 };
 
@@ -31,7 +35,7 @@ class OptionResultTable
 {
 public:
     // strings: keeps the texts; lives longer than the table.
-    explicit OptionResultTable(Garbage& strings) : m_strings(strings) {}
+    explicit OptionResultTable(Garbage& strings) : m_strings(strings), m_memory(strings.memory()) {}
 
     // See IResultCollector::storeOption.
     void store(const OptionDescription& option, OptionResult& record);
@@ -53,6 +57,13 @@ public:
 private:
     using Names = std::span<const std::wstring_view>;
 
+    // The memory of a record belongs to m_strings; only the object is destroyed.
+    struct Destroy
+    {
+        void operator()(StoredOption* stored) const noexcept { stored->~StoredOption(); }
+    };
+    using RecordPointer = std::unique_ptr<StoredOption, Destroy>;
+
     void storeNew(Names names, OptionResult& record);
     void storeApart(Names names, OptionResult& record);
 
@@ -61,16 +72,17 @@ private:
     [[nodiscard]] std::vector<StoredOption*> takeRecords(Names names);
 
     // Lets the names in stored->names find it from now on.
-    StoredOption& bind(std::unique_ptr<StoredOption> stored);
-    [[nodiscard]] std::unique_ptr<StoredOption> makeRecord(Names names);
+    StoredOption& bind(RecordPointer stored);
+    [[nodiscard]] RecordPointer makeRecord(Names names);
 
     // Gives the texts of a record the lifetime of the table.
     void keepTexts(OptionResult& record);
 
     Garbage& m_strings;
+    SmallBlocks m_memory;
     TextTable m_names;
     std::vector<std::uint32_t> m_recordOf; // by the numbers of m_names
-    std::vector<std::unique_ptr<StoredOption>> m_records;
+    std::vector<RecordPointer> m_records;
 };
 
 } // namespace kexa_3_3

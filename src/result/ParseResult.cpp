@@ -11,7 +11,8 @@ namespace kexa_3_3
 namespace
 {
 
-constexpr std::size_t first_text_block = 1024; // bytes
+constexpr std::size_t first_text_block =
+    4096; // bytes; holds what a command line of usual size leaves
 
 } // namespace
 
@@ -128,7 +129,7 @@ bool ParseResult::beginQuery(const wchar_t* name, std::int32_t from, std::int32_
     {
         return true;
     }
-    const std::vector<std::int32_t>& positions = m_currentOption->positions;
+    const std::pmr::vector<std::int32_t>& positions = m_currentOption->positions;
     while (m_positionCursor < positions.size() &&
            (positions[m_positionCursor] < from || positions[m_positionCursor] >= to))
     {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <bit>
-#include <functional>
+#include <cstring>
 
 namespace kexa_3_3
 {
@@ -10,11 +10,38 @@ namespace kexa_3_3
 namespace
 {
 
-constexpr std::size_t smallest_table = 32;
+constexpr std::size_t smallest_table = 64; // slots
 
 } // namespace
 
-std::size_t TextTable::slotOf(std::wstring_view text, std::size_t hash) const noexcept
+std::uint64_t hashOf(std::wstring_view text) noexcept
+{
+    // Eight bytes at a time; the odd multiplier is the golden ratio's, which spreads small
+    // differences over the upper bits (D. E. Knuth, The Art of Computer Programming, 6.4).
+    constexpr std::uint64_t multiplier = 0x9E3779B97F4A7C15;
+    const auto* bytes = reinterpret_cast<const char*>(text.data());
+    std::size_t length = text.size() * sizeof(wchar_t);
+    std::uint64_t hash = length;
+    for (; length >= sizeof(std::uint64_t); length -= sizeof(std::uint64_t))
+    {
+        std::uint64_t chunk = 0;
+        std::memcpy(&chunk, bytes, sizeof(chunk));
+        bytes += sizeof(chunk);
+        hash = (hash ^ chunk) * multiplier;
+        hash ^= hash >> 32;
+    }
+    for (; length != 0; length -= sizeof(wchar_t))
+    {
+        wchar_t character = 0;
+        std::memcpy(&character, bytes, sizeof(character));
+        bytes += sizeof(character);
+        hash = (hash ^ static_cast<std::uint64_t>(character)) * multiplier;
+        hash ^= hash >> 32;
+    }
+    return hash;
+}
+
+std::size_t TextTable::slotOf(std::wstring_view text, std::uint64_t hash) const noexcept
 {
     const std::size_t mask = m_slots.size() - 1;
     std::size_t slot = hash & mask;
@@ -30,41 +57,22 @@ std::size_t TextTable::slotOf(std::wstring_view text, std::size_t hash) const no
     return slot;
 }
 
-std::uint32_t TextTable::find(std::wstring_view text) const noexcept
+std::uint32_t TextTable::insert(std::wstring_view text) noexcept
 {
-    if (m_entries.empty())
+    const std::uint64_t hash = hashOf(text);
+    std::uint32_t& slot = m_slots[slotOf(text, hash)];
+    if (slot == absent)
     {
-        return absent;
-    }
-    return m_slots[slotOf(text, std::hash<std::wstring_view>()(text))];
-}
-
-std::uint32_t TextTable::insert(std::wstring_view text)
-{
-    reserve(1);
-    const std::size_t hash = std::hash<std::wstring_view>()(text);
-    const std::size_t slot = slotOf(text, hash);
-    if (m_slots[slot] == absent)
-    {
+        slot = static_cast<std::uint32_t>(m_entries.size());
         m_entries.push_back({text, hash});
-        m_slots[slot] = static_cast<std::uint32_t>(m_entries.size() - 1);
     }
-    return m_slots[slot];
+    return slot;
 }
 
-void TextTable::reserve(std::size_t count)
+void TextTable::grow(std::size_t needed)
 {
-    const std::size_t needed = m_entries.size() + count;
-    if (needed > m_entries.capacity())
-    {
-        m_entries.reserve(std::max({needed, 2 * m_entries.size(), smallest_table / 2}));
-    }
-    if (2 * needed <= m_slots.size())
-    {
-        return;
-    }
-    // At most half full: a search for a text that is not there ends soon.
     std::vector<std::uint32_t> slots(std::bit_ceil(std::max(2 * needed, smallest_table)), absent);
+    m_entries.reserve(slots.size() / 2);
     const std::size_t mask = slots.size() - 1;
     for (std::size_t number = 0; number < m_entries.size(); ++number)
     {
