@@ -1,0 +1,112 @@
+// The library as a host uses it: only the public interface.
+#ifndef KEXA_BENCHMARKS_KEXA_HOST_H
+#define KEXA_BENCHMARKS_KEXA_HOST_H
+
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+#include <kexa/kexa.h>
+
+#include "workloads/Workload.h"
+
+namespace benchmarks
+{
+
+struct Release
+{
+    template <class Interface>
+    void operator()(Interface* object) const
+    {
+        object->release();
+    }
+};
+using ParserPointer = std::unique_ptr<kexa_3_3::IParser, Release>;
+using ResultPointer = std::unique_ptr<kexa_3_3::IParseResult, Release>;
+
+inline void require(bool condition, kexa_3_3::IParser& parser)
+{
+    if (!condition)
+    {
+        throw std::runtime_error("kexa: " + narrow(parser.getErrorMessage()));
+    }
+}
+
+class KexaHost
+{
+public:
+    explicit KexaHost(const Workload& workload);
+
+    kexa_3_3::IParser& parser() const noexcept { return *m_parser; }
+    kexa_3_3::IParseResult& result() const noexcept { return *m_result; }
+
+    void parse() { parse(m_workload.wideArgumentVector().data()); }
+    void parse(const wchar_t* const* arguments)
+    {
+        const kexa_3_3::result_t code =
+            m_parser->parse(m_workload.argumentCount(), arguments, m_result.get());
+        require(code == kexa_3_3::result_success, *m_parser);
+    }
+
+    template <class Sink>
+    void read(Sink& sink) const
+    {
+        kexa_3_3::Value value;
+        const std::vector<Option>& options = m_workload.options();
+        for (std::size_t i = 0; i < options.size(); ++i)
+        {
+            const wchar_t* const name = options[i].wideName.c_str();
+            kexa_3_3::result_t code =
+                m_result->getFirstValue(&value, name, 0, kexa_3_3::no_position);
+            if (code != kexa_3_3::result_success)
+            {
+                sink.absent(i);
+            }
+            while (code == kexa_3_3::result_success)
+            {
+                give(sink, i, options[i].type, value);
+                code = m_result->getNextValue(&value, name);
+            }
+        }
+    }
+
+    std::string help() const { return narrow(m_parser->showFullHelp(false)); }
+
+private:
+    template <class Sink>
+    static void give(Sink& sink, std::size_t option, Type type, const kexa_3_3::Value& value)
+    {
+        switch (type)
+        {
+        case Type::flag:
+            sink.flag(option, value.as<bool>() ? 1 : 0);
+            break;
+        case Type::integer:
+            sink.integer(option, value.as<vexkit2::s32_t>());
+            break;
+        case Type::natural:
+            sink.natural(option, value.as<vexkit2::u32_t>());
+            break;
+        case Type::integer64:
+            sink.integer(option, value.as<vexkit2::s64_t>());
+            break;
+        case Type::natural64:
+            sink.natural(option, value.as<vexkit2::u64_t>());
+            break;
+        case Type::real:
+            sink.real(option, value.as<double>());
+            break;
+        case Type::text:
+            sink.text(option, value.as<const wchar_t*>());
+            break;
+        }
+    }
+
+    const Workload& m_workload;
+    ParserPointer m_parser;
+    ResultPointer m_result;
+};
+
+} // namespace benchmarks
+
+#endif
