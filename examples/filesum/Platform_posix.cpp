@@ -1,0 +1,40 @@
+#include <unistd.h>
+
+#include "common/Text.h"
+#include "filesum/Platform.h"
+
+namespace filesum
+{
+
+std::filesystem::path pathOf(const std::wstring& text)
+{
+    return std::filesystem::path(example::toBytes(text));
+}
+
+std::string nameOf(const std::filesystem::path& path)
+{
+    return path.generic_string();
+}
+
+FilePointer openForReading(const std::filesystem::path& path)
+{
+    return FilePointer(std::fopen(path.c_str(), "rb"));
+}
+
+FilePointer openForWriting(const std::filesystem::path& path)
+{
+    return FilePointer(std::fopen(path.c_str(), "wb"));
+}
+
+bool isLink(const std::filesystem::path& path)
+{
+    std::error_code error;
+    return std::filesystem::is_symlink(path, error);
+}
+
+bool isTerminal(std::FILE* stream)
+{
+    return ::isatty(::fileno(stream)) != 0;
+}
+
+} // namespace filesum

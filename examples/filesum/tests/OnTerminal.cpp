@@ -1,0 +1,81 @@
+// Runs a program whose standard error is a terminal, and writes what arrives there to its own
+// standard error, with "<return>" for every carriage return. Its other streams are passed on.
+#include <cerrno>
+#include <cstdio>
+#include <string>
+
+#include <fcntl.h>
+#include <stdlib.h>
+#include <sys/wait.h>
+#include <termios.h>
+#include <unistd.h>
+
+namespace
+{
+
+// A pair of connected terminals; the bytes written to `program` arrive at `watcher` unchanged.
+struct Terminal
+{
+    int watcher = -1;
+    int program = -1;
+};
+
+bool openTerminal(Terminal& terminal)
+{
+    terminal.watcher = ::posix_openpt(O_RDWR | O_NOCTTY);
+    if (terminal.watcher < 0 || ::grantpt(terminal.watcher) != 0 ||
+        ::unlockpt(terminal.watcher) != 0)
+    {
+        return false;
+    }
+    terminal.program = ::open(::ptsname(terminal.watcher), O_RDWR | O_NOCTTY);
+    termios settings = {};
+    if (terminal.program < 0 || ::tcgetattr(terminal.program, &settings) != 0)
+    {
+        return false;
+    }
+    settings.c_oflag &= ~static_cast<tcflag_t>(OPOST);
+    return ::tcsetattr(terminal.program, TCSANOW, &settings) == 0;
+}
+
+// Reads until the program's side is closed.
+void relay(int watcher)
+{
+    char buffer[4096];
+    ssize_t count = 0;
+    while ((count = ::read(watcher, buffer, sizeof buffer)) > 0 || (count < 0 && errno == EINTR))
+    {
+        for (ssize_t index = 0; index < count; ++index)
+        {
+            const std::string text =
+                buffer[index] == '\r' ? "<return>" : std::string(1, buffer[index]);
+            std::fputs(text.c_str(), stderr);
+        }
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    Terminal terminal;
+    if (argc < 2 || !openTerminal(terminal))
+    {
+        std::perror("OnTerminal");
+        return 125;
+    }
+    const pid_t child = ::fork();
+    if (child == 0)
+    {
+        ::dup2(terminal.program, STDERR_FILENO);
+        ::close(terminal.program);
+        ::close(terminal.watcher);
+        ::execv(argv[1], argv + 1);
+        ::_exit(126);
+    }
+    ::close(terminal.program);
+    relay(terminal.watcher);
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 124;
+}

@@ -1,0 +1,54 @@
+// Positional arguments and what is left over: a runner that takes programs as plain arguments, and
+// behind "--" the options that it passes on to them unread.
+#include "common/Arguments.h"
+#include "common/Host.h"
+
+using namespace kexa_3_3;
+
+namespace
+{
+
+void declareOptions(IParser& parser)
+{
+    parser.addOption(L"times,t", L"How often", value_type_unsigned, L"")
+        .option->setDefaultValue(vexkit2::variant_t(1U));
+    // Marked: plain arguments go to this option, and the help leaves it out.
+    parser.addOption(L"program", L"What to run", value_type_string, L"")
+        .option->setMarked()
+        .setSeparator(0); // a comma belongs to the name
+}
+
+void printRequest(IParseResult& result)
+{
+    for (const Value& program : example::valuesOf(result, L"program"))
+    {
+        example::print(std::wstring(L"program ") + program.as<const wchar_t*>() + L"\n");
+    }
+    const wchar_t* argument = nullptr;
+    for (auto code = result.getFirstUnparsed(&argument); code == result_success;
+         code = result.getNextUnparsed(&argument))
+    {
+        example::print(std::wstring(L"pass on ") + argument + L"\n");
+    }
+    const auto times = example::lastValue(result, L"times").as<vexkit2::u32_t>();
+    example::print(L"times " + std::to_wstring(times) + L"\n");
+}
+
+} // namespace
+
+int run(int argc, const wchar_t* const* argv)
+{
+    // An argument that begins with "-" is an option or an error, never a program. Behind "--" it is
+    // left over; with flag_any_positional_after_marker it would be a program there.
+    const example::ParserPointer parser =
+        example::makeParser(flag_unknown_is_error | flag_no_hyphen_positional);
+    declareOptions(*parser);
+    const example::ResultPointer result = example::makeResult(*parser);
+    if (parser->parse(argc, argv, result.get()) != result_success)
+    {
+        example::printError(std::wstring(parser->getErrorMessage()) + L"\n");
+        return 2;
+    }
+    printRequest(*result);
+    return 0;
+}
