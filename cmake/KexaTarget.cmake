@@ -29,4 +29,7 @@ function(kexa_configure_target target)
         CXX_EXTENSIONS OFF
         CXX_VISIBILITY_PRESET hidden
         VISIBILITY_INLINES_HIDDEN ON)
+    if(KEXA_WINE)
+        kexa_test_folder_needs_wine()
+    endif()
 endfunction()

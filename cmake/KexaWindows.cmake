@@ -50,8 +50,33 @@ function(kexa_add_version_resource target template)
     target_sources(${target} PRIVATE "${resource}")
 endfunction()
 
-# Lets CTest run the programs of a cross build under Wine, with a Wine prefix in the build folder.
+# CTest runs the programs of a cross build under Wine, with a Wine prefix in the build folder.
 if(CMAKE_CROSSCOMPILING AND CMAKE_HOST_UNIX AND NOT CMAKE_CROSSCOMPILING_EMULATOR)
     set(KEXA_WINE "${PROJECT_SOURCE_DIR}/scripts/wine.sh" "${PROJECT_BINARY_DIR}/wine")
     set(CMAKE_CROSSCOMPILING_EMULATOR ${KEXA_WINE})
 endif()
+
+# The Wine server lives from the first test to the last: the tests wine_start and wine_stop, which
+# CTest puts around those that need them. Called once.
+function(kexa_add_wine_session)
+    add_test(NAME wine_start COMMAND ${KEXA_WINE} --start)
+    add_test(NAME wine_stop COMMAND ${KEXA_WINE} --stop)
+    set_tests_properties(wine_start PROPERTIES FIXTURES_SETUP wine)
+    set_tests_properties(wine_stop PROPERTIES FIXTURES_CLEANUP wine)
+endfunction()
+
+# Puts all other tests of the current folder into that session, once its file is read.
+function(kexa_test_folder_needs_wine)
+    cmake_language(DEFER GET_CALL_IDS calls)
+    if(NOT "wine" IN_LIST calls)
+        cmake_language(DEFER ID wine CALL kexa_require_wine_session)
+    endif()
+endfunction()
+
+function(kexa_require_wine_session)
+    get_property(tests DIRECTORY PROPERTY TESTS)
+    list(REMOVE_ITEM tests wine_start wine_stop)
+    if(tests)
+        set_property(TEST ${tests} APPEND PROPERTY FIXTURES_REQUIRED wine)
+    endif()
+endfunction()

@@ -1,0 +1,47 @@
+# Configures, builds and runs the project in SOURCE against the library installed in PREFIX.
+#
+# BUILD                            the project's build tree; made anew
+# GENERATOR MAKE_PROGRAM COMPILER FLAGS TOOLCHAIN CONFIG
+#                                  how the library was built
+# EMULATOR                         what runs a program of another system (optional)
+file(REMOVE_RECURSE "${BUILD}")
+set(options "-DCMAKE_PREFIX_PATH=${PREFIX}" "-DCMAKE_BUILD_TYPE=${CONFIG}"
+    "-DCMAKE_MAKE_PROGRAM=${MAKE_PROGRAM}" "-DCMAKE_CXX_FLAGS=${FLAGS}")
+if(TOOLCHAIN)
+    # A cross build looks for packages below the target's folders only, unless told otherwise.
+    list(APPEND options "-DCMAKE_TOOLCHAIN_FILE=${TOOLCHAIN}" "-Dkexa_ROOT=${PREFIX}"
+        "-DCMAKE_FIND_ROOT_PATH_MODE_PACKAGE=BOTH")
+else()
+    list(APPEND options "-DCMAKE_CXX_COMPILER=${COMPILER}")
+endif()
+execute_process(COMMAND "${CMAKE_COMMAND}" -G "${GENERATOR}" -S "${SOURCE}" -B "${BUILD}" ${options}
+    COMMAND_ERROR_IS_FATAL ANY)
+execute_process(COMMAND "${CMAKE_COMMAND}" --build "${BUILD}" --config "${CONFIG}"
+    COMMAND_ERROR_IS_FATAL ANY)
+
+# Nothing of how the library itself is compiled may reach who links it.
+file(READ "${BUILD}/compile_commands.json" commands)
+string(REPLACE "${FLAGS}" "" commands "${commands}")
+if(commands MATCHES "( [-/]W[^ l]*)|KEXA_BUILDING|KEXA_STATIC")
+    message(FATAL_ERROR "the consumer was compiled with ${CMAKE_MATCH_0}:\n${commands}")
+endif()
+
+if(EXISTS "${PREFIX}/bin/kexa.dll")
+    # A Windows program is shipped in the folder of its DLLs, and that folder runs anywhere.
+    set(folder "${BUILD}/shipped")
+    file(COPY "${PREFIX}/bin/" DESTINATION "${folder}")
+    file(GLOB_RECURSE program "${BUILD}/consumer.exe")
+    file(COPY "${program}" DESTINATION "${folder}")
+    set(program "${folder}/consumer.exe")
+else()
+    file(GLOB program "${BUILD}/consumer")
+endif()
+execute_process(COMMAND ${EMULATOR} "${program}" --count=3 -na=first,second --verb left
+    OUTPUT_VARIABLE output RESULT_VARIABLE exit_code)
+string(REPLACE "\r\n" "\n" output "${output}")
+set(expected "count 3, name second, verbose
+header 3.3.0
+")
+if(NOT exit_code EQUAL 0 OR NOT output STREQUAL expected)
+    message(FATAL_ERROR "the consumer ended with ${exit_code} and wrote:\n${output}")
+endif()

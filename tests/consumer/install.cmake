@@ -1,0 +1,5 @@
+# Installs the build tree BUILD into PREFIX, which is made anew.
+file(REMOVE_RECURSE "${PREFIX}")
+execute_process(
+    COMMAND "${CMAKE_COMMAND}" --install "${BUILD}" --config "${CONFIG}" --prefix "${PREFIX}"
+    COMMAND_ERROR_IS_FATAL ANY)
