@@ -101,7 +101,9 @@ TEST_F(ActionAcceptance, AnOptionWithoutKeywordsIsAlwaysAccepted)
 TEST_F(ActionAcceptance, TheFirstNameInOrderIsReported)
 {
     check({{L"--list", L"--filter=1", L"--check=1"}, notAccepted(L"list", L"check")});
+    check({{L"--list", L"--check=1", L"--filter=1"}, notAccepted(L"list", L"check")});
     check({{L"--list", L"--check=1", L"--zone=1"}, notAccepted(L"list", L"zone")});
+    check({{L"--list", L"--zone=1", L"--check=1"}, notAccepted(L"list", L"zone")});
 }
 
 TEST_F(ActionAcceptance, AnOptionWithKeywordsAloneStillNeedsAnAction)

@@ -70,6 +70,9 @@ TEST(LeftOverArguments, APositionalOptionTakesThemAsTheFlagsTell)
         {8, {L"x", L"--", L"-y"}, {L"x"}, {L"-y"}},
         // Flag 4 changes nothing before the marker: "-x" is unknown there, and dropped.
         {4 | 8, {L"-x", L"--", L"-y"}, {L"-y"}, {}},
+        // One marker is dropped, and no more.
+        {0, {L"--", L"--", L"x"}, {L"--", L"x"}, {}},
+        {8, {L"--", L"--", L"x"}, {L"x"}, {L"--"}},
         {0, {L"--"}, {}, {}},
     };
     for (const LeftOverCase& row : rows)

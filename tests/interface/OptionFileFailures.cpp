@@ -193,6 +193,13 @@ TEST(OptionFilesSwitch, OnMakesAHostsOwnOptionOfThatNameNameFiles)
     EXPECT_EQ(host.parse({L"--option-file=no-such-file"}), 6);
 }
 
+TEST(OptionFilesSwitch, WithoutAResultNoFileIsNamed)
+{
+    Host host(2);
+    host.parser().enableOptionFiles(L"", L"");
+    EXPECT_EQ(parse(host.parser(), {L"--option-file=no-such-file"}, nullptr), 0);
+}
+
 TEST(OptionFilesSwitch, ADefaultNamesNoFileToRead)
 {
     Host host(2);

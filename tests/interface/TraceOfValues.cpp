@@ -226,6 +226,23 @@ TEST(TraceOfLeftOverArguments, AreParsedWhenPositional)
                             "collectNonparsingArguments: parse result: 0, message: "}}));
 }
 
+// Flag 4 takes flag 8 away behind the marker and leaves flag 16 in force.
+TEST(TraceOfLeftOverArguments, AreParsedInOneGoUnderFlags4And16)
+{
+    Host host(4 | 8 | 16);
+    host.addPositional(L"path");
+    EXPECT_EQ(traceOf(host, {L"--", L"-x", L"y"}),
+              joined({Lines{"PositionalOptionsParser: recognizing argument '-x'",
+                            "collectNonparsingArguments: recognize result: 0, message: ",
+                            "PositionalOptionsParser: parsing argument '-x'",
+                            "PositionalOptionsParser: option is 'path'"},
+                      positionalStored("path", "-x"),
+                      Lines{"PositionalOptionsParser: removing argument: '-x'"},
+                      positionalStored("path", "y"),
+                      Lines{"PositionalOptionsParser: removing argument: 'y'",
+                            "collectNonparsingArguments: parse result: 0, message: "}}));
+}
+
 TEST(TraceOfLeftOverArguments, ShowTheirError)
 {
     const std::string error = "Value validation problem in argument 'x': Option 'number' can not "
