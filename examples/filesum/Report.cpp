@@ -82,7 +82,8 @@ void Report::advance(std::uint64_t bytes)
     // A file may have grown since it was announced.
     const double share = static_cast<double>(m_done) / static_cast<double>(m_bytes);
     const auto percent = static_cast<int>(100 * std::min(share, 1.0));
-    const std::string text = std::to_string(percent) + "% of " + std::to_string(m_files) + " files";
+    const std::string text = std::to_string(percent) + "% of " + std::to_string(m_files) +
+                             (m_files == 1 ? " file" : " files");
     if (text != m_progress)
     {
         clearProgress();
@@ -106,7 +107,10 @@ void Report::clearProgress()
 {
     if (!m_progress.empty())
     {
-        example::write(stderr, "\r" + std::string(m_progress.size(), ' ') + "\r");
+        std::string blank(m_progress.size() + 2, ' ');
+        blank.front() = '\r';
+        blank.back() = '\r';
+        example::write(stderr, blank);
         m_progress.clear();
     }
 }
