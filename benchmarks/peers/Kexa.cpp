@@ -1,3 +1,4 @@
+#include <fstream>
 #include <vector>
 
 #include "peers/KexaHost.h"
@@ -87,6 +88,34 @@ KexaHost::KexaHost(const Workload& workload) : m_workload(workload)
     kexa_3_3::IParseResult* result = nullptr;
     parser->createParseResult(&result);
     m_result.reset(result);
+}
+
+KexaFileHost::KexaFileHost(const Workload& workload, const std::string& path)
+    : m_host(workload), m_argument(L"--option-file=" + widen(path))
+{
+    require(m_host.parser().enableOptionFiles(L"names a file with arguments", L""),
+            m_host.parser());
+}
+
+void KexaFileHost::parse()
+{
+    const wchar_t* const arguments[] = {L"program", m_argument.c_str(), nullptr};
+    const kexa_3_3::result_t code = m_host.parser().parse(2, arguments, &m_host.result());
+    require(code == kexa_3_3::result_success, m_host.parser());
+}
+
+void writeOptionFile(const Workload& workload, const std::string& path)
+{
+    std::ofstream file(path, std::ios::binary);
+    for (const std::string& argument : workload.arguments())
+    {
+        file << argument << '\n';
+    }
+    file.close();
+    if (!file)
+    {
+        throw std::runtime_error("cannot write " + path);
+    }
 }
 
 Peer kexaPeer()

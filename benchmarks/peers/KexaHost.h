@@ -70,7 +70,8 @@ public:
         }
     }
 
-    std::string help() const { return narrow(m_parser->showFullHelp(false)); }
+    std::wstring_view wideHelp() const { return m_parser->showFullHelp(false); }
+    std::string help() const { return narrow(wideHelp()); }
 
 private:
     template <class Sink>
@@ -106,6 +107,30 @@ private:
     ParserPointer m_parser;
     ResultPointer m_result;
 };
+
+// The same declarations; the arguments come from an option file (see writeOptionFile).
+class KexaFileHost
+{
+public:
+    KexaFileHost(const Workload& workload, const std::string& path);
+
+    void parse();
+
+    template <class Sink>
+    void read(Sink& sink) const
+    {
+        m_host.read(sink);
+    }
+
+    const KexaHost& host() const noexcept { return m_host; }
+
+private:
+    KexaHost m_host;
+    std::wstring m_argument; // names the file
+};
+
+// Writes the workload's arguments, one in each line. Throws std::runtime_error.
+void writeOptionFile(const Workload& workload, const std::string& path);
 
 } // namespace benchmarks
 

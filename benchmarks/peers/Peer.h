@@ -50,7 +50,10 @@ public:
     virtual void read(Tally& sink) = 0;
     virtual void read(Record& sink) = 0;
 
-    // The full help.
+    // Makes the full help, as the library hands it out, and answers its length.
+    virtual std::size_t makeHelp() = 0;
+
+    // The same as narrow text.
     virtual std::string help() = 0;
 };
 
@@ -69,7 +72,8 @@ struct Peer
     bool isSlow(const std::string& workload) const;
 };
 
-// Makes a peer from a class L with: L(const Workload&), parse(), template read(Sink&), help().
+// Makes a peer from a class L with: L(const Workload&), parse(), template read(Sink&), help();
+// and wideHelp() where it makes wide text.
 template <class L>
 class HostOf final : public Host
 {
@@ -78,6 +82,17 @@ public:
     void parse() override { m_library.parse(); }
     void read(Tally& sink) override { m_library.read(sink); }
     void read(Record& sink) override { m_library.read(sink); }
+    std::size_t makeHelp() override
+    {
+        if constexpr (requires { m_library.wideHelp(); })
+        {
+            return m_library.wideHelp().size();
+        }
+        else
+        {
+            return m_library.help().size();
+        }
+    }
     std::string help() override { return m_library.help(); }
 
 private:
