@@ -74,7 +74,7 @@ std::wstring formatTopicHelp(const RegisteredOptionStorage& options, const wchar
     {
         return formatTopicList(options, hidden);
     }
-    const OptionDescription* const option = options.find(topic);
+    const OptionDescription* const option = options.find(std::wstring_view(topic));
     return option == nullptr ? notAvailable(options, topic, hidden)
                              : formatOptionHelp(options.groups(), {option}, hidden);
 }
@@ -86,7 +86,7 @@ std::wstring formatRelatedHelp(const RegisteredOptionStorage& options, const wch
     {
         return formatTopicList(options, hidden);
     }
-    const OptionDescription* const found = options.find(topic);
+    const OptionDescription* const found = options.find(std::wstring_view(topic));
     if (found == nullptr)
     {
         return notAvailable(options, topic, hidden);

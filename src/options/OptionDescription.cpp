@@ -19,7 +19,7 @@ OptionDescription::OptionDescription(const std::pair<std::wstring_view, std::wst
 
 IOption& OptionDescription::addName(const wchar_t* name)
 {
-    const std::wstring_view kept = owner->keep(viewOf(name));
+    const HashedText kept(owner->keep(viewOf(name)));
     if (OptionIndex* const index = m_place.held.index; index != nullptr)
     {
         index->reserve(1);
@@ -98,12 +98,12 @@ bool OptionDescription::isPositional() const
     return takesValue() && (marked || keywords.find(positional_keyword) != keywords.end());
 }
 
-void OptionDescription::setNames(const std::vector<std::wstring_view>& newNames)
+void OptionDescription::setNames(const std::vector<HashedText>& newNames)
 {
     names.reserve(newNames.size());
-    for (const std::wstring_view name : newNames)
+    for (const HashedText& name : newNames)
     {
-        names.push_back(owner->keep(name));
+        names.emplace_back(name, owner->keep(name));
     }
 }
 

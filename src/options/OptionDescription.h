@@ -16,6 +16,7 @@
 
 #include "options/AllowedValueIndex.h"
 #include "options/NotCopied.h"
+#include "support/TextTable.h"
 
 namespace kexa_3_3
 {
@@ -55,7 +56,7 @@ public:
     // The name that messages, events and help use; empty for an option that has none.
     [[nodiscard]] std::wstring_view primaryName() const noexcept
     {
-        return names.empty() ? std::wstring_view(L"") : names.front();
+        return names.empty() ? std::wstring_view(L"") : std::wstring_view(names.front());
     }
     // Whether the text is one of the option's names.
     [[nodiscard]] bool answersTo(std::wstring_view name) const noexcept;
@@ -63,18 +64,21 @@ public:
     [[nodiscard]] bool isPositional() const;
 
     // Sets the names of a new option.
-    void setNames(const std::vector<std::wstring_view>& newNames);
+    void setNames(const std::vector<HashedText>& newNames);
 
     // Makes the option known to an index, which from then on learns of further names and of the
     // option becoming positional. table index: the option's place in the table of options. Throws
     // std::bad_alloc, and the index is unchanged then.
     void enterInto(OptionIndex& index, std::size_t tableIndex);
 
+    // The option's place in the table that it was entered into, 0 for none.
+    [[nodiscard]] std::size_t tableIndex() const noexcept { return m_place.held.tableIndex; }
+
     // The candidates for a typed value. Made on first use after a change of them.
     [[nodiscard]] const AllowedValueIndex& allowedValueIndex() const;
 
     std::int32_t kind = 0;
-    std::pmr::vector<std::wstring_view> names;
+    std::pmr::vector<HashedText> names;
     std::pmr::set<std::wstring_view> keywords;
     std::wstring_view group;
     std::wstring_view groupText;

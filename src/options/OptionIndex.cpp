@@ -34,7 +34,7 @@ void OptionIndex::reserve(std::size_t count)
     reserveMore(m_names, count, expected_names);
 }
 
-void OptionIndex::add(std::wstring_view name, std::size_t option, std::size_t position,
+void OptionIndex::add(const HashedText& name, std::size_t option, std::size_t position,
                       bool boolean) noexcept
 {
     const std::uint32_t number = m_texts.insert(name);
@@ -53,7 +53,7 @@ void OptionIndex::add(std::wstring_view name, std::size_t option, std::size_t po
                        static_cast<std::uint32_t>(position & 0x7FFFFFFF), boolean ? 1U : 0U});
 }
 
-std::int64_t OptionIndex::findNamed(std::wstring_view name) const noexcept
+std::int64_t OptionIndex::findNamed(const HashedText& name) const noexcept
 {
     const std::uint32_t number = m_texts.find(name);
     return number == TextTable::absent ? none : m_owners[number].first;
@@ -61,7 +61,7 @@ std::int64_t OptionIndex::findNamed(std::wstring_view name) const noexcept
 
 std::int64_t OptionIndex::findAnswering(std::wstring_view text) const noexcept
 {
-    std::int64_t found = findNamed(text);
+    std::int64_t found = findNamed(HashedText(text));
     if (text.substr(0, negation.size()) == negation)
     {
         const std::uint32_t number = m_texts.find(text.substr(negation.size()));

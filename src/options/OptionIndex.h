@@ -43,11 +43,11 @@ public:
 
     // Adds a name. name: kept alive and unchanged by the caller. option: its index. position: the
     // name's place among those of the option.
-    void add(std::wstring_view name, std::size_t option, std::size_t position,
+    void add(const HashedText& name, std::size_t option, std::size_t position,
              bool boolean) noexcept;
 
     // The first option, in table order, with exactly this name.
-    [[nodiscard]] std::int64_t findNamed(std::wstring_view name) const noexcept;
+    [[nodiscard]] std::int64_t findNamed(const HashedText& name) const noexcept;
 
     // The first option, in table order, that answers to exactly this text.
     [[nodiscard]] std::int64_t findAnswering(std::wstring_view text) const noexcept;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <new>
-#include <ostream>
 
 #include "support/ConsoleStreams.h"
 #include "support/Garbage.h"
@@ -85,7 +84,7 @@ const Registration& RegisteredOptionStorage::registerValueOption(const wchar_t* 
     return registerOption(names, keywords, description, false, valueType, groupText);
 }
 
-const OptionDescription* RegisteredOptionStorage::find(std::wstring_view name) const noexcept
+const OptionDescription* RegisteredOptionStorage::find(const HashedText& name) const noexcept
 {
     const std::int64_t found = m_index.findNamed(name);
     return found == OptionIndex::none ? nullptr : m_options[static_cast<std::size_t>(found)].get();
@@ -100,13 +99,14 @@ const RegisteredOptionStorage::Group& RegisteredOptionStorage::groupOf(std::wstr
     {
         return m_groups.back(); // declarations of a group usually stand together
     }
-    std::uint32_t number = m_groupNames.find(name);
+    const HashedText hashedName(name);
+    std::uint32_t number = m_groupNames.find(hashedName);
     if (number == TextTable::absent)
     {
         const std::wstring_view text = groupText.substr(std::min(colon + 1, groupText.size()));
         m_groupNames.reserve(1);
         m_groups.emplace_back(m_owner.keep(name), m_owner.keep(text));
-        number = m_groupNames.insert(m_groups.back().first);
+        number = m_groupNames.insert(HashedText(hashedName, m_groups.back().first));
     }
     return m_groups[number];
 }
@@ -115,19 +115,22 @@ const RegisteredOptionStorage::Group& RegisteredOptionStorage::groupOf(std::wstr
 bool RegisteredOptionStorage::acceptNames(std::wstring_view names)
 {
     m_names.clear();
-    forEachPiece(names, L',', [this](std::wstring_view name) { m_names.push_back(name); });
+    forEachPiece(names, L',', [this](std::wstring_view name) { m_names.emplace_back(name); });
     if (m_names.empty() || m_names.size() > most_names ||
         (m_names.size() == most_names && m_names.back().size() > longest_short_form))
     {
         return false;
     }
     const bool taken = std::any_of(m_names.begin(), m_names.end(),
-                                   [this](std::wstring_view name)
+                                   [this](const HashedText& name)
                                    { return m_index.findNamed(name) != OptionIndex::none; });
     if (taken)
     {
-        ucout() << L"Tried to register an option with a name, which is alread registered: " << names
-                << std::endl;
+        // Past the stream: parsers in several threads may be declaring at the same time.
+        const std::wstring line =
+            concatenate({L"Tried to register an option with a name, which is alread registered: ",
+                         names, L"\n"});
+        static_cast<void>(internal::writeConsole(internal::ConsoleTarget::output, line));
     }
     return !taken;
 }
@@ -136,7 +139,7 @@ RegisteredOptionStorage::OptionPointer RegisteredOptionStorage::makeOption(const
                                                                            bool isSwitch)
 {
     void* const memory =
-        m_owner.memory().allocate(sizeof(OptionDescription), alignof(OptionDescription));
+        m_owner.memory().take(sizeof(OptionDescription), alignof(OptionDescription));
     return OptionPointer(new (memory) OptionDescription(group, isSwitch, m_owner));
 }
 

@@ -70,7 +70,11 @@ public:
     }
 
     // The first option with exactly this name, or null.
-    [[nodiscard]] const OptionDescription* find(std::wstring_view name) const noexcept;
+    [[nodiscard]] const OptionDescription* find(const HashedText& name) const noexcept;
+    [[nodiscard]] const OptionDescription* find(std::wstring_view name) const noexcept
+    {
+        return find(HashedText(name));
+    }
 
     [[nodiscard]] const OptionIndex& index() const noexcept { return m_index; }
 
@@ -102,7 +106,7 @@ private:
     TextTable m_groupNames; // numbers are indices of m_groups
     OptionIndex m_index;
     std::size_t m_actionCount = 0;
-    std::vector<std::wstring_view> m_names; // of the declaration at work
+    std::vector<HashedText> m_names; // of the declaration at work
 };
 
 } // namespace kexa_3_3

@@ -47,12 +47,14 @@ std::wstring refusalMessage(const OptionDescription& option, std::wstring_view t
                         L"'. ", possibleValues(option)});
 }
 
+// Written past the stream: parsers in several threads may warn at the same time.
 void warnOfDeprecation(const OptionDescription& option, const variant_t& oldValue,
                        const variant_t& replacement)
 {
-    ucerr() << concatenate({L"Warning: '", valueText(oldValue),
-                            L"' argument is deprecated for the option '-", option.primaryName(),
-                            L"'. Use the '", valueText(replacement), L"' argument instead.\n"});
+    const std::wstring warning = concatenate(
+        {L"Warning: '", valueText(oldValue), L"' argument is deprecated for the option '-",
+         option.primaryName(), L"'. Use the '", valueText(replacement), L"' argument instead.\n"});
+    static_cast<void>(internal::writeConsole(internal::ConsoleTarget::error, warning));
 }
 
 } // namespace

@@ -39,11 +39,12 @@ Overview survey(const OptionResultTable& result, const RegisteredOptionStorage& 
         {
             continue;
         }
-        const std::wstring_view name = result.name(number);
+        const HashedText& name = result.name(number);
         const OptionDescription* const option = options.find(name);
         if (option == nullptr)
         {
-            overview.firstUnknown = std::min(overview.firstUnknown.value_or(name), name);
+            overview.firstUnknown =
+                std::min<std::wstring_view>(overview.firstUnknown.value_or(name), name);
         }
         else if (!option->takesValue())
         {

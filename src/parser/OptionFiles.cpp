@@ -49,7 +49,7 @@ FileProblem loadText(const std::wstring& name, std::wstring& text)
 
 const OptionResult* resultOf(OptionResultTable& options) noexcept
 {
-    const StoredOption* const stored = options.find(option_file_name);
+    const StoredOption* const stored = options.find(std::wstring_view(option_file_name));
     return stored == nullptr ? nullptr : &stored->result;
 }
 

@@ -5,7 +5,6 @@
 
 #include "options/OptionDescription.h"
 #include "options/RegisteredOptionStorage.h"
-#include "recognition/BestMatch.h"
 #include "support/Text.h"
 #include "support/Trace.h"
 
@@ -46,14 +45,14 @@ int AbbreviationParser::recognize(const ArgumentQueue& arguments,
 void AbbreviationParser::recognizeName(std::wstring_view argument,
                                        const RegisteredOptionStorage& options)
 {
-    const BestMatch match = findBestMatch(options.index(), m_split.name, m_bestName);
-    if (match.count == 1)
+    m_match = findBestMatch(options.index(), m_split.name);
+    if (m_match.count == 1)
     {
         traceLine(name(), L": best match option for '", m_split.name, L"' in argument '", argument,
-                  L"' is '", m_bestName, L"'");
-        m_matchedIndex = match.option;
+                  L"' is '", m_match.prefix, m_match.name, L"'");
+        m_matchedIndex = m_match.option;
     }
-    else if (match.count > 1)
+    else if (m_match.count > 1)
     {
         // Claimed all the same: parse reports the ambiguity.
         m_candidateList = listCandidates(options.index(), m_split.name);
@@ -126,8 +125,7 @@ AbbreviationParser::Given AbbreviationParser::takeValue(const ArgumentQueue& arg
     }
     if (option.valueType == value_type_boolean)
     {
-        const bool negated = m_bestName.compare(0, negation.size(), negation) == 0;
-        return {negated ? L"0" : L"1", 1,
+        return {m_match.beginsWithNegation() ? L"0" : L"1", 1,
                 empty ? std::wstring()
                       : concatenate({L"Option '", option.primaryName(),
                                      L"' is boolean and should be declared in form '--option' "

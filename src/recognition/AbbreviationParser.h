@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "recognition/BestMatch.h"
 #include "recognition/IArgumentParser.h"
 #include "recognition/OptionArgument.h"
 #include "recognition/ValueStoring.h"
@@ -52,7 +53,7 @@ private:
     OptionArgument m_split;
     std::int64_t m_matchedIndex = -1;
     std::wstring m_candidateList; // not empty: the name is ambiguous
-    std::wstring m_bestName;      // may begin with "no-"
+    BestMatch m_match;            // the candidate chosen
 };
 
 } // namespace kexa_3_3

@@ -5,22 +5,16 @@
 namespace kexa_3_3
 {
 
-BestMatch findBestMatch(const OptionIndex& index, std::wstring_view typedName,
-                        std::wstring& bestName)
+BestMatch findBestMatch(const OptionIndex& index, std::wstring_view typedName)
 {
     const std::int64_t exact = index.findAnswering(typedName);
     if (exact != OptionIndex::none)
     {
-        bestName.assign(typedName);
-        return {1, exact};
+        return {1, exact, {}, typedName};
     }
     const OptionIndex::PrefixMatches matches = index.matchPrefix(typedName);
-    if (matches.count == 1)
-    {
-        bestName.assign(matches.negated ? negation : std::wstring_view());
-        bestName.append(matches.name);
-    }
-    return {matches.count, matches.option};
+    return {matches.count, matches.option, matches.negated ? negation : std::wstring_view(),
+            matches.name};
 }
 
 std::wstring listCandidates(const OptionIndex& index, std::wstring_view typedName)

@@ -17,16 +17,21 @@ struct BestMatch
     // of all options and, for boolean ones, "no-" before them.
     std::size_t count = 0;
 
-    // Where count is 1: the option's index.
+    // Where count is 1: the option's index, and the matching candidate, `prefix` (empty or "no-")
+    // and `name` one after the other.
     std::int64_t option = OptionIndex::none;
+    std::wstring_view prefix;
+    std::wstring_view name;
+
+    [[nodiscard]] bool beginsWithNegation() const noexcept
+    {
+        return !prefix.empty() || name.substr(0, negation.size()) == negation;
+    }
 };
 
 // A name that equals a candidate stands for it alone, even where it begins others; otherwise the
-// candidates that begin with it match. Case counts.
-//
-// bestName: receives the matching candidate where there is exactly one.
-[[nodiscard]] BestMatch findBestMatch(const OptionIndex& index, std::wstring_view typedName,
-                                      std::wstring& bestName);
+// candidates that begin with it match. Case counts. The texts of the answer are those given.
+[[nodiscard]] BestMatch findBestMatch(const OptionIndex& index, std::wstring_view typedName);
 
 // All candidates that begin with the name, in table order, each in quotes, separated by ", ".
 [[nodiscard]] std::wstring listCandidates(const OptionIndex& index, std::wstring_view typedName);

@@ -9,9 +9,12 @@ namespace kexa_3_3
 
 std::size_t hyphenPrefixLength(std::wstring_view text, std::size_t position) noexcept
 {
-    const bool hyphen =
-        position < text.size() && std::find(hyphen_characters.begin(), hyphen_characters.end(),
-                                            text[position]) != hyphen_characters.end();
+    if (position >= text.size())
+    {
+        return 0;
+    }
+    const bool hyphen = std::find(hyphen_characters.begin(), hyphen_characters.end(),
+                                  text[position]) != hyphen_characters.end();
     return hyphen ? 1 : 0;
 }
 
@@ -36,6 +39,10 @@ OptionArgument splitOptionArgument(std::wstring_view argument, const WhiteSpace&
     for (std::size_t position = begin; position < argument.size(); ++position)
     {
         const wchar_t character = argument[position];
+        if (character > L'=' && character < 0x80 && whiteSpace.isClassic())
+        {
+            continue; // most characters of names
+        }
         const bool equals = character == L'=';
         if (!equals && !whiteSpace.contains(character))
         {

@@ -23,6 +23,7 @@ class WhiteSpace
 public:
     WhiteSpace();
     [[nodiscard]] bool contains(wchar_t character) const;
+    [[nodiscard]] bool isClassic() const noexcept { return m_facet == nullptr; }
 
 private:
     std::locale m_locale;

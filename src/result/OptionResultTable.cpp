@@ -38,7 +38,12 @@ void appendMoved(OptionResult& target, OptionResult& record) noexcept
     std::move(record.values.begin(), record.values.end(), std::back_inserter(target.values));
 }
 
-bool contains(std::span<const std::wstring_view> names, std::wstring_view name) noexcept
+bool isSharedBy(const StoredOption& stored, std::span<const HashedText> names) noexcept
+{
+    return std::equal(names.begin(), names.end(), stored.names.begin(), stored.names.end());
+}
+
+bool contains(std::span<const HashedText> names, const HashedText& name) noexcept
 {
     return std::find(names.begin(), names.end(), name) != names.end();
 }
@@ -48,24 +53,40 @@ bool contains(std::span<const std::wstring_view> names, std::wstring_view name) 
 void OptionResultTable::store(const OptionDescription& option, OptionResult& record)
 {
     const Names names(option.names);
-    StoredOption* const known = find(names.front());
-    if (known == nullptr)
+    const std::size_t index = option.tableIndex();
+    StoredOption* known = index < m_guesses.size() ? m_guesses[index] : nullptr;
+    if (known == nullptr || !isSharedBy(*known, names))
     {
-        storeNew(names, record);
+        known = find(names.front());
+        if (known == nullptr)
+        {
+            storeNew(names, record);
+            return;
+        }
+        if (!isSharedBy(*known, names))
+        {
+            storeApart(names, record);
+            return;
+        }
+        remember(index, known);
     }
-    else if (std::equal(names.begin(), names.end(), known->names.begin(), known->names.end()))
-    {
-        makeRoom(known->result, record);
-        keepTexts(record);
-        appendMoved(known->result, record);
-    }
-    else
-    {
-        storeApart(names, record);
-    }
+    makeRoom(known->result, record);
+    keepTexts(record);
+    appendMoved(known->result, record);
 }
 
-StoredOption* OptionResultTable::find(std::wstring_view name) noexcept
+// Notes the record of an option for the next time.
+void OptionResultTable::remember(std::size_t index, StoredOption* stored)
+{
+    if (index >= m_guesses.size())
+    {
+        reserveMore(m_guesses, index + 1 - m_guesses.size(), expected_names);
+        m_guesses.resize(index + 1);
+    }
+    m_guesses[index] = stored;
+}
+
+StoredOption* OptionResultTable::find(const HashedText& name) noexcept
 {
     const std::uint32_t number = m_names.find(name);
     return number == TextTable::absent ? nullptr : m_records[m_recordOf[number]].get();
@@ -101,7 +122,7 @@ void OptionResultTable::storeApart(Names names, OptionResult& record)
 std::vector<StoredOption*> OptionResultTable::takeRecords(Names names)
 {
     std::vector<StoredOption*> targets;
-    for (const std::wstring_view name : names)
+    for (const HashedText& name : names)
     {
         StoredOption* target = find(name);
         if (target == nullptr)
@@ -110,18 +131,18 @@ std::vector<StoredOption*> OptionResultTable::takeRecords(Names names)
             RecordPointer joined = makeRecord(names.subspan(0, 1));
             joined->result = first.result;
             joined->names = first.names;
-            joined->names.push_back(m_strings.keep(name));
+            joined->names.emplace_back(name, m_strings.keep(name));
             targets.erase(std::remove(targets.begin(), targets.end(), &first), targets.end());
             target = &bind(std::move(joined));
         }
         const auto foreign =
             std::find_if(target->names.begin(), target->names.end(),
-                         [names](std::wstring_view other) { return !contains(names, other); });
+                         [names](const HashedText& other) { return !contains(names, other); });
         if (foreign != target->names.end())
         {
-            std::vector<std::wstring_view> own;
+            std::vector<HashedText> own;
             std::copy_if(target->names.begin(), target->names.end(), std::back_inserter(own),
-                         [names](std::wstring_view other) { return contains(names, other); });
+                         [names](const HashedText& other) { return contains(names, other); });
             RecordPointer apart = makeRecord(own);
             apart->result = target->result;
             target = &bind(std::move(apart));
@@ -136,18 +157,19 @@ std::vector<StoredOption*> OptionResultTable::takeRecords(Names names)
 
 OptionResultTable::RecordPointer OptionResultTable::makeRecord(Names names)
 {
-    void* const memory = m_strings.memory().allocate(sizeof(StoredOption), alignof(StoredOption));
+    void* const memory = m_strings.memory().take(sizeof(StoredOption), alignof(StoredOption));
     RecordPointer stored(new (memory) StoredOption(m_memory));
     stored->names.reserve(names.size());
-    for (const std::wstring_view name : names)
+    for (const HashedText& name : names)
     {
         if (contains(stored->names, name))
         {
             continue; // an option may list a name twice; it is one entry all the same
         }
         const std::uint32_t number = m_names.find(name);
-        stored->names.push_back(number == TextTable::absent ? m_strings.keep(name)
-                                                            : m_names.text(number));
+        stored->names.emplace_back(name, number == TextTable::absent
+                                             ? m_strings.keep(name)
+                                             : std::wstring_view(m_names.text(number)));
     }
     return stored;
 }
@@ -160,7 +182,7 @@ StoredOption& OptionResultTable::bind(RecordPointer stored)
     reserveMore(m_records, 1, expected_names);
 
     const auto record = static_cast<std::uint32_t>(m_records.size());
-    for (const std::wstring_view name : stored->names)
+    for (const HashedText& name : stored->names)
     {
         const std::uint32_t number = m_names.insert(name);
         if (number == m_recordOf.size())
@@ -168,7 +190,7 @@ StoredOption& OptionResultTable::bind(RecordPointer stored)
             m_recordOf.push_back(record);
             continue;
         }
-        std::pmr::vector<std::wstring_view>& former = m_records[m_recordOf[number]]->names;
+        std::pmr::vector<HashedText>& former = m_records[m_recordOf[number]]->names;
         former.erase(std::remove(former.begin(), former.end(), name), former.end());
         m_recordOf[number] = record;
     }

@@ -24,7 +24,7 @@ struct StoredOption
 {
     explicit StoredOption(std::pmr::memory_resource& memory) : names(&memory), result(memory) {}
 
-    std::pmr::vector<std::wstring_view> names;
+    std::pmr::vector<HashedText> names;
     OptionResult result;
 };
 
@@ -41,11 +41,15 @@ public:
     void store(const OptionDescription& option, OptionResult& record);
 
     // The record of a name, or null. It stays where it is as long as the table lives.
-    [[nodiscard]] StoredOption* find(std::wstring_view name) noexcept;
+    [[nodiscard]] StoredOption* find(const HashedText& name) noexcept;
+    [[nodiscard]] StoredOption* find(std::wstring_view name) noexcept
+    {
+        return find(HashedText(name));
+    }
 
     // The names in the order of their first storing, each with its record.
     [[nodiscard]] std::size_t size() const noexcept { return m_names.size(); }
-    [[nodiscard]] std::wstring_view name(std::size_t number) const
+    [[nodiscard]] const HashedText& name(std::size_t number) const
     {
         return m_names.text(static_cast<std::uint32_t>(number));
     }
@@ -55,7 +59,7 @@ public:
     }
 
 private:
-    using Names = std::span<const std::wstring_view>;
+    using Names = std::span<const HashedText>;
 
     // The memory of a record belongs to m_strings; only the object is destroyed.
     struct Destroy
@@ -64,6 +68,7 @@ private:
     };
     using RecordPointer = std::unique_ptr<StoredOption, Destroy>;
 
+    void remember(std::size_t index, StoredOption* stored);
     void storeNew(Names names, OptionResult& record);
     void storeApart(Names names, OptionResult& record);
 
@@ -80,6 +85,9 @@ private:
 
     Garbage& m_strings;
     SmallBlocks m_memory;
+    // The record that an option of some table was stored in last, by its index there: a guess,
+    // which saves the search where the names agree.
+    std::vector<StoredOption*> m_guesses;
     TextTable m_names;
     std::vector<std::uint32_t> m_recordOf; // by the numbers of m_names
     std::vector<RecordPointer> m_records;

@@ -117,7 +117,8 @@ bool ParseResult::beginQuery(const wchar_t* name, std::int32_t from, std::int32_
 {
     m_rangeFrom = from;
     m_rangeTo = to;
-    const StoredOption* const stored = name == nullptr ? nullptr : m_options.find(name);
+    const StoredOption* const stored =
+        name == nullptr ? nullptr : m_options.find(std::wstring_view(name));
     m_currentOption = stored == nullptr ? nullptr : &stored->result;
     if (m_currentOption == nullptr)
     {

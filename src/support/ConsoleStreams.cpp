@@ -85,6 +85,13 @@ struct ConsoleStream
         stream.imbue(std::locale::classic());
     }
 
+    // What could not be written once, for want of memory say, must not silence what comes later.
+    std::wostream& ready()
+    {
+        stream.clear();
+        return stream;
+    }
+
     ConsoleBuffer buffer;
     std::wostream stream;
 };
@@ -94,13 +101,13 @@ struct ConsoleStream
 std::wostream& ucout()
 {
     static ConsoleStream console(ConsoleTarget::output);
-    return console.stream;
+    return console.ready();
 }
 
 std::wostream& ucerr()
 {
     static ConsoleStream console(ConsoleTarget::error);
-    return console.stream;
+    return console.ready();
 }
 
 } // namespace kexa_3_3

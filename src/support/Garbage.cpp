@@ -22,7 +22,7 @@ std::wstring_view Garbage::internText(std::wstring_view text)
 std::wstring_view Garbage::keep(std::wstring_view text)
 {
     const std::size_t size = (text.size() + 1) * sizeof(wchar_t);
-    auto* const copy = static_cast<wchar_t*>(m_memory.allocate(size, alignof(wchar_t)));
+    auto* const copy = static_cast<wchar_t*>(m_memory.take(size, alignof(wchar_t)));
     std::char_traits<wchar_t>::copy(copy, text.data(), text.size());
     copy[text.size()] = L'\0';
     return {copy, text.size()};

@@ -2,9 +2,10 @@
 #pragma once
 
 #include <cstddef>
-#include <memory_resource>
 #include <set>
 #include <string_view>
+
+#include "support/Arena.h"
 
 namespace kexa_3_3
 {
@@ -32,10 +33,10 @@ public:
     std::wstring_view keep(std::wstring_view text);
 
     // Memory that lives as long as the pool. What is allocated from it is never given back.
-    std::pmr::memory_resource& memory() noexcept { return m_memory; }
+    Arena& memory() noexcept { return m_memory; }
 
 private:
-    std::pmr::monotonic_buffer_resource m_memory;
+    Arena m_memory;
     std::pmr::set<std::wstring_view> m_interned;
 };
 

@@ -41,30 +41,24 @@ std::uint64_t hashOf(std::wstring_view text) noexcept
     return hash;
 }
 
-std::size_t TextTable::slotOf(std::wstring_view text, std::uint64_t hash) const noexcept
+std::size_t TextTable::slotOf(const HashedText& text) const noexcept
 {
     const std::size_t mask = m_slots.size() - 1;
-    std::size_t slot = hash & mask;
-    while (m_slots[slot] != absent)
+    std::size_t slot = text.hash() & mask;
+    while (m_slots[slot] != absent && !(m_entries[m_slots[slot]] == text))
     {
-        const Entry& entry = m_entries[m_slots[slot]];
-        if (entry.hash == hash && entry.text == text)
-        {
-            break;
-        }
         slot = (slot + 1) & mask;
     }
     return slot;
 }
 
-std::uint32_t TextTable::insert(std::wstring_view text) noexcept
+std::uint32_t TextTable::insert(const HashedText& text) noexcept
 {
-    const std::uint64_t hash = hashOf(text);
-    std::uint32_t& slot = m_slots[slotOf(text, hash)];
+    std::uint32_t& slot = m_slots[slotOf(text)];
     if (slot == absent)
     {
         slot = static_cast<std::uint32_t>(m_entries.size());
-        m_entries.push_back({text, hash});
+        m_entries.push_back(text);
     }
     return slot;
 }
@@ -76,7 +70,7 @@ void TextTable::grow(std::size_t needed)
     const std::size_t mask = slots.size() - 1;
     for (std::size_t number = 0; number < m_entries.size(); ++number)
     {
-        std::size_t slot = m_entries[number].hash & mask;
+        std::size_t slot = m_entries[number].hash() & mask;
         while (slots[slot] != absent)
         {
             slot = (slot + 1) & mask;

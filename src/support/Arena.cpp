@@ -1,0 +1,52 @@
+#include "support/Arena.h"
+
+#include <algorithm>
+#include <limits>
+#include <new>
+
+namespace kexa_3_3
+{
+
+namespace
+{
+
+constexpr std::size_t largest_shared_block = std::size_t{1} << 20;
+
+} // namespace
+
+Arena::~Arena()
+{
+    while (m_blocks != nullptr)
+    {
+        Block* const previous = m_blocks->previous;
+        ::operator delete(m_blocks);
+        m_blocks = previous;
+    }
+}
+
+void* Arena::takeFromNewBlock(std::size_t size)
+{
+    if (size > m_nextBlock / 4)
+    {
+        // A block of its own: what is left of the shared one stays in use.
+        return addBlock(size);
+    }
+    char* const block = addBlock(m_nextBlock);
+    m_free = block + size;
+    m_left = m_nextBlock - size;
+    m_nextBlock = std::min(2 * m_nextBlock, std::max(m_nextBlock, largest_shared_block));
+    return block;
+}
+
+char* Arena::addBlock(std::size_t size)
+{
+    if (size > std::numeric_limits<std::size_t>::max() - sizeof(Block))
+    {
+        throw std::bad_alloc();
+    }
+    void* const memory = ::operator new(sizeof(Block) + size);
+    m_blocks = new (memory) Block{m_blocks};
+    return static_cast<char*>(memory) + sizeof(Block);
+}
+
+} // namespace kexa_3_3
