@@ -16,6 +16,10 @@ else()
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
         target_compile_options(kexa_build_settings INTERFACE
             -Wduplicated-cond -Wlogical-op -Wuseless-cast)
+        if(CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+            # GCC 12 sees copies overlap in every concatenation of strings.
+            target_compile_options(kexa_build_settings INTERFACE -Wno-restrict)
+        endif()
     endif()
     if(KEXA_WARNINGS_AS_ERRORS)
         target_compile_options(kexa_build_settings INTERFACE -Werror)
