@@ -136,9 +136,13 @@ std::string withExponent(const std::string& digits, int exponent)
 // Tries one digit more until the text reads back to the number.
 std::string textOfDouble(double number)
 {
-    if (number == 0 || !std::isfinite(number))
+    if (number == 0)
     {
-        return number == 0 ? "0" : "";
+        return std::signbit(number) ? "-0" : "0";
+    }
+    if (!std::isfinite(number)) // only a host can declare such a value
+    {
+        return std::isnan(number) ? "nan" : number < 0 ? "-inf" : "inf";
     }
     for (int precision = 0; precision <= 16; ++precision)
     {

@@ -48,8 +48,8 @@ void appendAbbreviationSets(std::vector<OptionSet>& sets)
     set->declarations.addOption(L"ver", value_type_string);
     set->declarations.addOption(L"version", value_type_integer);
     set->declarations.addOption(L"verbose", value_type_boolean);
-    set->alphabet = {L"--ver", L"--ver=x", L"-vers",    L"\u2013verb", L"--vers=7",   L"--vers 7",
-                     L"x",     L"7",       L"--no-ver", L"--ve",       L"--verbose=1"};
+    set->alphabet = {L"--ver", L"--ver=x", L"-vers",    L"\u2013verb", L"--vers=7",    L"--vers 7",
+                     L"x",     L"7",       L"--no-ver", L"--ve",       L"--verbose=1", L"--n"};
 
     set = &append(sets, "options that take no value");
     set->declarations.addOption(L"force,f", value_type_none);
@@ -141,9 +141,9 @@ void appendHyphenSets(std::vector<OptionSet>& sets)
                   flag_unknown_is_error);
     set->declarations.addOption(L"name", value_type_string);
     set->declarations.addOption(L"verbose", value_type_boolean);
-    set->alphabet = {L"--name a b", L"--name\ta", L"--name =a",   L" --name",
-                     L"--name ",    L"--na  =",   L"x\r",         L"--verb 1",
-                     L"--verb ",    L"# x",       L"  ; --name=1"};
+    set->alphabet = {L"--name a b", L"--name\ta", L"--name =a", L" --name",
+                     L"--name ",    L"--na  =",   L"--name= a", L"x\r",
+                     L"--verb 1",   L"--verb ",   L"# x",       L"  ; --name=1"};
 
     set = &append(sets, "the trace keyword", flag_unknown_is_error | flag_positional_takes_rest);
     set->declarations.addOption(L"name", value_type_string);

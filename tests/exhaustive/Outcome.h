@@ -2,6 +2,7 @@
 #ifndef NAIVE_OUTCOME_H
 #define NAIVE_OUTCOME_H
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -56,6 +57,9 @@ std::wstring describe(const Outcome& outcome);
 // Every name of every option, in table order.
 std::vector<std::wstring> namesOf(const Registry& registry);
 
+// No parse here gives as many answers: a walk that gets there does not end.
+constexpr std::size_t endlessWalk = 10000;
+
 // Asks a result: naive::Result, or anything with its query operations.
 template <class SomeResult>
 NameAnswers askName(SomeResult& result, const std::wstring& name, std::int32_t from,
@@ -69,19 +73,22 @@ NameAnswers askName(SomeResult& result, const std::wstring& name, std::int32_t f
     do
     {
         answers.afterPresent.push_back(result.getNextValue());
-    } while (answers.afterPresent.back().code == 0);
+    } while (answers.afterPresent.back().code == 0 && answers.afterPresent.size() < endlessWalk);
     // The walk goes on behind a first refusal: a value at exactly `to` is still given.
     answers.values.push_back(result.getFirstValue(name, from, to));
     do
     {
         answers.values.push_back(result.getNextValue());
-    } while (answers.values.back().code == 0);
+    } while (answers.values.back().code == 0 && answers.values.size() < endlessWalk);
     result.getFirstValue(name, from, to);
     do
     {
         answers.positions.push_back(result.getNextPosition());
-    } while (answers.positions.back() != no_position);
-    answers.last = result.getLastValue(name, from, to);
+    } while (answers.positions.back() != no_position && answers.positions.size() < endlessWalk);
+    if (answers.values.size() < endlessWalk)
+    {
+        answers.last = result.getLastValue(name, from, to);
+    }
     return answers;
 }
 
