@@ -1,0 +1,132 @@
+// What a parse, a reading and a list of declarations ask the heap for grows no faster than their
+// size does.
+#include <array>
+#include <cstdint>
+#include <ostream>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "AllocationCount.h"
+#include "Hosts.h"
+
+namespace
+{
+
+constexpr std::size_t smallest = 1024;
+
+// Costs at 1, 2, 4 and 8 times the smallest size.
+using Costs = std::array<AllocationCount, 4>;
+
+template <class Measure>
+Costs measureAt(Measure measure)
+{
+    Costs costs;
+    for (std::size_t step = 0; step < costs.size(); ++step)
+    {
+        costs[step] = measure(smallest << step);
+    }
+    return costs;
+}
+
+// Each doubling may add at most twice what the one before it added, and a quarter for memory that
+// is taken ahead in powers of two. Quadratic growth adds four times as much.
+void expectLinear(const std::string& what, std::uint64_t first, std::uint64_t second,
+                  std::uint64_t third)
+{
+    const std::uint64_t allowed = 2 * (second - first) + (second - first) / 2 + 64;
+    EXPECT_LE(third - second, allowed)
+        << what << ": " << first << ", " << second << ", " << third << " for sizes doubling";
+}
+
+void expectLinear(const Costs& costs)
+{
+    for (std::size_t step = 2; step < costs.size(); ++step)
+    {
+        expectLinear("blocks", costs[step - 2].blocks, costs[step - 1].blocks, costs[step].blocks);
+        expectLinear("bytes", costs[step - 2].bytes, costs[step - 1].bytes, costs[step].bytes);
+    }
+}
+
+struct Row
+{
+    const char* name;
+    Style style;
+};
+
+void PrintTo(const Row& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+class GrowthWithArguments : public testing::TestWithParam<Row>
+{
+};
+
+constexpr Row rows[] = {
+    {"FullNames", Style::fullNames},         {"Abbreviations", Style::abbreviations},
+    {"NextArguments", Style::nextArguments}, {"Positional", Style::positional},
+    {"LeftOver", Style::leftOver},           {"Unknown", Style::unknown},
+    {"ListPieces", Style::listPieces},       {"AllowedValues", Style::allowedValues}};
+
+INSTANTIATE_TEST_SUITE_P(Styles, GrowthWithArguments, testing::ValuesIn(rows),
+                         [](const testing::TestParamInfo<Row>& row)
+                         { return std::string(row.param.name); });
+
+constexpr std::size_t options = 30;
+
+// Everything else here would pass if the library's allocations were not counted.
+TEST(AllocationCount, SeesWhatTheLibraryAsksFor)
+{
+    const ParserPointer parser = declareOptions(0);
+    parser->addOption(L"text", L"", kexa_3_3::value_type_string, L"");
+    const ResultPointer result = makeResult(*parser);
+    const std::wstring argument = L"--text=" + std::wstring(100000, L'x');
+    const wchar_t* const arguments[] = {L"program", argument.c_str()};
+    const AllocationCount count = countAllocations(
+        [&] { EXPECT_EQ(parser->parse(2, arguments, result.get()), kexa_3_3::result_success); });
+    EXPECT_GE(count.blocks, 1U);
+    EXPECT_GE(count.bytes, 100000 * sizeof(wchar_t));
+}
+
+TEST_P(GrowthWithArguments, ParsingIsLinear)
+{
+    expectLinear(measureAt(
+        [](std::size_t arguments)
+        {
+            const CommandLine line(GetParam().style, options, arguments);
+            ResultPointer result;
+            const AllocationCount count = countAllocations([&] { result = line.parse(); });
+            EXPECT_EQ(line.countValues(*result), line.expectedValues());
+            return count;
+        }));
+}
+
+TEST_P(GrowthWithArguments, ReadingIsLinear)
+{
+    expectLinear(measureAt(
+        [](std::size_t arguments)
+        {
+            const CommandLine line(GetParam().style, options, arguments);
+            const ResultPointer result = line.parse();
+            return countAllocations([&] { static_cast<void>(line.countValues(*result)); });
+        }));
+}
+
+TEST(GrowthWithDeclarations, DeclaringIsLinear)
+{
+    expectLinear(measureAt([](std::size_t count)
+                           { return countAllocations([&] { declareOptions(count); }); }));
+}
+
+TEST(GrowthWithDeclarations, FullHelpIsLinear)
+{
+    expectLinear(measureAt(
+        [](std::size_t count)
+        {
+            const ParserPointer parser = declareOptions(count);
+            return countAllocations([&] { EXPECT_NE(parser->showFullHelp(false)[0], L'\0'); });
+        }));
+}
+
+} // namespace

@@ -1,0 +1,72 @@
+// Command lines of any size, and the hosts that parse them.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <kexa/kexa.h>
+
+struct Release
+{
+    template <class Interface>
+    void operator()(Interface* object) const
+    {
+        object->release();
+    }
+};
+using ParserPointer = std::unique_ptr<kexa_3_3::IParser, Release>;
+using ResultPointer = std::unique_ptr<kexa_3_3::IParseResult, Release>;
+
+// The longest name is "option-12345-name".
+std::wstring optionName(std::size_t number);
+std::wstring optionAbbreviation(std::size_t number); // a prefix that only that name has
+
+// A parser with that many options: boolean ones, numbers and texts by turns.
+ParserPointer declareOptions(std::size_t count);
+
+ResultPointer makeResult(kexa_3_3::IParser& parser);
+
+// Which arguments a command line holds.
+enum class Style
+{
+    fullNames,     // --option-00012-name=value
+    abbreviations, // --option-00012=value
+    nextArguments, // --option-00012-name value (two arguments)
+    positional,    // value
+    leftOver,      // value, behind "--"
+    unknown,       // --other-12=value, dropped
+    listPieces,    // one argument with a list of values
+    allowedValues  // --choice=full-or-abbreviated value
+};
+
+// A command line of one style, with the parser that understands it.
+class CommandLine
+{
+public:
+    // options: how many are declared (or allowed values); arguments: how many are given.
+    CommandLine(Style style, std::size_t options, std::size_t arguments);
+
+    // Parses into a new result. Throws std::runtime_error where the parser finds an error, and
+    // where fewer values than arguments are in the result.
+    ResultPointer parse() const;
+
+    // The number of values and left-over arguments in a result.
+    std::size_t countValues(kexa_3_3::IParseResult& result) const;
+
+    // What countValues must answer.
+    std::size_t expectedValues() const noexcept { return m_expectedValues; }
+
+private:
+    void addNamed(std::size_t options, std::size_t arguments, Style style);
+    void addPlain(std::size_t arguments);
+    void addList(std::size_t pieces);
+    void addAllowed(std::size_t values, std::size_t arguments);
+
+    ParserPointer m_parser;
+    std::vector<std::wstring> m_names; // of the options to read
+    std::vector<std::wstring> m_arguments;
+    std::vector<const wchar_t*> m_vector;
+    std::size_t m_expectedValues = 0;
+};
