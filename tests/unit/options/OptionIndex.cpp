@@ -1,0 +1,223 @@
+// The index of names, compared with a walk over all of them.
+#include "options/OptionIndex.h"
+
+#include <deque>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "TextPrinting.h"
+
+namespace
+{
+
+using kexa_3_3::HashedText;
+using kexa_3_3::OptionIndex;
+using toolbox::toUtf8;
+
+using Texts = std::vector<std::wstring>;
+
+struct Option
+{
+    bool boolean;
+    std::deque<std::wstring> names; // a name stays where it is when others come
+};
+
+bool beginsWith(const std::wstring& text, const std::wstring& beginning)
+{
+    return text.compare(0, beginning.size(), beginning) == 0;
+}
+
+// The table that the index stands beside, searched from its front.
+class NaiveTable
+{
+public:
+    std::deque<Option> options;
+
+    [[nodiscard]] std::int64_t findNamed(const std::wstring& text) const
+    {
+        return find(text, false);
+    }
+    [[nodiscard]] std::int64_t findAnswering(const std::wstring& text) const
+    {
+        return find(text, true);
+    }
+
+    // The matching candidates in table order; the option of the last goes to `option`.
+    [[nodiscard]] Texts candidates(const std::wstring& beginning, std::int64_t& option) const
+    {
+        Texts matches;
+        for (std::size_t index = 0; index < options.size(); ++index)
+        {
+            for (const std::wstring& name : options[index].names)
+            {
+                for (const std::wstring& prefix : {std::wstring(), std::wstring(L"no-")})
+                {
+                    if ((prefix.empty() || options[index].boolean) &&
+                        beginsWith(prefix + name, beginning))
+                    {
+                        matches.push_back(prefix + name);
+                        option = static_cast<std::int64_t>(index);
+                    }
+                }
+            }
+        }
+        return matches;
+    }
+
+private:
+    [[nodiscard]] std::int64_t find(const std::wstring& text, bool negations) const
+    {
+        for (std::size_t index = 0; index < options.size(); ++index)
+        {
+            for (const std::wstring& name : options[index].names)
+            {
+                if (name == text || (negations && options[index].boolean && L"no-" + name == text))
+                {
+                    return static_cast<std::int64_t>(index);
+                }
+            }
+        }
+        return OptionIndex::none;
+    }
+};
+
+void expectAgreement(const OptionIndex& index, const NaiveTable& table, const std::wstring& text)
+{
+    ASSERT_EQ(index.findNamed(HashedText(text)), table.findNamed(text)) << toUtf8(text);
+    ASSERT_EQ(index.findAnswering(text), table.findAnswering(text)) << toUtf8(text);
+    std::int64_t option = OptionIndex::none;
+    const Texts candidates = table.candidates(text, option);
+    ASSERT_EQ(index.listPrefix(text), candidates) << toUtf8(text);
+    const OptionIndex::PrefixMatches matches = index.matchPrefix(text);
+    ASSERT_EQ(matches.count, candidates.size()) << toUtf8(text);
+    if (matches.count == 1)
+    {
+        ASSERT_EQ(matches.option, option) << toUtf8(text);
+        ASSERT_EQ((matches.negated ? L"no-" : L"") + std::wstring(matches.name), candidates[0])
+            << toUtf8(text);
+    }
+}
+
+void addName(OptionIndex& index, NaiveTable& table, std::size_t option, const std::wstring& name)
+{
+    Option& target = table.options[option];
+    target.names.push_back(name);
+    index.reserve(1);
+    index.add(HashedText(target.names.back()), option, target.names.size() - 1, target.boolean);
+}
+
+// Short texts over few characters, so that names meet, begin each other and look like negations.
+class RandomTexts
+{
+public:
+    explicit RandomTexts(unsigned seed) : m_random(seed) {}
+
+    std::wstring next()
+    {
+        static const wchar_t* const parts[] = {L"n",   L"o",  L"-",      L"a",     L"no-",
+                                               L"no-", L"ab", L"\u00E9", L"\uFFFD"};
+        std::wstring text;
+        for (unsigned count = below(4); count != 0; --count)
+        {
+            text += parts[below(static_cast<unsigned>(std::size(parts)))];
+        }
+        return text;
+    }
+    unsigned below(unsigned bound) { return static_cast<unsigned>(m_random() % bound); }
+
+private:
+    std::mt19937 m_random;
+};
+
+TEST(OptionIndex, AgreesWithAWalkOverTheTable)
+{
+    for (unsigned seed = 0; seed < 60; ++seed)
+    {
+        RandomTexts random(seed);
+        OptionIndex index;
+        NaiveTable table;
+        for (int step = 0; step < 60; ++step)
+        {
+            if (table.options.empty() || random.below(3) == 0)
+            {
+                table.options.push_back({random.below(2) == 0, {}});
+            }
+            // An option may get a name at any time, between other searches.
+            const auto count = static_cast<unsigned>(table.options.size());
+            addName(index, table, random.below(count), random.next());
+            if (random.below(4) == 0)
+            {
+                for (int search = 0; search < 5; ++search)
+                {
+                    ASSERT_NO_FATAL_FAILURE(expectAgreement(index, table, random.next()))
+                        << "seed " << seed;
+                }
+            }
+        }
+        for (const Option& option : table.options)
+        {
+            for (const std::wstring& name : option.names)
+            {
+                ASSERT_NO_FATAL_FAILURE(expectAgreement(index, table, name)) << "seed " << seed;
+                ASSERT_NO_FATAL_FAILURE(expectAgreement(index, table, L"no-" + name))
+                    << "seed " << seed;
+            }
+        }
+    }
+}
+
+TEST(OptionIndex, EmptyIndexFindsNothing)
+{
+    const OptionIndex index;
+    for (const wchar_t* const text : {L"", L"a", L"no-", L"no-a"})
+    {
+        EXPECT_EQ(index.findNamed(HashedText(text)), OptionIndex::none);
+        EXPECT_EQ(index.findAnswering(text), OptionIndex::none);
+        EXPECT_EQ(index.matchPrefix(text).count, 0U);
+        EXPECT_EQ(index.matchPrefix(text).option, OptionIndex::none);
+        EXPECT_EQ(index.listPrefix(text), Texts());
+    }
+    EXPECT_EQ(index.firstPositional(), OptionIndex::none);
+}
+
+TEST(OptionIndex, ListIsInTableOrderWhateverTheOrderOfAdding)
+{
+    OptionIndex index;
+    NaiveTable table;
+    table.options = {{true, {}}, {false, {}}, {true, {}}};
+    addName(index, table, 2, L"no");
+    addName(index, table, 0, L"note");
+    EXPECT_EQ(index.listPrefix(L"no"), (Texts{L"note", L"no-note", L"no", L"no-no"}));
+    addName(index, table, 1, L"north");
+    addName(index, table, 0, L"nothing");
+    EXPECT_EQ(index.listPrefix(L"no"),
+              (Texts{L"note", L"no-note", L"nothing", L"no-nothing", L"north", L"no", L"no-no"}));
+    EXPECT_EQ(index.listPrefix(L"no-no"), (Texts{L"no-note", L"no-nothing", L"no-no"}));
+}
+
+TEST(OptionIndex, NameAndNegationOfTwoOptionsGoToTheFirst)
+{
+    OptionIndex index;
+    NaiveTable table;
+    table.options = {{false, {}}, {true, {}}, {false, {}}};
+    addName(index, table, 2, L"no-a");
+    addName(index, table, 1, L"a");
+    EXPECT_EQ(index.findAnswering(L"no-a"), 1);
+    EXPECT_EQ(index.findNamed(HashedText(L"no-a")), 2);
+    addName(index, table, 0, L"no-a");
+    EXPECT_EQ(index.findAnswering(L"no-a"), 0);
+}
+
+TEST(OptionIndex, FirstPositionalIsTheFirstInTableOrder)
+{
+    OptionIndex index;
+    index.notePositional(7);
+    EXPECT_EQ(index.firstPositional(), 7);
+    index.notePositional(9);
+    EXPECT_EQ(index.firstPositional(), 7);
+    index.notePositional(0);
+    EXPECT_EQ(index.firstPositional(), 0);
+}
+
+} // namespace

@@ -1,0 +1,78 @@
+// What the parts of recognition need around them: a registry, a handler, a collector.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "kexa/event_handler.h"
+#include "kexa/option.h"
+
+#include "options/RegisteredOptionStorage.h"
+#include "recognition/IArgumentParser.h"
+#include "result/IResultCollector.h"
+#include "support/Garbage.h"
+
+#include "TextPrinting.h"
+
+namespace unit
+{
+
+using Texts = std::vector<std::wstring>;
+
+// One call of storeOption, written down: "name [position text=value, ...]", the texts being those
+// of the values; without values "name [position]".
+class Collector final : public kexa_3_3::IResultCollector
+{
+public:
+    kexa_3_3::result_t storeOption(const kexa_3_3::OptionDescription& option,
+                                   kexa_3_3::OptionResult& record) override;
+
+    Texts stored;
+};
+
+// Writes events down: "option NAME", "value NAME TEXT NUMBER", "unknown ARGUMENT".
+class Handler final : public kexa_3_3::EventHandler
+{
+public:
+    bool onOptionParsed(const wchar_t* name) override;
+    bool onValueParsed(const wchar_t* name, const kexa_3_3::ValueRecord* value) override;
+    bool onUnknownArgument(const wchar_t* argument) override;
+
+    Texts events;
+    // Called for every value; gives the answer.
+    std::function<bool(const kexa_3_3::ValueRecord&)> judge;
+};
+
+// Parsers under test share one registry; the sequence counter starts at 0 in every test.
+class RecognitionTest : public testing::Test
+{
+protected:
+    RecognitionTest();
+
+    kexa_3_3::OptionDescription& add(const wchar_t* names,
+                                     std::int32_t valueType = kexa_3_3::value_type_string);
+
+    // What a parser answered to one vector of arguments.
+    struct Outcome
+    {
+        int recognized = 0;
+        int code = -1; // of parse, where recognized
+        std::int64_t optionIndex = -2;
+        std::wstring message;
+        Texts rest; // the arguments left
+
+        friend bool operator==(const Outcome&, const Outcome&) = default;
+    };
+    Outcome run(kexa_3_3::IArgumentParser& parser, const Texts& arguments);
+
+    kexa_3_3::Garbage pool{4096};
+    kexa_3_3::RegisteredOptionStorage options{pool, L','};
+    Handler handler;
+    Collector collector;
+};
+
+} // namespace unit

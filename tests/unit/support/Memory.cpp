@@ -1,0 +1,183 @@
+// Memory given back all at once, memory for objects that may stay small, and room made ahead.
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <memory_resource>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "support/Arena.h"
+#include "support/Growth.h"
+#include "support/SmallBlocks.h"
+
+#include "AllocationCount.h"
+
+namespace
+{
+
+using kexa_3_3::Arena;
+using kexa_3_3::reserveMore;
+using kexa_3_3::SmallBlocks;
+using unit::allocationCount;
+
+struct Piece
+{
+    unsigned char* bytes;
+    std::size_t size;
+    unsigned char filling;
+};
+
+// Every piece is filled to its end: one that overlaps another, or the end of its block, shows.
+TEST(Arena, PiecesOfAnySizeLieApart)
+{
+    Arena arena(64);
+    std::vector<Piece> pieces;
+    for (std::size_t number = 0; number < 3000; ++number)
+    {
+        const std::size_t size = number % 37 == 0 ? 5000 : 1 + number * 7 % 61;
+        const std::size_t alignment = std::size_t{1} << number % 5;
+        auto* const bytes = static_cast<unsigned char*>(arena.take(size, alignment));
+        ASSERT_EQ(reinterpret_cast<std::uintptr_t>(bytes) % alignment, 0U) << number;
+        pieces.push_back({bytes, size, static_cast<unsigned char>(number % 251)});
+        std::memset(bytes, pieces.back().filling, size);
+    }
+    for (const Piece& piece : pieces)
+    {
+        ASSERT_TRUE(std::all_of(piece.bytes, piece.bytes + piece.size,
+                                [&piece](unsigned char byte) { return byte == piece.filling; }));
+    }
+}
+
+TEST(Arena, FirstBlockIsTakenOnFirstUseAndHoldsWhatItShould)
+{
+    const std::size_t before = allocationCount();
+    Arena arena(1024);
+    EXPECT_EQ(allocationCount(), before);
+    for (int count = 0; count < 16; ++count)
+    {
+        static_cast<void>(arena.take(64, 8));
+    }
+    EXPECT_EQ(allocationCount(), before + 1);
+    static_cast<void>(arena.take(1, 1));
+    EXPECT_EQ(allocationCount(), before + 2);
+}
+
+TEST(Arena, LargePieceLeavesTheSharedBlockInUse)
+{
+    Arena arena(1024);
+    static_cast<void>(arena.take(8, 8));
+    const std::size_t before = allocationCount();
+    static_cast<void>(arena.take(100000, 8));
+    EXPECT_EQ(allocationCount(), before + 1);
+    static_cast<void>(arena.take(512, 8));
+    EXPECT_EQ(allocationCount(), before + 1);
+}
+
+TEST(Arena, NumberOfBlocksGrowsSlowly)
+{
+    Arena arena(64);
+    const std::size_t before = allocationCount();
+    for (int count = 0; count < 100000; ++count)
+    {
+        static_cast<void>(arena.take(16, 8)); // 1.6 MB together
+    }
+    EXPECT_LE(allocationCount() - before, 20U);
+}
+
+TEST(Arena, IsAMemoryResourceThatFreesNothingEarly)
+{
+    Arena arena(256);
+    Arena other(256);
+    EXPECT_TRUE(arena.is_equal(arena));
+    EXPECT_FALSE(arena.is_equal(other));
+    std::pmr::vector<int> numbers(&arena);
+    for (int number = 0; number < 1000; ++number)
+    {
+        numbers.push_back(number);
+    }
+    const int* const kept = numbers.data();
+    numbers = std::pmr::vector<int>(&arena);
+    numbers.shrink_to_fit();
+    for (int number = 0; number < 1000; ++number)
+    {
+        ASSERT_EQ(kept[number], number);
+    }
+}
+
+TEST(SmallBlocks, SmallBlocksComeFromTheArena)
+{
+    Arena arena(4096);
+    static_cast<void>(arena.take(1, 1));
+    SmallBlocks memory(arena);
+    const std::size_t before = allocationCount();
+    for (const std::size_t size : {std::size_t{1}, std::size_t{100}, std::size_t{256}})
+    {
+        void* const block = memory.allocate(size, 8);
+        std::memset(block, 0xA5, size);
+        memory.deallocate(block, size, 8);
+    }
+    EXPECT_EQ(allocationCount(), before);
+}
+
+TEST(SmallBlocks, LargeBlocksComeFromTheHeapAndReturnToIt)
+{
+    Arena arena(1 << 20);
+    static_cast<void>(arena.take(1, 1));
+    SmallBlocks memory(arena);
+    for (const std::size_t size : {std::size_t{257}, std::size_t{100000}})
+    {
+        const std::size_t before = allocationCount();
+        void* const block = memory.allocate(size, 8);
+        EXPECT_EQ(allocationCount(), before + 1) << size;
+        std::memset(block, 0xA5, size);
+        memory.deallocate(block, size, 8); // or a leak checker reports it
+    }
+}
+
+TEST(SmallBlocks, IsEqualToItselfOnly)
+{
+    Arena arena(64);
+    const SmallBlocks first(arena);
+    const SmallBlocks second(arena);
+    EXPECT_TRUE(first.is_equal(first));
+    EXPECT_FALSE(first.is_equal(second));
+}
+
+TEST(Growth, RoomIsThereForAsManyMore)
+{
+    std::vector<int> elements = {1, 2, 3};
+    reserveMore(elements, 100);
+    EXPECT_EQ(elements, (std::vector<int>{1, 2, 3}));
+    const std::size_t before = allocationCount();
+    elements.insert(elements.end(), 100, 0);
+    EXPECT_EQ(allocationCount(), before);
+}
+
+TEST(Growth, RoomAtLeastDoubles)
+{
+    std::vector<int> elements(1000);
+    elements.shrink_to_fit();
+    reserveMore(elements, 1);
+    EXPECT_GE(elements.capacity(), 2000U);
+}
+
+TEST(Growth, FirstRoomIsWhatIsExpected)
+{
+    std::vector<int> elements;
+    reserveMore(elements, 1, 32);
+    EXPECT_GE(elements.capacity(), 32U);
+}
+
+TEST(Growth, NothingIsTakenWhereThereIsRoom)
+{
+    std::vector<int> elements(4);
+    elements.reserve(8);
+    const std::size_t before = allocationCount();
+    reserveMore(elements, 4, 8);
+    reserveMore(elements, 0);
+    EXPECT_EQ(allocationCount(), before);
+}
+
+} // namespace
