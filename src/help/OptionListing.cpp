@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <numeric>
 
 #include "kexa/option.h"
 
@@ -66,6 +67,14 @@ void appendValueForm(std::wstring& column, const OptionDescription& option)
     }
 }
 
+// About how long the listing of the entries becomes: most take a line or two.
+[[nodiscard]] std::size_t expectedLength(const std::vector<const OptionDescription*>& entries)
+{
+    return std::accumulate(entries.begin(), entries.end(), std::size_t{0},
+                           [](std::size_t length, const OptionDescription* entry)
+                           { return length + line_width + 2 * entry->description.size(); });
+}
+
 void appendOption(std::wstring& out, const OptionDescription& option)
 {
     std::wstring column = formatNames(option);
@@ -120,6 +129,7 @@ formatOptionHelp(const std::vector<std::pair<std::wstring_view, std::wstring_vie
         }
     }
     std::wstring out;
+    out.reserve(expectedLength(entries));
     for (const auto& [group, groupText] : groups)
     {
         if (!passesHiddenTest(group, hidden))

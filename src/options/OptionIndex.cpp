@@ -4,7 +4,6 @@
 #include <iterator>
 #include <tuple>
 
-#include "support/Growth.h"
 #include "support/Text.h"
 
 namespace kexa_3_3
@@ -27,11 +26,13 @@ std::int64_t firstOf(std::int64_t left, std::int64_t right) noexcept
 
 } // namespace
 
-void OptionIndex::reserve(std::size_t count)
+void OptionIndex::grow(std::size_t count)
 {
-    m_texts.reserve(count);
-    reserveMore(m_owners, count, expected_names);
-    reserveMore(m_names, count, expected_names);
+    const std::size_t room = std::max({m_names.size() + count, 2 * m_names.size(), expected_names});
+    m_texts.reserve(room - m_texts.size());
+    m_owners.reserve(room);
+    m_names.reserve(room);
+    m_room = room;
 }
 
 void OptionIndex::add(const HashedText& name, std::size_t option, std::size_t position,

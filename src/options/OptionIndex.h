@@ -39,7 +39,13 @@ public:
     };
 
     // Makes room for `count` names more, which adding them needs. Throws std::bad_alloc.
-    void reserve(std::size_t count);
+    void reserve(std::size_t count)
+    {
+        if (m_names.size() + count > m_room)
+        {
+            grow(count);
+        }
+    }
 
     // Adds a name. name: kept alive and unchanged by the caller. option: its index. position: the
     // name's place among those of the option.
@@ -73,6 +79,8 @@ private:
         std::uint32_t boolean : 1;
     };
 
+    void grow(std::size_t count);
+
     // Options that have one text as a name.
     struct Owners
     {
@@ -97,6 +105,7 @@ private:
     // Sorts in the names added since the last search.
     void sortNames() const;
 
+    std::size_t m_room = 0; // for names, in all of the following
     TextTable m_texts;
     std::vector<Owners> m_owners;               // by the numbers of m_texts
     std::vector<Name> m_names;                  // as they were added

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "support/Text.h"
-
 namespace kexa_3_3
 {
 
@@ -24,40 +22,30 @@ WhiteSpace::WhiteSpace()
 {
 }
 
-bool WhiteSpace::contains(wchar_t character) const
-{
-    return m_facet == nullptr ? isClassicSpace(character)
-                              : m_facet->is(std::ctype_base::space, character);
-}
-
 OptionArgument splitOptionArgument(std::wstring_view argument, const WhiteSpace& whiteSpace)
 {
     std::size_t begin = hyphenPrefixLength(argument, 0);
     begin += hyphenPrefixLength(argument, begin);
+    const std::wstring_view rest = argument.substr(begin);
+    const auto end =
+        std::find_if(rest.begin(), rest.end(),
+                     [&whiteSpace](wchar_t character) { return whiteSpace.endsName(character); });
     OptionArgument split;
-    split.name = argument.substr(begin);
-    for (std::size_t position = begin; position < argument.size(); ++position)
+    const auto length = static_cast<std::size_t>(end - rest.begin());
+    split.name = rest.substr(0, length);
+    if (end == rest.end())
     {
-        const wchar_t character = argument[position];
-        if (character > L'=' && character < 0x80 && whiteSpace.isClassic())
-        {
-            continue; // most characters of names
-        }
-        const bool equals = character == L'=';
-        if (!equals && !whiteSpace.contains(character))
-        {
-            continue;
-        }
-        split.name = argument.substr(begin, position - begin);
-        split.hasValue = true;
-        ++position;
-        while (!equals && position < argument.size() && whiteSpace.contains(argument[position]))
-        {
-            ++position;
-        }
-        split.value = argument.substr(position);
-        break;
+        return split;
     }
+    split.hasValue = true;
+    auto value = end + 1;
+    if (*end != L'=')
+    {
+        value = std::find_if(value, rest.end(),
+                             [&whiteSpace](wchar_t character)
+                             { return !whiteSpace.contains(character); });
+    }
+    split.value = rest.substr(static_cast<std::size_t>(value - rest.begin()));
     return split;
 }
 

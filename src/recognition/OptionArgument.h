@@ -6,6 +6,8 @@
 #include <locale>
 #include <string_view>
 
+#include "support/Text.h"
+
 namespace kexa_3_3
 {
 
@@ -22,8 +24,18 @@ class WhiteSpace
 {
 public:
     WhiteSpace();
-    [[nodiscard]] bool contains(wchar_t character) const;
-    [[nodiscard]] bool isClassic() const noexcept { return m_facet == nullptr; }
+    // Whether the character is white space or "=". Letters stand above both in the basic set.
+    [[nodiscard]] bool endsName(wchar_t character) const
+    {
+        const bool mayEnd = character <= L'=' || m_facet != nullptr;
+        return mayEnd && (character == L'=' || contains(character));
+    }
+
+    [[nodiscard]] bool contains(wchar_t character) const
+    {
+        return m_facet == nullptr ? isClassicSpace(character)
+                                  : m_facet->is(std::ctype_base::space, character);
+    }
 
 private:
     std::locale m_locale;

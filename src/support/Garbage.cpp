@@ -15,8 +15,12 @@ const wchar_t* Garbage::intern(const wchar_t* text)
 std::wstring_view Garbage::internText(std::wstring_view text)
 {
     text = text.substr(0, text.find(L'\0'));
-    const auto found = m_interned.find(text);
-    return found != m_interned.end() ? *found : *m_interned.insert(keep(text)).first;
+    if (text != m_last || m_last.data() == nullptr)
+    {
+        const auto found = m_interned.find(text);
+        m_last = found != m_interned.end() ? *found : *m_interned.insert(keep(text)).first;
+    }
+    return m_last;
 }
 
 std::wstring_view Garbage::keep(std::wstring_view text)

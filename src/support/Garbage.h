@@ -38,6 +38,7 @@ public:
 private:
     Arena m_memory;
     std::pmr::set<std::wstring_view> m_interned;
+    std::wstring_view m_last; // interned last: the events of one argument ask for one name
 };
 
 } // namespace kexa_3_3

@@ -1,7 +1,9 @@
 #include "support/Utf8.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 #include "support/Text.h"
 
@@ -72,18 +74,37 @@ Decoded decodeSequence(std::string_view bytes) noexcept
     return {lead.payload, length};
 }
 
-void appendWide(std::wstring& text, std::uint32_t codePoint)
+// Writes the units of a code point, and answers where the next ones go.
+wchar_t* writeWide(wchar_t* out, std::uint32_t codePoint) noexcept
 {
     if constexpr (wide_is_utf16)
     {
         if (codePoint > 0xFFFF)
         {
-            text.push_back(static_cast<wchar_t>(0xD800 + ((codePoint - 0x10000) >> 10)));
-            text.push_back(static_cast<wchar_t>(0xDC00 + ((codePoint - 0x10000) & 0x3FF)));
-            return;
+            *out++ = static_cast<wchar_t>(0xD800 + ((codePoint - 0x10000) >> 10));
+            *out++ = static_cast<wchar_t>(0xDC00 + ((codePoint - 0x10000) & 0x3FF));
+            return out;
         }
     }
-    text.push_back(static_cast<wchar_t>(codePoint));
+    *out++ = static_cast<wchar_t>(codePoint);
+    return out;
+}
+
+// How many bytes at the front are ASCII, in whole groups of eight.
+std::size_t asciiGroups(std::string_view bytes) noexcept
+{
+    constexpr std::size_t group = sizeof(std::uint64_t);
+    std::size_t length = 0;
+    for (; bytes.size() - length >= group; length += group)
+    {
+        std::uint64_t chunk = 0;
+        std::memcpy(&chunk, bytes.data() + length, group);
+        if ((chunk & 0x8080808080808080) != 0)
+        {
+            break;
+        }
+    }
+    return length;
 }
 
 void appendUtf8(std::string& bytes, std::uint32_t codePoint)
@@ -114,22 +135,27 @@ void appendUtf8(std::string& bytes, std::uint32_t codePoint)
 
 std::wstring wideFromUtf8(std::string_view bytes)
 {
-    std::wstring text;
-    text.reserve(bytes.size()); // no sequence gives more units than it has bytes
-    std::size_t position = 0;
-    while (position < bytes.size())
+    // No sequence gives more units than it has bytes.
+    std::wstring text(bytes.size(), L'\0');
+    wchar_t* out = text.data();
+    while (!bytes.empty())
     {
-        const auto byte = static_cast<unsigned char>(bytes[position]);
-        if (byte < 0x80)
+        const std::size_t ascii = asciiGroups(bytes);
+        out = std::transform(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(ascii), out,
+                             [](char byte) { return static_cast<wchar_t>(byte); });
+        bytes.remove_prefix(ascii);
+        // What ends the run: fewer than eight bytes, or something else than ASCII among them.
+        for (std::size_t rest = std::min<std::size_t>(bytes.size(), sizeof(std::uint64_t));
+             rest != 0;)
         {
-            text.push_back(static_cast<wchar_t>(byte));
-            ++position;
-            continue;
+            const auto byte = static_cast<unsigned char>(bytes.front());
+            const Decoded decoded = byte < 0x80 ? Decoded{byte, 1} : decodeSequence(bytes);
+            out = writeWide(out, decoded.codePoint);
+            bytes.remove_prefix(decoded.length);
+            rest -= std::min(rest, decoded.length);
         }
-        const Decoded decoded = decodeSequence(bytes.substr(position));
-        appendWide(text, decoded.codePoint);
-        position += decoded.length;
     }
+    text.resize(static_cast<std::size_t>(out - text.data()));
     return text;
 }
 
