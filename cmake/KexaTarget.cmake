@@ -17,8 +17,10 @@ else()
         target_compile_options(kexa_build_settings INTERFACE
             -Wduplicated-cond -Wlogical-op -Wuseless-cast)
         if(CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-            # GCC 12 sees copies overlap in every concatenation of strings.
-            target_compile_options(kexa_build_settings INTERFACE -Wno-restrict)
+            # GCC 12 sees copies overlap in every concatenation of strings, and for Windows null
+            # pointers inside its own standard library.
+            target_compile_options(kexa_build_settings INTERFACE
+                -Wno-restrict $<$<BOOL:${MINGW}>:-Wno-null-dereference>)
         endif()
     endif()
     if(KEXA_WARNINGS_AS_ERRORS)

@@ -8,7 +8,8 @@ find_program(CMAKE_CXX_COMPILER NAMES ${triple}-g++-posix ${triple}-g++ REQUIRED
 find_program(CMAKE_C_COMPILER NAMES ${triple}-gcc-posix ${triple}-gcc REQUIRED)
 find_program(CMAKE_RC_COMPILER NAMES ${triple}-windres REQUIRED)
 
-set(CMAKE_FIND_ROOT_PATH "/usr/${triple}")
+# Behind the folders that were given with -DCMAKE_FIND_ROOT_PATH=...
+list(APPEND CMAKE_FIND_ROOT_PATH "/usr/${triple}")
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)

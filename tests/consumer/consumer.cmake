@@ -5,14 +5,13 @@
 #                                  how the library was built
 # EMULATOR                         what runs a program of another system (optional)
 file(REMOVE_RECURSE "${BUILD}")
-set(options "-DCMAKE_PREFIX_PATH=${PREFIX}" "-DCMAKE_BUILD_TYPE=${CONFIG}"
-    "-DCMAKE_MAKE_PROGRAM=${MAKE_PROGRAM}" "-DCMAKE_CXX_FLAGS=${FLAGS}")
+set(options "-DCMAKE_BUILD_TYPE=${CONFIG}" "-DCMAKE_MAKE_PROGRAM=${MAKE_PROGRAM}"
+    "-DCMAKE_CXX_FLAGS=${FLAGS}")
 if(TOOLCHAIN)
-    # A cross build looks for packages below the target's folders only, unless told otherwise.
-    list(APPEND options "-DCMAKE_TOOLCHAIN_FILE=${TOOLCHAIN}" "-Dkexa_ROOT=${PREFIX}"
-        "-DCMAKE_FIND_ROOT_PATH_MODE_PACKAGE=BOTH")
+    # A cross build looks for packages below the folders of its target only.
+    list(APPEND options "-DCMAKE_TOOLCHAIN_FILE=${TOOLCHAIN}" "-DCMAKE_FIND_ROOT_PATH=${PREFIX}")
 else()
-    list(APPEND options "-DCMAKE_CXX_COMPILER=${COMPILER}")
+    list(APPEND options "-DCMAKE_CXX_COMPILER=${COMPILER}" "-DCMAKE_PREFIX_PATH=${PREFIX}")
 endif()
 execute_process(COMMAND "${CMAKE_COMMAND}" -G "${GENERATOR}" -S "${SOURCE}" -B "${BUILD}" ${options}
     COMMAND_ERROR_IS_FATAL ANY)
