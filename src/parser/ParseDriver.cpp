@@ -118,14 +118,15 @@ result_t BasicParser::parseArguments(Arguments& arguments, IParseResult* result)
 result_t BasicParser::parseAll(Arguments& arguments, IParseResult* result)
 {
     ParseResult* const filled = fillable(result);
-    if (filled == nullptr || !m_optionFilesEnabled)
+    if (filled == nullptr)
     {
-        const result_t code = parseOnce(arguments, result, filled);
+        const result_t code = parseOnce(arguments, result, nullptr);
         return code != result_success ? code : checkActions(arguments, result, m_errorMessage);
     }
     OptionFiles files(filled->options());
     result_t code = parseOnce(arguments, result, filled);
-    if (code == result_success)
+    // Asked now: a handler may have enabled them meanwhile.
+    if (code == result_success && m_optionFilesEnabled)
     {
         code = files.readAll([&](Arguments& fileArguments)
                              { return parseOnce(fileArguments, result, filled); },
