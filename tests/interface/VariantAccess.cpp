@@ -190,4 +190,12 @@ TEST(VariantAccess, OtherKindsAreReadByNoType)
     }
 }
 
+TEST(VariantAccess, NarrowTextIsReadAsItIsHeld)
+{
+    const char* const text = "text";
+    EXPECT_STREQ(variant_t(text).narrow_text(), "text");
+    EXPECT_NE(variant_t(text).narrow_text(), text);
+    EXPECT_EQ(variant_t::reference(text).narrow_text(), text);
+}
+
 } // namespace

@@ -91,9 +91,11 @@ TEST(VariantGuards, ComparisonOfAHeapKindWithoutDataIsRefused)
 
 TEST(VariantGuards, ReadingATextWithoutDataIsRefused)
 {
-    const variant_t forged = withoutData(13);
-    EXPECT_EQ(guardOf([&] { static_cast<void>(forged.get<const wchar_t*>()); }),
+    const variant_t wide = withoutData(13);
+    EXPECT_EQ(guardOf([&] { static_cast<void>(wide.get<const wchar_t*>()); }),
               "m_value.m_data != NULL");
+    const variant_t narrow = withoutData(12);
+    EXPECT_EQ(guardOf([&] { static_cast<void>(narrow.narrow_text()); }), "m_value.m_data != NULL");
 }
 
 TEST(VariantGuards, LengthOfAHeapKindWithoutDataIsRefused)
@@ -147,6 +149,20 @@ TEST(VariantGuards, SetDataRefusesMissingBytes)
     variant_t value(L"kept");
     EXPECT_EQ(guardOf([&] { value.set_data(16, nullptr, 1); }), "bytes != NULL || length == 0");
     EXPECT_STREQ(value.get<const wchar_t*>(), L"kept");
+}
+
+TEST(VariantGuards, NarrowTextIsReadFromNarrowTextsOnly)
+{
+    for (const variant_t& value :
+         {variant_t(), variant_t(true), variant_t(s32_t{1}), variant_t(1.0), variant_t(L"text"),
+          variant_t::reference(L"text"), variant_t::blob("text", 5),
+          variant_t::object(new vexkit2::polymorphic_t)})
+    {
+        EXPECT_EQ(guardOf([&] { static_cast<void>(value.narrow_text()); }),
+                  "m_type == vtString || m_type == vtStringReference")
+            << value.kind();
+    }
+    EXPECT_EQ(guardOf([] { static_cast<void>(variant_t("text").narrow_text()); }), "");
 }
 
 } // namespace
