@@ -1,5 +1,5 @@
-// Runs a program whose standard error is a terminal, and writes what arrives there to its own
-// standard error, with "<return>" for every carriage return. Its other streams are passed on.
+// Runs a program whose standard output and standard error are one terminal, and writes what arrives
+// there to standard output, with "<return>" for every carriage return.
 #include <cerrno>
 #include <cstdio>
 #include <string>
@@ -49,7 +49,7 @@ void relay(int watcher)
         {
             const std::string text =
                 buffer[index] == '\r' ? "<return>" : std::string(1, buffer[index]);
-            std::fputs(text.c_str(), stderr);
+            std::fputs(text.c_str(), stdout);
         }
     }
 }
@@ -67,6 +67,7 @@ int main(int argc, char** argv)
     const pid_t child = ::fork();
     if (child == 0)
     {
+        ::dup2(terminal.program, STDOUT_FILENO);
         ::dup2(terminal.program, STDERR_FILENO);
         ::close(terminal.program);
         ::close(terminal.watcher);
