@@ -201,49 +201,6 @@ TEST_F(RegisteredOptions, NameAddedLaterIsTakenToo)
     EXPECT_EQ(options.find(L"later"), &options[0]);
 }
 
-TEST_F(RegisteredOptions, GroupIsCutAtItsFirstColon)
-{
-    add(L"a", L"advanced:Advanced options");
-    add(L"b", L"advanced:Other");
-    add(L"c", L"advanced");
-    add(L"d", L"plain");
-    add(L"e", L"plain:Too late");
-    add(L"f", L"x:y:z");
-    add(L"g", L":Of no group");
-    add(L"h", L"");
-    add(L"i", L"Advanced:");
-    EXPECT_EQ(options.groups(), (Groups{{L"advanced", L"Advanced options"},
-                                        {L"plain", L""},
-                                        {L"x", L"y:z"},
-                                        {L"", L"Of no group"},
-                                        {L"Advanced", L""}}));
-    for (const std::size_t index : {0U, 1U, 2U})
-    {
-        EXPECT_EQ(options[index].group, L"advanced") << index;
-        EXPECT_EQ(options[index].groupText, L"Advanced options") << index;
-    }
-    EXPECT_EQ(options[4].groupText, L"");
-    EXPECT_EQ(options[5].groupText, L"y:z");
-    EXPECT_EQ(options[7].groupText, L"Of no group");
-}
-
-TEST_F(RegisteredOptions, ManyGroupsAreEachListedOnce)
-{
-    for (int number = 0; number < 300; ++number)
-    {
-        const std::wstring name = std::to_wstring(number);
-        const std::wstring group = L"g" + std::to_wstring(number * 7 % 100);
-        add(name.c_str(), (group + L":text " + name).c_str());
-    }
-    ASSERT_EQ(options.groups().size(), 100U);
-    for (std::size_t number = 0; number < 300; ++number)
-    {
-        const std::wstring number7 = std::to_wstring(number * 7 % 100);
-        ASSERT_EQ(options[number].group, L"g" + number7);
-        ASSERT_EQ(options[number].groupText, L"text " + std::to_wstring(number % 100));
-    }
-}
-
 TEST_F(RegisteredOptions, DefaultSeparatorGoesToNewOptions)
 {
     add(L"a");

@@ -40,6 +40,18 @@ TEST(Garbage, EqualTextsAreStoredOnce)
     EXPECT_EQ(*empty, L'\0');
 }
 
+TEST(Garbage, EmptyTextMayBeTheFirst)
+{
+    Garbage pool(first_block);
+    const wchar_t* const empty = pool.intern(L"");
+    ASSERT_NE(empty, nullptr);
+    EXPECT_EQ(*empty, L'\0');
+    const wchar_t* const text = pool.intern(L"a");
+    EXPECT_EQ(pool.intern(L""), empty);
+    EXPECT_EQ(pool.intern(L"a"), text);
+    EXPECT_NE(text, empty);
+}
+
 TEST(Garbage, InternedTextIsACopy)
 {
     Garbage pool(first_block);

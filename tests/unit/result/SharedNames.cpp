@@ -1,0 +1,263 @@
+// Options that share names in different combinations: the result behaves as if every name had an
+// entry of its own.
+#include <deque>
+#include <map>
+#include <random>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "options/OptionDescription.h"
+#include "options/OptionIndex.h"
+#include "options/ValueText.h"
+#include "result/ParseResult.h"
+#include "support/Garbage.h"
+
+#include "TextPrinting.h"
+
+namespace
+{
+
+using namespace kexa_3_3;
+using toolbox::toUtf8;
+using vexkit2::variant_t;
+
+// An entry as a line of text: "3 5 | 3 a=a, 5 7=7 | default x".
+std::wstring describe(const OptionResult& result)
+{
+    std::wstring text;
+    for (const std::int32_t position : result.positions)
+    {
+        text += std::to_wstring(position) + L" ";
+    }
+    text += L"|";
+    for (const ValueEntry& entry : result.values)
+    {
+        text += L" " + std::to_wstring(entry.position) + L" " + std::wstring(entry.text) + L"=" +
+                valueText(entry.value);
+    }
+    return text + L" | " + std::wstring(result.defaultText) + L" " +
+           valueText(result.defaultValue) + L" " + std::to_wstring(result.defaultPosition);
+}
+
+// The model: a map of copies.
+class Entries
+{
+public:
+    void store(const std::vector<std::wstring>& names, const OptionResult& record)
+    {
+        const auto found = m_entries.find(names.front());
+        if (found == m_entries.end())
+        {
+            for (const std::wstring& name : names)
+            {
+                m_entries[name] = record;
+            }
+            return;
+        }
+        // A name without an entry starts where the first name stands.
+        const OptionResult before = found->second;
+        const std::set<std::wstring> distinct(names.begin(), names.end());
+        for (const std::wstring& name : distinct)
+        {
+            OptionResult& entry = m_entries.emplace(name, before).first->second;
+            entry.positions.insert(entry.positions.end(), record.positions.begin(),
+                                   record.positions.end());
+            entry.values.insert(entry.values.end(), record.values.begin(), record.values.end());
+        }
+    }
+
+    [[nodiscard]] std::map<std::wstring, std::wstring> described() const
+    {
+        std::map<std::wstring, std::wstring> lines;
+        for (const auto& [name, entry] : m_entries)
+        {
+            lines.emplace(name, describe(entry));
+        }
+        return lines;
+    }
+
+private:
+    std::map<std::wstring, OptionResult> m_entries;
+};
+
+std::map<std::wstring, std::wstring> described(OptionResultTable& table)
+{
+    std::map<std::wstring, std::wstring> lines;
+    for (std::size_t number = 0; number < table.size(); ++number)
+    {
+        const std::wstring name(table.name(number));
+        EXPECT_EQ(table.find(name), &table.record(number)) << toUtf8(name);
+        EXPECT_TRUE(lines.emplace(name, describe(table.record(number).result)).second)
+            << toUtf8(name);
+    }
+    return lines;
+}
+
+class RandomStores
+{
+public:
+    explicit RandomStores(unsigned seed) : m_random(seed)
+    {
+        // Several tables of options: their indices mean different options.
+        for (std::size_t number = 0; number < 8; ++number)
+        {
+            m_options.emplace_back(std::pair<std::wstring_view, std::wstring_view>(), false,
+                                   m_pool);
+            addName(m_options.back());
+            for (unsigned more = below(4); more != 0; --more)
+            {
+                addName(m_options.back());
+            }
+            if (below(4) != 0)
+            {
+                m_options.back().enterInto(m_tables[below(2)], below(4));
+            }
+        }
+    }
+
+    unsigned below(unsigned bound) { return static_cast<unsigned>(m_random() % bound); }
+
+    // Stores one random record into both.
+    void store(ParseResult& result, Entries& entries)
+    {
+        OptionDescription& option = m_options[below(8)];
+        if (below(12) == 0)
+        {
+            addName(option);
+        }
+        std::vector<std::wstring> names(option.names.begin(), option.names.end());
+        OptionResult record = randomRecord();
+        entries.store(names, record);
+        ASSERT_EQ(result.storeOption(option, record), 0);
+    }
+
+private:
+    void addName(OptionDescription& option)
+    {
+        static const wchar_t* const names[] = {L"a", L"b", L"c", L"d", L"e", L"f"};
+        option.addName(names[below(6)]);
+    }
+
+    OptionResult randomRecord()
+    {
+        OptionResult record;
+        if (below(4) == 0)
+        {
+            record.defaultText = m_texts.emplace_back(L"default " + std::to_wstring(m_next));
+            record.defaultValue =
+                below(2) == 0 ? variant_t(std::wstring(record.defaultText)) : variant_t(m_next);
+            record.defaultPosition = static_cast<std::uint32_t>(no_position);
+        }
+        for (unsigned count = below(3); count != 0; --count)
+        {
+            record.positions.push_back(++m_next);
+            const std::wstring& text = m_texts.emplace_back(L"t" + std::to_wstring(m_next));
+            record.values.push_back(
+                {text, below(2) == 0 ? variant_t(text) : variant_t(m_next), m_next});
+        }
+        if (record.values.empty() && below(2) == 0)
+        {
+            record.positions.push_back(++m_next);
+        }
+        return record;
+    }
+
+    std::mt19937 m_random;
+    std::int32_t m_next = 0;
+    std::deque<std::wstring> m_texts;
+    OptionIndex m_tables[2]; // outlive the options that they know
+    Garbage m_pool{4096};
+    std::deque<OptionDescription> m_options;
+};
+
+TEST(SharedNames, EveryNameHasAnEntryOfItsOwn)
+{
+    for (unsigned seed = 0; seed < 150; ++seed)
+    {
+        RandomStores stores(seed);
+        Entries entries;
+        ParseResult result;
+        for (int step = 0; step < 20; ++step)
+        {
+            ASSERT_NO_FATAL_FAILURE(stores.store(result, entries));
+            ASSERT_EQ(described(result.options()), entries.described())
+                << "seed " << seed << ", step " << step;
+        }
+    }
+}
+
+class SharedNamesTest : public testing::Test
+{
+protected:
+    OptionDescription option(std::initializer_list<const wchar_t*> names)
+    {
+        OptionDescription made({L"", L""}, false, pool);
+        for (const wchar_t* const name : names)
+        {
+            made.addName(name);
+        }
+        return made;
+    }
+    void store(const OptionDescription& target, std::int32_t position)
+    {
+        OptionResult record;
+        record.positions.push_back(position);
+        EXPECT_EQ(result.storeOption(target, record), 0);
+    }
+    std::vector<std::int32_t> positions(const wchar_t* name)
+    {
+        const StoredOption* const stored = result.options().find(name);
+        return stored == nullptr ? std::vector<std::int32_t>{-1}
+                                 : std::vector<std::int32_t>(stored->result.positions.begin(),
+                                                             stored->result.positions.end());
+    }
+
+    using Positions = std::vector<std::int32_t>;
+    Garbage pool{4096};
+    ParseResult result;
+};
+
+TEST_F(SharedNamesTest, NameOfAnotherOptionIsReplacedWhereTheFirstNameIsNew)
+{
+    store(option({L"a", L"b"}), 1);
+    store(option({L"c", L"b"}), 2);
+    EXPECT_EQ(positions(L"a"), (Positions{1}));
+    EXPECT_EQ(positions(L"b"), (Positions{2}));
+    EXPECT_EQ(positions(L"c"), (Positions{2}));
+    store(option({L"a", L"b"}), 3);
+    EXPECT_EQ(positions(L"a"), (Positions{1, 3}));
+    EXPECT_EQ(positions(L"b"), (Positions{2, 3}));
+    EXPECT_EQ(positions(L"c"), (Positions{2}));
+}
+
+TEST_F(SharedNamesTest, AbsentNameStartsWhereTheFirstNameStands)
+{
+    store(option({L"a"}), 1);
+    store(option({L"a", L"b"}), 2);
+    EXPECT_EQ(positions(L"a"), (Positions{1, 2}));
+    EXPECT_EQ(positions(L"b"), (Positions{1, 2}));
+    store(option({L"a"}), 3);
+    EXPECT_EQ(positions(L"a"), (Positions{1, 2, 3}));
+    EXPECT_EQ(positions(L"b"), (Positions{1, 2}));
+}
+
+TEST_F(SharedNamesTest, NameListedTwiceIsOneEntry)
+{
+    const OptionDescription twice = option({L"a", L"a", L"b"});
+    store(twice, 1);
+    store(twice, 2);
+    EXPECT_EQ(positions(L"a"), (Positions{1, 2}));
+    EXPECT_EQ(positions(L"b"), (Positions{1, 2}));
+    EXPECT_EQ(result.options().size(), 2U);
+}
+
+TEST_F(SharedNamesTest, OrderOfNamesDoesNotMatter)
+{
+    store(option({L"a", L"b"}), 1);
+    store(option({L"b", L"a"}), 2);
+    EXPECT_EQ(positions(L"a"), (Positions{1, 2}));
+    EXPECT_EQ(positions(L"b"), (Positions{1, 2}));
+}
+
+} // namespace

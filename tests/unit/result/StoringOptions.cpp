@@ -1,0 +1,182 @@
+// What a result keeps of the records that it is given.
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "options/OptionDescription.h"
+#include "result/ParseResult.h"
+#include "support/Garbage.h"
+
+#include "TextPrinting.h"
+
+namespace
+{
+
+using namespace kexa_3_3;
+using vexkit2::variant_t;
+
+class StoringOptions : public testing::Test
+{
+protected:
+    StoringOptions() { option.addName(L"name").addName(L"n"); }
+
+    // Stores one occurrence with one value.
+    void store(const OptionDescription& target, std::wstring_view text, const variant_t& value,
+               std::int32_t position)
+    {
+        OptionResult record;
+        record.positions.push_back(position);
+        record.values.push_back({text, value, position});
+        EXPECT_EQ(result.storeOption(target, record), 0);
+    }
+    void storeDefault(std::wstring_view text, const variant_t& value)
+    {
+        OptionResult record;
+        record.defaultText = text;
+        record.defaultValue = value;
+        record.defaultPosition = no_position;
+        EXPECT_EQ(result.storeOption(option, record), 0);
+    }
+    const OptionResult* stored(std::wstring_view name)
+    {
+        const StoredOption* const found = result.options().find(name);
+        return found == nullptr ? nullptr : &found->result;
+    }
+
+    Garbage pool{4096};
+    OptionDescription option{{L"", L""}, false, pool};
+    ParseResult result;
+};
+
+TEST_F(StoringOptions, OptionWithoutNamesIsOutOfRange)
+{
+    const OptionDescription nameless({L"", L""}, false, pool);
+    OptionResult record;
+    record.positions.push_back(1);
+    try
+    {
+        static_cast<void>(result.storeOption(nameless, record));
+        FAIL() << "nothing was thrown";
+    }
+    catch (const std::out_of_range& error)
+    {
+        EXPECT_STREQ(error.what(), "invalid vector<T> subscript");
+    }
+    EXPECT_EQ(result.options().size(), 0U);
+    EXPECT_EQ(record.positions.size(), 1U);
+}
+
+TEST_F(StoringOptions, EveryNameFindsTheRecord)
+{
+    store(option, L"text", variant_t(L"text"), 3);
+    for (const wchar_t* const name : {L"name", L"n"})
+    {
+        const OptionResult* const found = stored(name);
+        ASSERT_NE(found, nullptr);
+        ASSERT_EQ(found->values.size(), 1U);
+        EXPECT_EQ(found->values[0].text, L"text");
+        EXPECT_EQ(found->values[0].value, variant_t(L"text"));
+        EXPECT_EQ(found->values[0].position, 3);
+        ASSERT_EQ(found->positions.size(), 1U);
+        EXPECT_EQ(found->positions[0], 3);
+    }
+    EXPECT_EQ(stored(L"nam"), nullptr);
+    EXPECT_EQ(stored(L""), nullptr);
+    ASSERT_EQ(result.options().size(), 2U);
+    EXPECT_EQ(result.options().name(0), L"name");
+    EXPECT_EQ(result.options().name(1), L"n");
+}
+
+TEST_F(StoringOptions, TextsAreKept)
+{
+    std::wstring number = L" 0x1F ";
+    std::wstring text = L"a text that is long enough to live on the heap";
+    store(option, number, variant_t(31), 0);
+    store(option, text, variant_t(text), 1);
+    number.assign(number.size(), L'?');
+    text.assign(text.size(), L'?');
+    Value value;
+    ASSERT_EQ(result.getFirstValue(&value, L"name", 0, no_position), 0);
+    EXPECT_EQ(std::wstring(value.as<const wchar_t*>()), L" 0x1F ");
+    ASSERT_EQ(result.getNextValue(&value, L"name"), 0);
+    EXPECT_EQ(std::wstring(value.as<const wchar_t*>()),
+              L"a text that is long enough to live on the heap");
+    EXPECT_EQ(value.value, variant_t(L"a text that is long enough to live on the heap"));
+}
+
+TEST_F(StoringOptions, NamesAreKept)
+{
+    {
+        Garbage own(1024);
+        OptionDescription shortLived({L"", L""}, false, own);
+        shortLived.addName(L"a name that is gone when it is looked for");
+        store(shortLived, L"x", variant_t(L"x"), 0);
+    }
+    EXPECT_NE(stored(L"a name that is gone when it is looked for"), nullptr);
+}
+
+TEST_F(StoringOptions, DefaultIsKeptAsFirstStored)
+{
+    storeDefault(L"first", variant_t(L"first"));
+    storeDefault(L"second", variant_t(2));
+    store(option, L"x", variant_t(L"x"), 4);
+    const OptionResult* const found = stored(L"n");
+    ASSERT_NE(found, nullptr);
+    EXPECT_EQ(found->defaultText, L"first");
+    EXPECT_EQ(found->defaultValue, variant_t(L"first"));
+    EXPECT_EQ(found->defaultPosition, static_cast<std::uint32_t>(no_position));
+    EXPECT_EQ(found->positions.size(), 1U);
+}
+
+TEST_F(StoringOptions, DefaultAfterAnOccurrenceIsNotKept)
+{
+    store(option, L"x", variant_t(L"x"), 4);
+    storeDefault(L"late", variant_t(L"late"));
+    EXPECT_EQ(stored(L"name")->defaultText, L"");
+    EXPECT_EQ(stored(L"name")->defaultValue.kind(), 17);
+    EXPECT_EQ(stored(L"name")->defaultPosition, 0U);
+    EXPECT_EQ(stored(L"name")->values.size(), 1U);
+}
+
+TEST_F(StoringOptions, DefaultTextIsKept)
+{
+    std::wstring text = L"2.5";
+    storeDefault(text, variant_t(2.5));
+    text = L"???";
+    Value value;
+    ASSERT_EQ(result.getFirstValue(&value, L"name", 0, 0), 0);
+    EXPECT_EQ(std::wstring(value.as<const wchar_t*>()), L"2.5");
+    EXPECT_EQ(value.position, no_position);
+}
+
+TEST_F(StoringOptions, RecordStaysWhereItIs)
+{
+    store(option, L"x", variant_t(L"x"), 0);
+    const OptionResult* const before = stored(L"name");
+    const std::wstring_view text = before->values[0].text;
+    for (std::int32_t number = 1; number < 2000; ++number)
+    {
+        OptionDescription other({L"", L""}, false, pool);
+        other.addName(std::to_wstring(number).c_str());
+        store(other, L"y", variant_t(L"y"), number);
+        store(option, L"x", variant_t(number), number);
+    }
+    EXPECT_EQ(stored(L"name"), before);
+    EXPECT_EQ(before->values.size(), 2000U);
+    EXPECT_EQ(before->values[0].text.data(), text.data());
+    EXPECT_EQ(text, L"x");
+    EXPECT_EQ(stored(L"1999")->values.size(), 1U);
+}
+
+TEST_F(StoringOptions, ReleaseDestroysTheResult)
+{
+    auto* const owned = new ParseResult; // or a leak checker reports it
+    OptionResult record;
+    record.positions.push_back(0);
+    record.values.push_back({L"x", variant_t(L"x"), 0});
+    EXPECT_EQ(owned->storeOption(option, record), 0);
+    owned->release();
+}
+
+} // namespace
