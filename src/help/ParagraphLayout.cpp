@@ -28,8 +28,9 @@ namespace
 // or begins with neither a blank nor a line feed.
 [[nodiscard]] std::size_t chunkLength(std::wstring_view text, std::size_t room)
 {
-    const std::size_t lineFeed = std::min(text.find(L'\n'), text.size());
-    const std::size_t length = std::min(lineFeed, room);
+    // Looked for where it matters only: the whole of a long text would be searched for every line.
+    const std::wstring_view fitting = text.substr(0, room);
+    const std::size_t length = std::min(fitting.find(L'\n'), fitting.size());
     if (length == text.size())
     {
         return length;

@@ -138,6 +138,10 @@ FileProblem loadFile(const std::wstring& name, std::string& bytes)
 std::wstring canonicalPath(const std::wstring& name)
 {
     const std::string path = pathOf(name);
+    if (path.find('\0') != std::string::npos)
+    {
+        return name; // no file; the system would look for a shorter name
+    }
     const std::unique_ptr<char, decltype(&std::free)> resolved(::realpath(path.c_str(), nullptr),
                                                                &std::free);
     if (resolved == nullptr)

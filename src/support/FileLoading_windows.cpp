@@ -169,6 +169,10 @@ FileProblem loadFile(const std::wstring& name, std::string& bytes)
 
 std::wstring canonicalPath(const std::wstring& name)
 {
+    if (name.find(L'\0') != std::wstring::npos)
+    {
+        return name; // no file; the system would look for a shorter name
+    }
     const Handle file(openFile(name, 0));
     if (!file.valid())
     {
