@@ -1,11 +1,9 @@
-// Runs cycles of one peer over one workload and nothing else, for tools that watch a process:
-// callgrind, or the peak of resident memory.
+// Runs cycles of one peer over one workload and nothing else, for callgrind.
 //
 //   benchmark_cycles list
 //   benchmark_cycles check WORKLOAD...          every peer must read the right values
 //   benchmark_cycles run PEER WORKLOAD COUNT    COUNT cycles
 //   benchmark_cycles declare PEER WORKLOAD COUNT
-//   benchmark_cycles hold PEER WORKLOAD         one cycle, then the peak of resident memory
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>

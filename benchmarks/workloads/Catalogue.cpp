@@ -211,9 +211,9 @@ void fillAllowed(Workload& workload, std::size_t entries, std::size_t count, boo
     }
 }
 
-void fillValues(Workload& workload, std::size_t count)
+void fillValues(Workload& workload, std::size_t count, Type type)
 {
-    Option option = makeOption("value", 0, Type::text);
+    Option option = makeOption("value", 0, type);
     option.repeated = true;
     const std::size_t index = workload.addOption(std::move(option));
     Values values;
@@ -272,9 +272,9 @@ void fill(Workload& workload, const std::string& kind, const std::vector<std::si
     {
         return fillList(workload, count, kind == "texts" ? Type::text : Type::integer);
     }
-    if (kind == "values")
+    if (kind == "values" || kind == "numbers")
     {
-        return fillValues(workload, count);
+        return fillValues(workload, count, kind == "values" ? Type::text : Type::integer);
     }
     throw std::invalid_argument("no such workload: " + workload.name());
 }

@@ -10,7 +10,7 @@
 //   texts/N, integers/N   one argument with a list of N texts or integers
 //   allowed/E/N           one option with E allowed values, N arguments
 //   allowed_prefix/E/N    the same, each value cut to a unique prefix
-//   values/N              one text option given N times
+//   values/N, numbers/N   one option given N times, with texts or integers
 #ifndef KEXA_BENCHMARKS_CATALOGUE_H
 #define KEXA_BENCHMARKS_CATALOGUE_H
 

@@ -1,0 +1,144 @@
+// Memory, as the heap counts it and as the system sees it. Prints names and numbers.
+//
+//   benchmark_memory value PEER WORKLOAD   heap that one stored value takes
+//   benchmark_memory write COUNT FILE      writes an option file with COUNT lines; prints what the
+//                                          result of parsing it must hold at least
+//   benchmark_memory file FILE             parses the option file; prints the peak
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <fstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include <malloc.h>
+
+#include "peers/KexaHost.h"
+#include "peers/Peer.h"
+#include "workloads/Catalogue.h"
+
+namespace
+{
+
+using benchmarks::Peer;
+using benchmarks::Workload;
+
+const Peer& peerNamed(const std::string& name)
+{
+    for (const Peer& peer : benchmarks::allPeers())
+    {
+        if (peer.name == name)
+        {
+            return peer;
+        }
+    }
+    throw std::invalid_argument("no such peer: " + name);
+}
+
+// Bytes in use, blocks mapped one by one included.
+std::size_t heapInUse()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return info.uordblks + info.hblkhd;
+}
+
+// A line of this process's status, in bytes: "VmRSS", "VmHWM".
+std::size_t statusBytes(const std::string& key)
+{
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);)
+    {
+        if (line.compare(0, key.size() + 1, key + ":") == 0)
+        {
+            return std::stoul(line.substr(key.size() + 1)) * 1024;
+        }
+    }
+    throw std::runtime_error("no " + key + " in /proc/self/status");
+}
+
+// Lets VmHWM start from what is resident now.
+void resetPeak()
+{
+    std::ofstream("/proc/self/clear_refs") << "5";
+}
+
+void printValue(const Peer& peer, const Workload& workload)
+{
+    const auto host = peer.declare(workload);
+    const std::size_t before = heapInUse();
+    host->parse();
+    const std::size_t after = heapInUse();
+    std::printf("bytes_for_each_value %.1f\n",
+                static_cast<double>(after - before) /
+                    static_cast<double>(workload.arguments().size()));
+}
+
+// For each value its text once, ended by a zero; the variant with the typed value; the position of
+// the value and of its occurrence; a pointer to the text.
+std::size_t leastResultSize(const Workload& workload)
+{
+    constexpr std::size_t fixedPart =
+        sizeof(vexkit2::variant_t) + 2 * sizeof(std::int32_t) + sizeof(const wchar_t*);
+    std::size_t size = 0;
+    for (const std::string& argument : workload.arguments())
+    {
+        const std::wstring wide = benchmarks::widen(argument);
+        const std::size_t equals = wide.find(L'=');
+        const std::size_t length = equals == std::wstring::npos ? 1 : wide.size() - equals - 1;
+        size += fixedPart + (length + 1) * sizeof(wchar_t);
+    }
+    return size;
+}
+
+void parseFile(const std::string& path)
+{
+    const auto declarations = benchmarks::makeWorkload("lines/0");
+    benchmarks::KexaFileHost host(*declarations, path);
+    const std::size_t before = statusBytes("VmRSS");
+    const std::size_t heapBefore = heapInUse();
+    resetPeak();
+    host.parse();
+    std::printf("peak_bytes %zu\nresident_bytes_after %zu\nheap_bytes_after %zu\n",
+                statusBytes("VmHWM") - before, statusBytes("VmRSS") - before,
+                heapInUse() - heapBefore);
+}
+
+void dispatch(const std::vector<std::string>& arguments)
+{
+    const std::string& command = arguments.at(0);
+    if (command == "value")
+    {
+        printValue(peerNamed(arguments.at(1)), *benchmarks::makeWorkload(arguments.at(2)));
+    }
+    else if (command == "write")
+    {
+        const auto workload = benchmarks::makeWorkload("lines/" + arguments.at(1));
+        benchmarks::writeOptionFile(*workload, arguments.at(2));
+        std::printf("least_result_bytes %zu\n", leastResultSize(*workload));
+    }
+    else if (command == "file")
+    {
+        parseFile(arguments.at(1));
+    }
+    else
+    {
+        throw std::invalid_argument("no such command: " + command);
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    try
+    {
+        dispatch({argv + 1, argv + argc});
+        return EXIT_SUCCESS;
+    }
+    catch (const std::exception& error)
+    {
+        std::fprintf(stderr, "benchmark_memory: %s\n", error.what());
+        return EXIT_FAILURE;
+    }
+}

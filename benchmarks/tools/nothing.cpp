@@ -1,0 +1,5 @@
+// A program that does nothing. Linked with and without the library.
+int main()
+{
+    return 0;
+}
