@@ -164,7 +164,7 @@ private:
         return numbers[below(static_cast<unsigned>(std::size(numbers)))];
     }
 
-    std::mt19937 m_random;
+    std::mt19937_64 m_random;
 };
 
 void expectSameMatches(const AllowedValueIndex& index, const Candidates& candidates,

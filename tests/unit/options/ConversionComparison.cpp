@@ -127,7 +127,7 @@ private:
         return limits[below(static_cast<unsigned>(std::size(limits)))];
     }
 
-    std::mt19937 m_random;
+    std::mt19937_64 m_random;
 };
 
 // Equal values of one kind; doubles to the bit.

@@ -127,7 +127,7 @@ public:
     unsigned below(unsigned bound) { return static_cast<unsigned>(m_random() % bound); }
 
 private:
-    std::mt19937 m_random;
+    std::mt19937_64 m_random;
 };
 
 TEST(OptionIndex, AgreesWithAWalkOverTheTable)

@@ -273,7 +273,7 @@ TEST(ActionCheckComparison, EveryResultIsCheckedAsAWalkDoes)
     std::map<std::wstring, int> answers;
     for (unsigned seed = 0; seed < 1500; ++seed)
     {
-        std::mt19937 random(seed);
+        std::mt19937_64 random(seed);
         const auto below = [&random](unsigned bound)
         {
             return static_cast<unsigned>(random() % bound);

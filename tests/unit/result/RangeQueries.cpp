@@ -167,7 +167,7 @@ public:
     }
 
 private:
-    std::mt19937 m_random;
+    std::mt19937_64 m_random;
 };
 
 // A row of random queries, each answered as the plain steps say.

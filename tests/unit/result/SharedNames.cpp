@@ -163,7 +163,7 @@ private:
         return record;
     }
 
-    std::mt19937 m_random;
+    std::mt19937_64 m_random;
     std::int32_t m_next = 0;
     std::deque<std::wstring> m_texts;
     OptionIndex m_tables[2]; // outlive the options that they know
