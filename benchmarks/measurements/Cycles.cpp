@@ -87,7 +87,9 @@ void registerCycles(Session& session, const Selection& selection)
     addSizes("integers", {100, 1000, 10000, 100000});
     for (const std::size_t entries : selection.sizes({10, 100, 1000, 10000}))
     {
-        addSizes("allowed/" + std::to_string(entries), {10000});
+        addSizes("allowed/" + std::to_string(entries),
+                 entries == 1000 ? std::vector<std::size_t>{1000, 10000, 100000}
+                                 : std::vector<std::size_t>{10000});
         addSizes("allowed_prefix/" + std::to_string(entries), {10000});
     }
 }

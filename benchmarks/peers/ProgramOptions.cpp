@@ -136,6 +136,7 @@ Peer programOptionsPeer()
                                      .help = true,
                                      .largest = {{"arguments", 100000}},
                                      .slowFrom = {{"arguments", 100000},
+                                                  {"typed", 70000},
                                                   {"options", 20000},
                                                   {"abbreviations", 20000},
                                                   {"declarations", 20000}}});

@@ -1,0 +1,95 @@
+"""The goals, each with what was measured. All times are medians, all ratios ratios within a round."""
+
+from results import CPP_PEERS, PEERS
+
+
+class Goal:
+    def __init__(self, text, limit, value, unit="", detail=""):
+        self.text, self.limit, self.value, self.unit, self.detail = text, limit, value, unit, detail
+
+    @property
+    def met(self):
+        return self.value is not None and self.value <= self.limit
+
+
+def worst_ratio(results, measurement, peers):
+    """The highest ratio of kexa to a peer at this size, and that peer."""
+    ratios = {peer: results.ratio(measurement, "kexa", peer) for peer in peers}
+    ratios = {peer: ratio for peer, ratio in ratios.items() if ratio is not None}
+    if not ratios:
+        return None, ""
+    peer = max(ratios, key=ratios.get)
+    return ratios[peer], peer
+
+
+def growth(results, kind, small, large, contestant="kexa"):
+    """Time for each unit at the large size divided by that at the small one."""
+    ratio = results.ratio(f"{kind}/{large}", contestant, contestant, f"{kind}/{small}")
+    return None if ratio is None else ratio * small / large
+
+
+def option_file_ratio(results, size):
+    ratios = []
+    for one in results.rounds:
+        times = one.get(f"file/lines/{size}", {})
+        if len(times) == 3:
+            ratios.append(times["option file"] / (times["memory"] + times["reading"]))
+    return sorted(ratios)[len(ratios) // 2] if ratios else None
+
+
+def handler_cost(results):
+    """What one handler adds to a parse, divided by the same calls made directly."""
+    name = "handlers/arguments/10000"
+    ratios = [(one[name]["1"] - one[name]["0"]) / one[name]["bare calls"]
+              for one in results.rounds if name in one]
+    return sorted(ratios)[len(ratios) // 2] if ratios else None
+
+
+def all_goals(results):
+    goals = []
+
+    def add(text, limit, value, unit="", detail=""):
+        goals.append(Goal(text, limit, value, unit, detail))
+
+    ratio, peer = worst_ratio(results, "cycle/small", CPP_PEERS)
+    add("small command line, of the fastest C++ peer", 0.5, ratio, detail=peer)
+    add("small command line, of `getopt_long`", 1.5,
+        results.ratio("cycle/small", "kexa", "getopt_long"))
+    for size in (10000, 1000000):
+        add(f"30 options, {size:,} arguments, of `getopt_long`", 1.0,
+            results.ratio(f"cycle/arguments/{size}", "kexa", "getopt_long"))
+    add("an argument of 1,000,000, of one of 10,000", 1.2,
+        growth(results, "cycle/arguments", 10000, 1000000))
+    for kind, what in (("options", "full names"), ("abbreviations", "abbreviations")):
+        for size in (2000, 20000):
+            ratio, peer = worst_ratio(results, f"cycle/{kind}/{size}", PEERS)
+            add(f"{size:,} options, {what}, of `getopt_long` and every C++ peer", 0.2, ratio,
+                detail=peer)
+    add("declaring one of 20,000 options, of one of 2,000", 1.31 * 1.2,
+        growth(results, "declare/declarations", 2000, 20000), detail="n log n gives 1.3")
+    for kind, small, large, what in (
+            ("cycle/typed", 7000, 70000, "a typed value of 70,000, of one of 7,000"),
+            ("cycle/texts", 10000, 100000, "a list's piece of 100,000, of one of 10,000 (texts)"),
+            ("cycle/integers", 10000, 100000, "the same (integers)"),
+            ("cycle/allowed/1000", 10000, 100000,
+             "one of 100,000 values checked against 1,000, of one of 10,000")):
+        add(what, 1.2, growth(results, kind, small, large))
+    add("option file of 1,000,000 lines, of memory plus reading", 2.0,
+        option_file_ratio(results, 1000000))
+    memory = results.counts["memory"]["option file"]
+    add("its peak of memory, of the least that the result holds", 3.0,
+        memory["peak_bytes"] / memory["least_result_bytes"])
+    walk = results.time("walk/values/1000000", "first walk")
+    add("walking 1,000,000 values, each", 100, None if walk is None else walk / 1e6, " ns")
+    ratio, peer = worst_ratio(results, "help/declarations/2000", PEERS)
+    add("full help of 2,000 options, of the fastest peer", 0.5, ratio, detail=peer)
+    counts = results.counts["instructions"]
+    for kind, what in (("small", "small command line"), ("arguments", "each of many arguments")):
+        cost = 100 * (counts["kexa"][kind] / counts["kexa without trace"][kind] - 1)
+        add(f"a trace that is off, {what} (instructions)", 3.0, cost, " %")
+    add("what a handler adds, of its calls made directly", 3.0, handler_cost(results))
+    add("the stripped library", 250, results.counts["library bytes"] / 1000, " KB")
+    loads = results.counts["load microseconds"]
+    add("loading it, in a C++ program", 1.0, (loads["with kexa"] - loads["C++ program"]) / 1000,
+        " ms")
+    return goals

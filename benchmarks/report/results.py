@@ -1,0 +1,66 @@
+"""What scripts/bench.sh measured, read back: times by round, counts, sizes."""
+
+import json
+import pathlib
+import statistics
+
+PEERS = ["getopt_long", "popt", "args", "TCLAP", "CLI11", "Boost.Program_options", "cxxopts"]
+CPP_PEERS = ["args", "TCLAP", "CLI11", "Boost.Program_options", "cxxopts"]
+
+
+class Results:
+    def __init__(self, folder):
+        folder = pathlib.Path(folder)
+        self.rounds = [self._read_round(path) for path in sorted(folder.glob("round-*.json"))]
+        if not self.rounds:
+            raise SystemExit(f"no rounds in {folder}")
+        self.counts = json.loads((folder / "counts.json").read_text())
+
+    @staticmethod
+    def _read_round(path):
+        """{measurement: {contestant: nanoseconds}}, where a measurement is "cycle/small"."""
+        times = {}
+        for entry in json.loads(path.read_text())["benchmarks"]:
+            if entry.get("error_occurred"):
+                raise SystemExit(f"{entry['name']}: {entry['error_message']}")
+            parts = entry["name"].split("/")
+            manual = parts[-1] == "manual_time"
+            parts = [part for part in parts
+                     if part != "manual_time" and not part.startswith("iterations:")]
+            time = entry["real_time"] if manual else entry["cpu_time"]
+            assert entry["time_unit"] == "ns"
+            times.setdefault("/".join(parts[:-1]), {})[parts[-1]] = time
+        return times
+
+    def measurements(self):
+        return list(self.rounds[0])
+
+    def contestants(self, measurement):
+        return list(self.rounds[0].get(measurement, {}))
+
+    def sizes(self, kind):
+        """The sizes at which "cycle/arguments" was measured."""
+        prefix = kind + "/"
+        found = [int(name[len(prefix):]) for name in self.measurements()
+                 if name.startswith(prefix) and name[len(prefix):].isdigit()]
+        return sorted(found)
+
+    def time(self, measurement, contestant):
+        """Median nanoseconds, or None."""
+        times = [one[measurement][contestant] for one in self.rounds
+                 if contestant in one.get(measurement, {})]
+        return statistics.median(times) if times else None
+
+    def was_measured_once(self, measurement, contestant):
+        return sum(contestant in one.get(measurement, {}) for one in self.rounds) == 1
+
+    def ratio(self, measurement, contestant, other, other_measurement=None):
+        """The median over the rounds of one time divided by another of the same round."""
+        other_measurement = other_measurement or measurement
+        ratios = []
+        for one in self.rounds:
+            times = one.get(measurement, {})
+            others = one.get(other_measurement, {})
+            if contestant in times and other in others:
+                ratios.append(times[contestant] / others[other])
+        return statistics.median(ratios) if ratios else None
