@@ -17,9 +17,9 @@ else()
         target_compile_options(kexa_build_settings INTERFACE
             -Wduplicated-cond -Wlogical-op -Wuseless-cast)
         if(CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-            # GCC 12 sees copies overlap, and run over, in every concatenation of strings.
+            # GCC 12 sees copies overlap and run over in every concatenation of strings.
             target_compile_options(kexa_build_settings INTERFACE
-                -Wno-restrict -Wno-stringop-overflow)
+                -Wno-restrict -Wno-stringop-overflow -Wno-array-bounds)
         endif()
     endif()
     if(KEXA_WARNINGS_AS_ERRORS)
