@@ -3,12 +3,12 @@
 # natively with GCC and Clang, under the address and undefined-behaviour sanitizers, and on Windows
 # under Wine; checks formatting and the direction of includes first.
 #
-#   scripts/test.sh [STEP ...]    run only these steps: format includes dev clang asan mingw ...
+#   scripts/test.sh [STEP ...]    run only these steps: format, or the name of a preset
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 jobs=$(nproc)
-all_steps=(format includes release clang asan mingw)
+all_steps=(format release clang asan mingw)
 steps=("$@")
 [ ${#steps[@]} -gt 0 ] || steps=("${all_steps[@]}")
 
@@ -30,15 +30,14 @@ check_format()
 }
 
 scripts/install-packages.sh \
-    cmake ninja-build g++ clang clang-format git python3 \
-    libgtest-dev libgmock-dev googletest zlib1g-dev libclang-rt-14-dev \
+    cmake ninja-build g++ clang clang-format git python3 binutils diffutils valgrind \
+    libgtest-dev libgmock-dev googletest zlib1g-dev \
     g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64
 mkdir -p build
 
 for step in "${steps[@]}"; do
     case $step in
     format) check_format ;;
-    includes) headline "include direction"; python3 scripts/check-includes.py ;;
     *) run_preset "$step" ;;
     esac
 done
