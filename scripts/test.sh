@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what is missing (Debian packages), then builds and tests everything:
 # natively with GCC and Clang, under the address and undefined-behaviour sanitizers, and on Windows
-# under Wine; checks formatting and the direction of includes first.
+# under Wine; checks the formatting first.
 #
 #   scripts/test.sh [STEP ...]    run only these steps: format, or the name of a preset
 set -euo pipefail
