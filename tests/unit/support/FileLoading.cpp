@@ -180,6 +180,13 @@ TEST(CanonicalPath, DiffersForDifferentFiles)
               canonicalPath(folder.write(L"\u00E8", "x")));
 }
 
+TEST(CanonicalPath, IsTheNameWhereTheNameHasAZero)
+{
+    const TemporaryFolder folder;
+    const std::wstring name = folder.write(L"file", "x") + std::wstring(L"\0more", 5);
+    EXPECT_EQ(canonicalPath(name), name);
+}
+
 TEST(CanonicalPath, IsTheNameWhereThereIsNoFile)
 {
     const TemporaryFolder folder;

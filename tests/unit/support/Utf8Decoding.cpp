@@ -202,4 +202,24 @@ TEST(Utf8Decoding, EveryShortSequenceOfBoundaryBytesReadsAsTheDefinitionSays)
     }
 }
 
+TEST(Utf8Decoding, RowOfAsciiOfAnyLengthMayStandBeforeAndBehind)
+{
+    const Sequences sequences;
+    for (const char* const middle :
+         {"", "\xC3\xA9", "\xF0\x9F\x98\x80", "\xE2\x82", "\x80", "\xFF"})
+    {
+        for (std::size_t before = 0; before < 20; ++before)
+        {
+            for (std::size_t behind = 0; behind < 20; ++behind)
+            {
+                const std::string bytes =
+                    std::string(before, 'a') + middle + std::string(behind, '\x7F');
+                ASSERT_EQ(wideFromUtf8(bytes), sequences.decode(bytes)) << bytesOf(bytes);
+                const std::string twice = bytes + middle;
+                ASSERT_EQ(wideFromUtf8(twice), sequences.decode(twice)) << bytesOf(twice);
+            }
+        }
+    }
+}
+
 } // namespace
