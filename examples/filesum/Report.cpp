@@ -5,6 +5,7 @@
 
 #include "common/Console.h"
 #include "filesum/Names.h"
+#include "filesum/Platform.h"
 
 namespace filesum
 {
@@ -39,11 +40,24 @@ std::string reasonOfErrno()
     return reasonOf(std::error_code(errno, std::generic_category()));
 }
 
+Report::Report(std::FILE* output, bool showProgress)
+    : m_output(output), m_outputIsTerminal(isTerminal(output)), m_showProgress(showProgress)
+{
+}
+
 void Report::line(std::string_view text)
 {
     clearProgress();
-    std::fwrite(text.data(), 1, text.size(), m_output);
-    std::fputc('\n', m_output);
+    std::string line(text);
+    line += '\n';
+    if (m_outputIsTerminal)
+    {
+        example::write(m_output, line); // at once, and converted where the console wants that
+    }
+    else
+    {
+        std::fwrite(line.data(), 1, line.size(), m_output);
+    }
 }
 
 void Report::problem(std::string_view text)

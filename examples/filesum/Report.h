@@ -21,7 +21,7 @@ class Report
 public:
     // output: where result lines go; kept open by the caller.
     // showProgress: whether progress lines are wanted.
-    Report(std::FILE* output, bool showProgress) : m_output(output), m_showProgress(showProgress) {}
+    Report(std::FILE* output, bool showProgress);
     Report(const Report&) = delete;
     Report& operator=(const Report&) = delete;
     ~Report() { clearProgress(); }
@@ -47,6 +47,7 @@ private:
     void clearProgress();
 
     std::FILE* m_output;
+    bool m_outputIsTerminal;
     bool m_showProgress;
     bool m_hasProblems = false;
     std::string m_progress; // the line that stands on the terminal

@@ -44,7 +44,8 @@ ExitCode performToFile(Settings& settings, const std::vector<std::filesystem::pa
     const FilePointer file = openForWriting(settings.output);
     if (file == nullptr)
     {
-        Report(stdout, false).cannotWrite(nameOf(settings.output), reasonOfErrno());
+        const std::string reason = reasonOfErrno(); // before anything else changes it
+        Report(stdout, false).cannotWrite(nameOf(settings.output), reason);
         return exit_problem;
     }
     return perform(settings, paths, file.get());
