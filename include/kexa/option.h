@@ -44,7 +44,8 @@ public:
     virtual IOption& addDeprecatedValue(const vexkit2::variant_t& oldValue,
                                         const vexkit2::variant_t& replacement) = 0;
 
-    // Sets the value that a result reports when the option is not given. The last call counts.
+    // Sets the value that a result reports when the option is not given, unless its text is empty
+    // (null, a blob, an object, an empty text). The last call counts.
     virtual IOption& setDefaultValue(const vexkit2::variant_t& value) = 0;
 
     // Sets the character at which one argument is cut into several values.

@@ -24,7 +24,8 @@ public:
     virtual void release() = 0;
 
     // Whether the option was given at a position p with from <= p < to, or else was not given at
-    // all and has a default (then the range is not looked at). 1 yes, 0 no. A null name is unknown.
+    // all and has a default whose text is not empty (then the range is not looked at). 1 yes, 0 no.
+    // A null name is unknown.
     virtual std::int32_t isPresent(const wchar_t* name, std::int32_t from, std::int32_t to) = 0;
 
     // Begins a walk over the values of an option.
@@ -32,12 +33,12 @@ public:
     // out:  receives the value; may be null. On a non-zero answer it becomes the not-found value
     //       with that answer as its status.
     // from: first position of the walk, inclusive.
-    // to:   end of the walk. The first occurrence must lie below it, while a value at exactly `to`
-    //       is still given.
+    // to:   end of the walk. Some occurrence must lie at a position p with from <= p < to; a value
+    //       at exactly `to` is still given.
     //
     // Answers 0 with a value, 1 when there is none, 3 after a standard exception. An occurrence
-    // without a value gives its position, null data and a null variant. The default is given when
-    // the option did not occur, whatever the range.
+    // without a value gives its position, null data and a null variant. A default
+    // whose text is not empty is given when the option did not occur, whatever the range.
     virtual result_t getFirstValue(Value* out, const wchar_t* name, std::int32_t from,
                                    std::int32_t to) = 0;
 

@@ -25,7 +25,8 @@ enum creation_flags_t : std::int32_t
     // Behind the end marker "--", flag 8 does not apply: hyphen-led arguments are positional there.
     flag_any_positional_after_marker = 4,
 
-    // An argument that begins with "-" is never positional.
+    // An argument that begins with "-" does not become positional by itself. Flag 16 still takes it
+    // as part of the rest, and flag 4 lifts this behind "--".
     flag_no_hyphen_positional = 8,
 
     // The first positional argument takes all arguments behind it too.
@@ -39,9 +40,10 @@ enum creation_flags_t : std::int32_t
 // destroyed by release. The order of the virtual operations is a contract with compiled hosts.
 //
 // Texts that operations hand out belong to the parser and stay valid until it is released; texts
-// handed in are copied. No operation throws except where it says so. A parser, its options and its
-// results are used by one thread at a time; different parsers may be used by different threads (the
-// trace switch and the numbering of values are shared by all of them, see docs/design.md).
+// handed in are copied. No operation throws except where it says so; the event operations pass on
+// what a handler throws. A parser, its options and its results are used by one thread at a time;
+// different parsers may be used by different threads (the trace switch and the numbering of values
+// are shared by all of them, see docs/design.md).
 class IParser : public EventHandler
 {
 public:
@@ -97,8 +99,9 @@ public:
     // result: receives the defaults of all options, then what is found, up to the first error; null
     //         parses without storing. Must have been made by createParseResult to be filled.
     //
-    // Answers a code of result_t. After a non-zero code getErrorMessage tells what is wrong (code 3
-    // leaves the message as it was).
+    // Answers a code of result_t. After a non-zero code getErrorMessage tells what is wrong (code
+    // 3, and code 1 for an option in the result that the parser does not know, leave the message as
+    // it was).
     virtual result_t parse(std::int32_t argc, const wchar_t* const* argv, IParseResult* result) = 0;
 
     // Parses a text that holds one argument in each line, as an option file does (blank lines and

@@ -52,8 +52,8 @@ KEXA_API const wchar_t* Value::as<const wchar_t*>() const;
 // result: the result to ask; null gives the not-found value. Its query cursor moves.
 // name:   any name of the option, in full, case counting; null gives the not-found value.
 // from:   first position of the range, inclusive.
-// to:     end of the range. The option's first occurrence must lie below it; a value at exactly
-//         `to` still counts. A default value is found whatever the range.
+// to:     end of the range, inclusive for values; an occurrence without a value must lie below it.
+//         A default whose text is not empty is found whatever the range.
 //
 // Answers the last value that IParseResult::getFirstValue and getNextValue give. Does not throw.
 KEXA_API Value getLastValue(IParseResult* result, const wchar_t* name, int from, int to);

@@ -104,7 +104,7 @@ int ValueStoring::addPieces(std::wstring_view value, std::wstring& error,
     if (option.separator == 0)
     {
         traceLine(m_parser.name(), L": not using tokenizer");
-        return addValue(value, value, error, option, argument);
+        return addValue(value, {value, false}, error, option, argument);
     }
     const wchar_t separator = option.separator; // a handler may change the option meanwhile
     traceLine(m_parser.name(), L": using tokenizer on char: '", separator, L"'");
@@ -117,7 +117,7 @@ int ValueStoring::addPieces(std::wstring_view value, std::wstring& error,
                      if (code == stored)
                      {
                          traceLine(m_parser.name(), L": value is: '", piece, L"'");
-                         code = addValue(piece, value, error, option, argument);
+                         code = addValue(piece, {value, true}, error, option, argument);
                      }
                  });
     if (!any)
@@ -129,7 +129,7 @@ int ValueStoring::addPieces(std::wstring_view value, std::wstring& error,
     return code;
 }
 
-int ValueStoring::addValue(std::wstring_view piece, std::wstring_view value, std::wstring& error,
+int ValueStoring::addValue(std::wstring_view piece, const Whole& whole, std::wstring& error,
                            const OptionDescription& option, std::wstring_view argument)
 {
     ValueRecord record = {option.primaryName().data(), vexkit2::variant_t(), 0};
@@ -142,16 +142,15 @@ int ValueStoring::addValue(std::wstring_view piece, std::wstring_view value, std
         return invalid;
     }
     record.sequenceNumber = takeSequenceNumber();
-    const bool tokenized = option.separator != 0;
     const bool accepted = m_parser.owner().onValueParsed(record.optionName, &record);
-    if (tokenized)
+    if (whole.tokenized)
     {
         traceLine(m_parser.name(), L": sent event on value parsed, option: '", record.optionName,
                   L"', value: '", piece, L"'");
     }
     if (!accepted)
     {
-        error = refusalMessage(value, option, argument);
+        error = refusalMessage(whole.value, option, argument);
         traceLine(m_parser.name(), error, L" One of the handler signaled the value is not valid.");
         return refused;
     }

@@ -39,11 +39,18 @@ public:
                             IResultCollector* collector);
 
 private:
+    // What a piece was cut from. Whether it was cut is settled before handlers may change the
+    // option.
+    struct Whole
+    {
+        std::wstring_view value;
+        bool tokenized;
+    };
+
     [[nodiscard]] int addPieces(std::wstring_view value, std::wstring& error,
                                 const OptionDescription& option, std::wstring_view argument);
-    [[nodiscard]] int addValue(std::wstring_view piece, std::wstring_view value,
-                               std::wstring& error, const OptionDescription& option,
-                               std::wstring_view argument);
+    [[nodiscard]] int addValue(std::wstring_view piece, const Whole& whole, std::wstring& error,
+                               const OptionDescription& option, std::wstring_view argument);
 
     const IArgumentParser& m_parser;
     OptionResult m_occurrence; // of the argument at work; keeps its room for the next

@@ -44,8 +44,13 @@ AllocationCount allocationsSoFar()
     return count;
 }
 
-// The array and nothrow forms of the standard library come down to these.
+// The array forms of the standard library come down to these. Its nothrow form does too, but not
+// that of the address sanitizer.
 void* operator new(std::size_t size)
+{
+    return allocate(size);
+}
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept
 {
     return allocate(size);
 }
