@@ -19,7 +19,7 @@ else()
         if(CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
             # GCC 12 sees copies overlap and run over in every concatenation of strings.
             target_compile_options(kexa_build_settings INTERFACE
-                -Wno-restrict -Wno-stringop-overflow -Wno-array-bounds)
+                -Wno-restrict -Wno-stringop-overflow -Wno-stringop-overread -Wno-array-bounds)
         endif()
     endif()
     if(KEXA_WARNINGS_AS_ERRORS)
