@@ -10,7 +10,7 @@
 namespace
 {
 
-class ThrowingHandler : public kexa_3_3::EventHandler
+class ThrowingHandler final : public kexa_3_3::EventHandler
 {
 public:
     explicit ThrowingHandler(bool standard) : m_standard(standard) {}
