@@ -1,0 +1,46 @@
+#!/usr/bin/env bash
+# Runs the fuzz targets, each for some seconds (20 unless given), under the address and
+# undefined-behaviour sanitizers. Ends with 1 where one of them finds something.
+#
+#   scripts/fuzz.sh [SECONDS [TARGET ...]]
+#
+# They start from fuzz/corpus/TARGET and from what earlier runs found, which lies in
+# build/fuzz/found/TARGET. An input that breaks a rule is kept as build/fuzz/failed/TARGET-...: copy
+# it to fuzz/corpus/TARGET, where every test run replays it, and mend the defect.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+seconds=${1:-20}
+shift || true
+targets=("$@")
+[ ${#targets[@]} -gt 0 ] || targets=(arguments help option_file utf8 values word_wrap)
+
+# The longest input that is worth trying: what is larger says nothing new and takes longer.
+declare -A longest=(
+    [arguments]=600 [help]=600 [option_file]=1000 [utf8]=64 [values]=400 [word_wrap]=400)
+
+scripts/install-packages.sh cmake ninja-build clang
+build=build/fuzz
+mkdir -p "$build/failed"
+cmake --preset fuzz >"$build/configure.log" 2>&1 || { cat "$build/configure.log"; exit 1; }
+cmake --build --preset fuzz -j "$(nproc)" >"$build/build.log" 2>&1 || { tail -n 80 "$build/build.log"; exit 1; }
+
+status=0
+for target in "${targets[@]}"; do
+    mkdir -p "$build/found/$target"
+    log="$build/$target.log"
+    # Mask 3: what the library prints about its declarations is not looked at here.
+    if "$build/fuzz/fuzz_$target" -max_total_time="$seconds" -max_len="${longest[$target]}" \
+        -timeout=10 -dict=fuzz/kexa.dict -close_fd_mask=3 -print_final_stats=1 \
+        -artifact_prefix="$build/failed/$target-" \
+        "$build/found/$target" "fuzz/corpus/$target" </dev/null >"$log" 2>&1; then
+        executions=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")
+        coverage=$(sed -n 's/.* cov: \([0-9]*\) .*/\1/p' "$log" | tail -n 1)
+        printf '%-12s %10s executions in %s s, %s edges\n' "$target" "$executions" "$seconds" "$coverage"
+    else
+        status=1
+        printf '%-12s FAILED, see %s\n' "$target" "$log"
+        tail -n 40 "$log"
+    fi
+done
+exit $status
