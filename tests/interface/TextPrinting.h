@@ -1,8 +1,8 @@
-// Wide texts as UTF-8: for comparing with bytes, and for reading a failed comparison.
+// Wide texts as UTF-8: for comparing with bytes, and for showing the row of a table that failed.
+// GoogleTest comes with it.
 #ifndef KEXA_TESTS_INTERFACE_TEXT_PRINTING_H
 #define KEXA_TESTS_INTERFACE_TEXT_PRINTING_H
 
-#include <ostream>
 #include <string>
 #include <string_view>
 
@@ -16,17 +16,5 @@ namespace toolbox
 std::string toUtf8(std::wstring_view text);
 
 } // namespace toolbox
-
-// GoogleTest shows what is not ASCII as numbers; a test about dashes and emoji is easier to read
-// with the characters themselves.
-template <>
-class testing::internal::UniversalPrinter<std::wstring>
-{
-public:
-    static void Print(const std::wstring& text, std::ostream* out)
-    {
-        *out << 'L' << '"' << toolbox::toUtf8(text) << '"';
-    }
-};
 
 #endif
