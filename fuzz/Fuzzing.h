@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <vector>
 
 // Every target defines this one function; libFuzzer or the replaying main calls it.
@@ -19,10 +18,6 @@ void require(bool condition, const char* rule);
 
 // As require, of two texts, which are shown where they differ.
 void requireEqual(const std::wstring& actual, const std::wstring& expected, const char* rule);
-
-// UTF-8 to wide text by the definition of well-formed sequences, one U+FFFD for each maximal
-// ill-formed part. Slow, and independent of the library.
-std::wstring decodeUtf8(std::string_view bytes);
 
 // The lines of an input as wide texts; a line ends at each line feed and holds no zero character.
 std::vector<std::wstring> linesOf(const std::uint8_t* data, std::size_t size);

@@ -12,6 +12,7 @@
 #include "Fuzzing.h"
 #include "kexa/option.h"
 #include "NaiveConversion.h"
+#include "NaiveUtf8.h"
 #include "options/ValueConversion.h"
 #include "options/ValueText.h"
 
@@ -40,7 +41,7 @@ std::string trimmed(const std::wstring& text)
 }
 
 template <class Integer>
-variant_t byFromChars(std::string text)
+variant_t byFromChars(std::string text, int base = 10)
 {
     if (!text.empty() && text.front() == '+')
     {
@@ -52,9 +53,38 @@ variant_t byFromChars(std::string text)
     }
     Integer number = 0;
     const std::from_chars_result read =
-        std::from_chars(text.data(), text.data() + text.size(), number);
+        std::from_chars(text.data(), text.data() + text.size(), number, base);
     return read.ec == std::errc() && read.ptr == text.data() + text.size() ? variant_t(number)
                                                                            : variant_t();
+}
+
+bool areHexadecimal(const std::wstring& digits)
+{
+    return !digits.empty() &&
+           digits.find_first_not_of(L"0123456789ABCDEFabcdef") == std::wstring::npos;
+}
+
+// Digits behind "0x" or before "h" are hexadecimal, everything else is decimal.
+variant_t unsigned64ByFromChars(const std::wstring& text)
+{
+    const bool lead = text.size() > 1 && text[0] == L'0' && (text[1] == L'x' || text[1] == L'X');
+    if (lead && areHexadecimal(text.substr(2)))
+    {
+        return byFromChars<std::uint64_t>(trimmed(text.substr(2)), 16);
+    }
+    const bool tail = !text.empty() && (text.back() == L'h' || text.back() == L'H');
+    if (tail && areHexadecimal(text.substr(0, text.size() - 1)))
+    {
+        return byFromChars<std::uint64_t>(trimmed(text.substr(0, text.size() - 1)), 16);
+    }
+    return byFromChars<std::uint64_t>(trimmed(text));
+}
+
+variant_t booleanByTable(const std::wstring& text)
+{
+    const bool yes = text == L"1" || text == L"true";
+    const bool no = text == L"0" || text == L"false";
+    return yes || no ? variant_t(yes) : variant_t();
 }
 
 // Whether the text is a decimal number with an optional sign, fraction and exponent.
@@ -116,6 +146,15 @@ void checkReference(std::int32_t type, const std::wstring& text, const variant_t
     case kexa_3_3::value_type_integer64:
         expected = byFromChars<std::int64_t>(trimmed(text));
         break;
+    case kexa_3_3::value_type_unsigned64:
+        expected = unsigned64ByFromChars(text);
+        break;
+    case kexa_3_3::value_type_boolean:
+        expected = booleanByTable(text);
+        break;
+    case kexa_3_3::value_type_string:
+        expected = variant_t(text);
+        break;
     case kexa_3_3::value_type_double:
         expected = byStrtod(trimmed(text));
         break;
@@ -123,7 +162,7 @@ void checkReference(std::int32_t type, const std::wstring& text, const variant_t
         return;
     }
     fuzzing::require(value.kind() == expected.kind() && value == expected,
-                     "a number is what the reference reads");
+                     "a value is what the reference reads");
     if (type == kexa_3_3::value_type_double && value.can_get<double>())
     {
         fuzzing::require(std::signbit(value.get<double>()) == std::signbit(expected.get<double>()),
@@ -151,7 +190,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     const std::int32_t type = fuzzing::valueTypeOf(static_cast<wchar_t>(data[0]));
     const std::wstring text =
-        fuzzing::decodeUtf8({reinterpret_cast<const char*>(data) + 1, size - 1});
+        naive::decodeUtf8({reinterpret_cast<const char*>(data) + 1, size - 1});
     const variant_t value = kexa_3_3::convertValue(type, text);
     fuzzing::require(value.kind() == type || value.kind() == vexkit2::kind_null,
                      "a value has its type");

@@ -7,6 +7,7 @@
 
 #include "Fuzzing.h"
 #include "kexa/word_wrapped_text.h"
+#include "NaiveUtf8.h"
 
 namespace
 {
@@ -131,7 +132,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     std::string bytes(data + 3, data + size);
     std::replace(bytes.begin(), bytes.end(), '\0', '?');
-    std::wstring text = fuzzing::decodeUtf8(bytes);
+    std::wstring text = naive::decodeUtf8(bytes);
     Paragraph paragraph;
     paragraph.indent = data[0] % 64;
     paragraph.lineWidth = data[1] % 128;

@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "kexa/option.h"
+#include "NaiveUtf8.h"
 
 namespace naive
 {
@@ -204,6 +205,10 @@ std::wstring textOfValue(const vexkit2::variant_t& value)
     if (value.can_get<const wchar_t*>())
     {
         return value.get<const wchar_t*>();
+    }
+    if (value.kind() == vexkit2::kind_narrow_text || value.kind() == vexkit2::kind_narrow_reference)
+    {
+        return decodeUtf8(value.narrow_text());
     }
     if (value.can_get<bool>())
     {
