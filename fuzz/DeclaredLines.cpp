@@ -170,9 +170,15 @@ vexkit2::variant_t valueOf(const std::wstring& text)
     case L'i':
         return variant_t(static_cast<std::int32_t>(std::wcstoll(digits, nullptr, 10)));
     case L'l':
-        return variant_t(static_cast<std::int64_t>(std::wcstoll(digits, nullptr, 10)));
+    {
+        const std::int64_t number = std::wcstoll(digits, nullptr, 10);
+        return variant_t(number);
+    }
     case L'u':
-        return variant_t(static_cast<std::uint64_t>(std::wcstoull(digits, nullptr, 10)));
+    {
+        const std::uint64_t number = std::wcstoull(digits, nullptr, 10);
+        return variant_t(number);
+    }
     case L'd':
         return variant_t(std::wcstod(digits, nullptr));
     case L'b':
