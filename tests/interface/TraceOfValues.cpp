@@ -102,6 +102,40 @@ TEST(TraceOfRejectedValues, AValueThatAHandlerRefuses)
                       "'--name=a' One of the handler signaled the value is not valid."}}));
 }
 
+// The lines of a list are those of the separator that it was begun with.
+TEST(TraceOfValues, HandlerThatChangesTheSeparatorChangesNoLineOfTheList)
+{
+    const std::string sent = "AbbreviationParser: sent event on value parsed, option: 'name', ";
+    const struct
+    {
+        wchar_t before;
+        wchar_t after;
+        Lines lines;
+    } rows[] = {
+        {L',',
+         0,
+         {"AbbreviationParser: using tokenizer on char: ','", "AbbreviationParser: value is: 'a'",
+          sent + "value: 'a'", "AbbreviationParser: value is: 'b'", sent + "value: 'b'"}},
+        {0, L',', {"AbbreviationParser: not using tokenizer"}}};
+    for (const auto& row : rows)
+    {
+        Host host;
+        IOption& option = host.addOption(L"name").setSeparator(row.before);
+        Events events;
+        RecordingHandler handler(events);
+        handler.answerValue = [&](const wchar_t*, const ValueRecord&)
+        {
+            option.setSeparator(row.after);
+            return true;
+        };
+        host.parser().addEventHandler(&handler);
+        EXPECT_EQ(traceOf(host, {L"--name=a,b"}),
+                  joined({namedValue("--name=a,b", "a,b"), row.lines,
+                          Lines{"AbbreviationParser: stored option to result container.",
+                                "AbbreviationParser: removing argument: '--name=a,b'"}}));
+    }
+}
+
 TEST(TraceOfPositionalArguments, OneValue)
 {
     Host host;
