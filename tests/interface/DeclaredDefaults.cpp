@@ -1,8 +1,10 @@
 // Default values as declared: the last one counts, and values live as long as they are needed.
+#include <functional>
 #include <string>
 #include <vector>
 
 #include "Host.h"
+#include "VariantSamples.h"
 
 namespace
 {
@@ -71,6 +73,78 @@ TEST(DeclaredValues, ReleasedParserReleasesEveryValue)
         EXPECT_EQ(destroyed, 0);
     }
     EXPECT_EQ(destroyed, 5);
+}
+
+// Notes its name when it is destroyed.
+class NamedObject : public vexkit2::polymorphic_t
+{
+public:
+    NamedObject(std::vector<std::string>& destroyed, const char* name)
+        : m_destroyed(destroyed), m_name(name)
+    {
+    }
+    NamedObject(const NamedObject&) = delete;
+    NamedObject& operator=(const NamedObject&) = delete;
+    ~NamedObject() override { m_destroyed.emplace_back(m_name); }
+
+private:
+    std::vector<std::string>& m_destroyed;
+    const char* m_name;
+};
+
+TEST(DeclaredValues, OptionReleasesDeprecatedThenAllowedValuesThenTheDefault)
+{
+    std::vector<std::string> destroyed;
+    {
+        const ParserOwner parser = toolbox::createParser();
+        const auto named = [&](const char* name)
+        {
+            return variant_t::object(new NamedObject(destroyed, name));
+        };
+        parser->addOption(L"mode", L"", value_type_string, L"")
+            .option->setDefaultValue(named("default"))
+            .addDeprecatedValue(variant_t(L"old"), named("deprecated"))
+            .addAllowedValue(named("allowed"));
+    }
+    EXPECT_EQ(destroyed, (std::vector<std::string>{"deprecated", "allowed", "default"}));
+}
+
+TEST(DeclaredValues, ValueWithoutItsDataIsAProgrammingErrorAndChangesNothing)
+{
+    const std::function<void(IOption&, const variant_t&)> calls[] = {
+        [](IOption& option, const variant_t& value) { option.addAllowedValue(value); },
+        [](IOption& option, const variant_t& value)
+        { option.addDeprecatedValue(value, variant_t(L"new")); },
+        [](IOption& option, const variant_t& value)
+        { option.addDeprecatedValue(variant_t(L"a,b"), value); },
+        [](IOption& option, const variant_t& value)
+        {
+            option.setDefaultValue(value);
+        }};
+    for (const auto& call : calls)
+    {
+        for (const vexkit2::s32_t kind : {12, 13, 16, 18})
+        {
+            Host host;
+            IOption& option = host.addOption(L"mode");
+            option.addAllowedValue(variant_t(L"a,b"))
+                .setDefaultValue(variant_t(L"a,b"))
+                .setSeparator(0);
+            std::string guard;
+            try
+            {
+                call(option, variant_samples::withoutData(kind));
+            }
+            catch (const AssertionFailure& failure)
+            {
+                guard = failure.what();
+            }
+            EXPECT_EQ(guard, "h != NULL") << kind;
+            EXPECT_STREQ(host.parser().showFullHelp(false), L"-mode=a,b (a,b)\n\n") << kind;
+            EXPECT_EQ(captureError([&] { EXPECT_EQ(host.parse({L"--mode=a,b"}), 0) << kind; }), "");
+            EXPECT_EQ(host.texts(L"mode"), std::vector<std::wstring>{L"a,b"}) << kind;
+        }
+    }
 }
 
 TEST(DeclaredValues, ValueSharedWithTheHostOutlivesTheParser)

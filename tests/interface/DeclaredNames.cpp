@@ -261,6 +261,11 @@ TEST(Builder, EveryOperationAnswersTheOptionItself)
     EXPECT_EQ(&option.addKeywords(L"k"), &option);
 }
 
+TEST(Builder, InterfaceHasNoData)
+{
+    EXPECT_EQ(sizeof(IOption), sizeof(void*));
+}
+
 TEST(Builder, NullDescriptionAndGroupCountAsEmpty)
 {
     Host host;
