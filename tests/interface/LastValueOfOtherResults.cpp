@@ -29,19 +29,20 @@ public:
     explicit ScriptedResult(std::vector<result_t> codes) : m_codes(std::move(codes)) {}
 
     std::vector<std::wstring> calls;
+    bool setsStatus = true; // whether the record tells the code too
 
     void release() override {}
     std::int32_t isPresent(const wchar_t*, std::int32_t, std::int32_t) override { return 0; }
     result_t getFirstValue(Value* out, const wchar_t* name, std::int32_t from,
                            std::int32_t to) override
     {
-        calls.push_back(std::wstring(L"first ") + name + L" " + std::to_wstring(from) + L" " +
+        calls.push_back(L"first " + textOf(name) + L" " + std::to_wstring(from) + L" " +
                         std::to_wstring(to));
         return answer(out);
     }
     result_t getNextValue(Value* out, const wchar_t* name) override
     {
-        calls.push_back(std::wstring(L"next ") + name);
+        calls.push_back(L"next " + textOf(name));
         return answer(out);
     }
     std::int32_t getNextPosition() override { return no_position; }
@@ -49,12 +50,17 @@ public:
     result_t getNextUnparsed(const wchar_t**) override { return result_nothing; }
 
 private:
+    static std::wstring textOf(const wchar_t* name) { return name == nullptr ? L"null" : name; }
+
     result_t answer(Value* out)
     {
         const std::size_t index = calls.size() - 1;
         const result_t code = index < m_codes.size() ? m_codes[index] : result_nothing;
         *out = Value();
-        out->status = code;
+        if (setsStatus)
+        {
+            out->status = code;
+        }
         if (code == result_success)
         {
             out->data = L"text";
@@ -90,6 +96,15 @@ TEST(LastValueOfAHostsResult, ValueThatOnlyTheNextQueryFindsCounts)
               (std::vector<std::wstring>{L"first name 3 4", L"next name", L"next name"}));
 }
 
+TEST(LastValueOfAHostsResult, IsNotAskedForANullName)
+{
+    ScriptedResult result({result_success});
+    const Value value = getLastValue(&result, nullptr, 0, no_position);
+    EXPECT_EQ(value.status, 1);
+    expectNothing(value);
+    EXPECT_EQ(result.calls, std::vector<std::wstring>());
+}
+
 TEST(LastValueOfAHostsResult, NothingAnywhereIsNotFound)
 {
     ScriptedResult result({result_nothing, result_nothing});
@@ -97,6 +112,44 @@ TEST(LastValueOfAHostsResult, NothingAnywhereIsNotFound)
     EXPECT_EQ(value.status, 1);
     expectNothing(value);
     EXPECT_EQ(result.calls, (std::vector<std::wstring>{L"first name 0 0", L"next name"}));
+}
+
+TEST(LastValueOfAHostsResult, FailedQueryTellsItsCodeUnlessAValueWasFound)
+{
+    const struct
+    {
+        std::vector<result_t> codes;
+        std::int32_t status;
+        std::size_t calls;
+    } rows[] = {
+        {{result_standard_exception, result_standard_exception}, 3, 2},
+        {{result_nothing, result_standard_exception}, 3, 2},
+        {{result_standard_exception, result_nothing}, 1, 2},
+        {{result_standard_exception, result_success, result_nothing}, 0, 3},
+        {{result_success, result_standard_exception}, 0, 2},
+    };
+    for (const auto& row : rows)
+    {
+        ScriptedResult result(row.codes);
+        const Value value = getLastValue(&result, L"name", 0, no_position);
+        SCOPED_TRACE(testing::PrintToString(row.codes));
+        EXPECT_EQ(value.status, row.status);
+        EXPECT_EQ(result.calls.size(), row.calls);
+        if (row.status != 0)
+        {
+            expectNothing(value);
+        }
+    }
+}
+
+TEST(LastValueOfAHostsResult, AnswerOfTheQueryDecidesNotWhatTheRecordSays)
+{
+    ScriptedResult result({result_success, result_success, result_nothing});
+    result.setsStatus = false;
+    const Value value = getLastValue(&result, L"name", 0, no_position);
+    EXPECT_EQ(value.status, 0);
+    EXPECT_STREQ(value.as<const wchar_t*>(), L"text");
+    EXPECT_EQ(value.position, 1);
 }
 
 // A host's own result that throws at the given query.
