@@ -217,6 +217,10 @@ TEST(AllowedValues, NumbersAreMatchedByValueAcrossKinds)
         {value_type_double, variant_t(s32_t{2}), L"2.0", true},
         {value_type_double, variant_t(0.5F), L"5e-1", true},
         {value_type_double, variant_t(0.1F), L"0.1", false},
+        // As doubles, though the order of the numbers would tell them apart.
+        {value_type_double, variant_t(s64_t{9007199254740995}), L"9007199254740996", true},
+        {value_type_integer64, variant_t(9007199254740992.0), L"9007199254740993", true},
+        {value_type_integer64, variant_t(9007199254740992.0), L"9007199254740994", false},
     };
     for (const auto& row : rows)
     {

@@ -156,6 +156,18 @@ TEST(DeprecatedValues, NumberIsFoundByValue)
     EXPECT_EQ(value.value.get<s32_t>(), 1);
 }
 
+TEST(DeprecatedValues, OldValueIsNamedAsItWasDeclared)
+{
+    Host host;
+    addMode(host, value_type_double)
+        .addAllowedValue(variant_t(1.0))
+        .addDeprecatedValue(variant_t(vexkit2::u64_t{10000000000000000000U}), variant_t(1.0));
+    EXPECT_EQ(outcomeOf(host, L"--mode=1e19"),
+              (Outcome{{L"1"},
+                       "Warning: '10000000000000000000' argument is deprecated for the option "
+                       "'-mode'. Use the '1' argument instead.\n"}));
+}
+
 TEST(DeprecatedValues, ReplacementKeepsItsKindAndGivesTheText)
 {
     Host host;
