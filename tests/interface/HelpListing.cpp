@@ -228,6 +228,16 @@ TEST(RelatedHelp, OptionIsATopicAndNeverListsItself)
                  L"-width                        text\n\n");
 }
 
+TEST(RelatedHelp, HiddenTopicIsFoundWhateverIsShown)
+{
+    const ParserOwner parser = toolbox::createParser();
+    parser->addOptionWithKeywords(L"width", L"debug", L"text", value_type_none, L"");
+    parser->addSwitch(L"debug", L"action", value_type_boolean, L"kexa_hidden");
+    EXPECT_STREQ(parser->showRelatedHelp(L"debug", false),
+                 L"-width                        text\n\n");
+    EXPECT_STREQ(parser->showRelatedHelp(L"debug", true), L"kexa_hidden\n\n");
+}
+
 TEST(RelatedHelp, HiddenOptionsAreListedOnRequest)
 {
     const ParserOwner parser = toolbox::createParser();

@@ -41,6 +41,16 @@ TEST(TopicList, SwitchesAreListedByNameWhateverTheirGroupAndOrder)
                                               L"    verify   Verifies.\n");
 }
 
+TEST(TopicList, OnlyPrimaryNamesOfListedTopicsMakeTheColumn)
+{
+    const ParserOwner parser = toolbox::createParser();
+    parser->addSwitch(L"a,longer", L"first", value_type_boolean, L"")
+        .option->addName(L"the longest of all");
+    parser->addSwitch(L"secret-topic", L"second", value_type_boolean, L"kexa_hidden");
+    parser->addOption(L"value-option", L"third", value_type_boolean, L"");
+    EXPECT_STREQ(parser->getTopicList(false), L"    a   first\n");
+}
+
 TEST(TopicList, DescriptionIsNotWrapped)
 {
     const ParserOwner parser = toolbox::createParser();

@@ -1,6 +1,7 @@
 // The layout of WordWrappedText: a lead, then text wrapped at an indentation.
 #include <stdexcept>
 #include <string>
+#include <type_traits>
 #include <utility>
 
 #include "Host.h"
@@ -199,6 +200,12 @@ TEST(WordWrap, VeryWideLineIsNotWrapped)
 {
     const std::wstring text(5000, L'x');
     EXPECT_EQ(wrap(L"", text, 1, static_cast<std::size_t>(-1)), L" " + text + L"\n");
+}
+
+TEST(WordWrap, ObjectIsOneTextWithoutVirtualOperations)
+{
+    EXPECT_FALSE(std::is_polymorphic_v<WordWrappedText>);
+    EXPECT_EQ(sizeof(WordWrappedText), sizeof(std::wstring));
 }
 
 TEST(WordWrap, CopiesAreIndependent)
