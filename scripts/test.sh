@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
 # Installs what is missing (Debian packages), then builds and tests everything:
 # natively with GCC and Clang, under the address and undefined-behaviour sanitizers, and on Windows
-# under Wine; checks the formatting first.
+# under Wine; checks the formatting and looks for mistakes first.
 #
-#   scripts/test.sh [STEP ...]    run only these steps: format, or the name of a preset
+#   scripts/test.sh [STEP ...]    run only these steps: format, lint, or the name of a preset
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 jobs=$(nproc)
-all_steps=(format asan release mingw)
+all_steps=(format lint asan release mingw)
 steps=("$@")
 [ ${#steps[@]} -gt 0 ] || steps=("${all_steps[@]}")
 
@@ -38,6 +38,7 @@ mkdir -p build
 for step in "${steps[@]}"; do
     case $step in
     format) check_format ;;
+    lint) headline "static analysis" && scripts/lint.sh ;;
     *) run_preset "$step" ;;
     esac
 done

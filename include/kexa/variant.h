@@ -59,15 +59,20 @@ public:
         m_value.m_u64 = static_cast<u64_t>(value);
     }
     explicit variant_t(u64_t value) noexcept : m_type(kind_u64) { m_value.m_u64 = value; }
-    explicit variant_t(float value) noexcept : variant_t(static_cast<double>(value))
+    explicit variant_t(float value) noexcept : m_type(kind_float)
     {
-        m_type = kind_float;
+        m_value.m_double = static_cast<double>(value);
     }
     explicit variant_t(double value) noexcept : m_type(kind_double) { m_value.m_double = value; }
 
     // A copy of the text, up to its terminating zero; null counts as empty.
-    explicit variant_t(const char* text) : variant_t(text, text ? std::strlen(text) : 0) {}
-    explicit variant_t(const wchar_t* text) : variant_t(text, text ? std::wcslen(text) : 0) {}
+    explicit variant_t(const char* text) : variant_t(text, text == nullptr ? 0 : std::strlen(text))
+    {
+    }
+    explicit variant_t(const wchar_t* text)
+        : variant_t(text, text == nullptr ? 0 : std::wcslen(text))
+    {
+    }
 
     // A copy of the text, embedded zeros included.
     explicit variant_t(const std::string& text) : variant_t(text.data(), text.size()) {}
@@ -86,11 +91,11 @@ public:
     // Refers to a text that the caller keeps alive and unchanged; null counts as empty.
     static variant_t reference(const char* text) noexcept
     {
-        return variant_t(kind_narrow_reference, text ? text : "");
+        return variant_t(kind_narrow_reference, text == nullptr ? "" : text);
     }
     static variant_t reference(const wchar_t* text) noexcept
     {
-        return variant_t(kind_wide_reference, text ? text : L"");
+        return variant_t(kind_wide_reference, text == nullptr ? L"" : text);
     }
 
     // A copy of `length` bytes.
@@ -186,9 +191,9 @@ private:
         m_value.m_reference = reference;
     }
     variant_t(s32_t kind, const void* bytes, std::size_t length, std::size_t terminator)
+        : m_type(kind)
     {
         m_value.m_data = detail::make_block(bytes, length, terminator);
-        m_type = kind;
     }
 
     bool owns_block() const noexcept

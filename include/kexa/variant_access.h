@@ -15,7 +15,7 @@ namespace vexkit2
 inline variant_t variant_t::object(polymorphic_t* object)
 {
     std::unique_ptr<polymorphic_t> owner(object);
-    variant_t result(kind_object, &object, sizeof(object), 0);
+    variant_t result(kind_object, &object, detail::object_length, 0);
     static_cast<void>(owner.release());
     return result;
 }

@@ -53,6 +53,9 @@ struct block_header_t
     std::size_t length; // of the data, in bytes
 };
 
+// Of the data of an object's block: a pointer to the object.
+inline constexpr std::size_t object_length = sizeof(void*);
+
 inline block_header_t* header_of(void* data) noexcept
 {
     return static_cast<block_header_t*>(data) - 1;
@@ -72,7 +75,8 @@ inline void* allocate_block(std::size_t length)
         throw std::bad_alloc();
     }
     void* const memory = ::operator new(length + extra);
-    void* const data = new (memory) block_header_t(length) + 1;
+    auto* const header = new (memory) block_header_t(length);
+    void* const data = header + 1;
     std::memset(static_cast<char*>(data) + length, 0, 2 * sizeof(wchar_t));
     return data;
 }
@@ -114,8 +118,8 @@ inline void release(void* data, bool holds_object) noexcept
     if (holds_object)
     {
         polymorphic_t* object = nullptr;
-        std::memcpy(&object, data, sizeof(object));
-        std::memset(data, 0, sizeof(object));
+        std::memcpy(&object, data, object_length);
+        std::memset(data, 0, object_length);
         delete object;
     }
     h->~block_header_t();

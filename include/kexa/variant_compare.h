@@ -85,6 +85,7 @@ inline int compare_blobs(const void* left, std::size_t left_length, const void* 
 }
 
 // The order of a sign and magnitude against a double that is no NaN, without rounding.
+// NOLINTNEXTLINE(misc-no-recursion): once, with the signs turned.
 inline int compare_exactly(bool negative, u64_t magnitude, double number) noexcept
 {
     constexpr double beyond = 18446744073709551616.0; // 2 to the 64th
@@ -140,7 +141,7 @@ inline bool operator==(const variant_t& left, const variant_t& right)
         return detail::compare_blobs(left.data(), left.byte_length(), right.data(),
                                      right.byte_length()) == 0;
     case rank_t::object:
-        return std::memcmp(left.data(), right.data(), sizeof(polymorphic_t*)) == 0;
+        return std::memcmp(left.data(), right.data(), detail::object_length) == 0;
     case rank_t::null:
         break;
     }
@@ -239,8 +240,8 @@ inline bool operator<(const variant_t& left, const variant_t& right)
     {
         polymorphic_t* left_object = nullptr;
         polymorphic_t* right_object = nullptr;
-        std::memcpy(&left_object, left.data(), sizeof(left_object));
-        std::memcpy(&right_object, right.data(), sizeof(right_object));
+        std::memcpy(&left_object, left.data(), detail::object_length);
+        std::memcpy(&right_object, right.data(), detail::object_length);
         return std::less<polymorphic_t*>()(left_object, right_object);
     }
     case rank_t::null:

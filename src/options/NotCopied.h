@@ -10,8 +10,9 @@ template <class T>
 struct NotCopied
 {
     NotCopied() = default;
-    NotCopied(const NotCopied&) noexcept {}
-    NotCopied& operator=(const NotCopied&) noexcept { return *this; }
+    NotCopied(const NotCopied& /*other*/) noexcept {}
+    // NOLINTNEXTLINE(cert-oop54-cpp): there is nothing to protect from an assignment to itself.
+    NotCopied& operator=(const NotCopied& /*other*/) noexcept { return *this; }
     ~NotCopied() = default;
 
     T held = T();

@@ -128,6 +128,7 @@ const AllowedValueIndex& OptionDescription::allowedValueIndex() const
     return *index;
 }
 
+// NOLINTNEXTLINE(readability-make-member-function-const): it changes the index.
 void OptionDescription::notePositional()
 {
     if (m_place.held.index != nullptr && isPositional())

@@ -53,6 +53,20 @@ const OptionResult* resultOf(OptionResultTable& options) noexcept
     return stored == nullptr ? nullptr : &stored->result;
 }
 
+result_t readFile(const std::wstring& name, const OptionFiles::ParseFile& parseFile,
+                  std::wstring& message)
+{
+    std::wstring text;
+    const FileProblem problem = loadText(name, text);
+    if (problem != FileProblem::none)
+    {
+        message = concatenate({L"Error reading option file '", name, L"': ", reasonOf(problem)});
+        return result_unreadable_option_file;
+    }
+    Arguments arguments = splitArguments(text);
+    return parseFile(arguments);
+}
+
 } // namespace
 
 OptionFiles::OptionFiles(OptionResultTable& options) : m_options(options), m_next(0)
@@ -82,20 +96,6 @@ result_t OptionFiles::readAll(const ParseFile& parseFile, std::wstring& message)
             return code;
         }
     }
-}
-
-result_t OptionFiles::readFile(const std::wstring& name, const ParseFile& parseFile,
-                               std::wstring& message)
-{
-    std::wstring text;
-    const FileProblem problem = loadText(name, text);
-    if (problem != FileProblem::none)
-    {
-        message = concatenate({L"Error reading option file '", name, L"': ", reasonOf(problem)});
-        return result_unreadable_option_file;
-    }
-    Arguments arguments = splitArguments(text);
-    return parseFile(arguments);
 }
 
 } // namespace kexa_3_3

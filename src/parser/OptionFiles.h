@@ -33,9 +33,6 @@ public:
     [[nodiscard]] result_t readAll(const ParseFile& parseFile, std::wstring& message);
 
 private:
-    [[nodiscard]] result_t readFile(const std::wstring& name, const ParseFile& parseFile,
-                                    std::wstring& message);
-
     OptionResultTable& m_options;
     std::size_t m_next; // index of the first value not looked at
     std::set<std::wstring> m_read;

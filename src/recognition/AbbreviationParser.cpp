@@ -151,8 +151,8 @@ AbbreviationParser::takeNextArgument(const ArgumentQueue& arguments,
                 1,
                 concatenate({L"Option '", option.primaryName(),
                              L"' received value from the next argument: '", value,
-                             L"', but it seems to be an option. Use '-option=value' declaration "
-                             L"form or make sure that value is not missed"})};
+                             (L"', but it seems to be an option. Use '-option=value' declaration "
+                              L"form or make sure that value is not missed")})};
     }
     traceLine(name(), L": got value from the next argument: '", value, L"'");
     return {value, 2, value.empty() ? valueMissing(option, arguments.front()) : std::wstring()};

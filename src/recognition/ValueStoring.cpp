@@ -24,6 +24,8 @@ constexpr int stored = 0;
 constexpr int refused = 1;
 constexpr int invalid = 2;
 
+// One for the whole process: positions rise from parse to parse, whichever parser gives them.
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables)
 std::int32_t sequence_counter = 0;
 
 std::int32_t takeSequenceNumber() noexcept

@@ -178,12 +178,13 @@ bool ParseResult::nextValue(Found& found) noexcept
     return true;
 }
 
-ParseResult::Found ParseResult::defaultOf(const OptionResult& option) const noexcept
+ParseResult::Found ParseResult::defaultOf(const OptionResult& option) noexcept
 {
     return {option.defaultText.data(), &option.defaultValue,
             static_cast<std::int32_t>(option.defaultPosition)};
 }
 
+// NOLINTNEXTLINE(bugprone-exception-escape): the copy shares a block that is there.
 result_t ParseResult::answer(Value* out, bool found, const Found& what) noexcept
 {
     const result_t code = found ? result_success : result_nothing;

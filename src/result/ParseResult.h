@@ -58,7 +58,8 @@ private:
     [[nodiscard]] bool walksOccurrences() const noexcept;
     [[nodiscard]] bool beginQuery(const wchar_t* name, std::int32_t from, std::int32_t to) noexcept;
     [[nodiscard]] bool nextValue(Found& found) noexcept;
-    [[nodiscard]] Found defaultOf(const OptionResult& option) const noexcept;
+    [[nodiscard]] static Found defaultOf(const OptionResult& option) noexcept;
+    // NOLINTNEXTLINE(bugprone-exception-escape): as in the definition.
     [[nodiscard]] static result_t answer(Value* out, bool found, const Found& what) noexcept;
 
     Garbage m_strings; // keeps every text handed out, so it is destroyed after what refers to it

@@ -26,6 +26,7 @@ public:
     [[nodiscard]] void* take(std::size_t size, std::size_t alignment)
     {
         const std::size_t padding =
+            // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): an address is asked for.
             (~reinterpret_cast<std::uintptr_t>(m_free) + 1) & (alignment - 1);
         if (m_left < size + padding)
         {

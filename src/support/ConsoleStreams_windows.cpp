@@ -32,7 +32,8 @@ bool writeToConsole(HANDLE console, std::wstring_view text)
             --length;
         }
         DWORD written = 0;
-        if (!::WriteConsoleW(console, rest.data(), static_cast<DWORD>(length), &written, nullptr) ||
+        if (::WriteConsoleW(console, rest.data(), static_cast<DWORD>(length), &written, nullptr) ==
+                FALSE ||
             written == 0)
         {
             return false;
@@ -52,7 +53,7 @@ bool writeToFile(HANDLE file, std::wstring_view text)
         const auto length = static_cast<DWORD>(std::min(rest.size(), most_bytes));
         DWORD written = 0;
         // A pipe that does not wait answers that it took nothing.
-        if (!::WriteFile(file, rest.data(), length, &written, nullptr) || written == 0)
+        if (::WriteFile(file, rest.data(), length, &written, nullptr) == FALSE || written == 0)
         {
             return false;
         }
@@ -73,8 +74,8 @@ bool writeConsole(ConsoleTarget target, std::wstring_view text)
         return false; // a program without a console
     }
     DWORD mode = 0;
-    return ::GetConsoleMode(handle, &mode) ? writeToConsole(handle, text)
-                                           : writeToFile(handle, text);
+    return ::GetConsoleMode(handle, &mode) != FALSE ? writeToConsole(handle, text)
+                                                    : writeToFile(handle, text);
 }
 
 } // namespace kexa_3_3::internal

@@ -113,6 +113,7 @@ FileProblem loadFile(const std::wstring& name, std::string& bytes)
     {
         return FileProblem::not_found; // the system would look for a shorter name
     }
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): POSIX has no other open.
     const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY));
     if (file.number() < 0)
     {

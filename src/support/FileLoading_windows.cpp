@@ -113,8 +113,8 @@ FileProblem readAll(HANDLE file, std::size_t expected, std::string& bytes)
             bytes.resize(std::min(2 * length, largest_file + 1));
         }
         DWORD count = 0;
-        if (!::ReadFile(file, bytes.data() + length, static_cast<DWORD>(bytes.size() - length),
-                        &count, nullptr))
+        if (::ReadFile(file, bytes.data() + length, static_cast<DWORD>(bytes.size() - length),
+                       &count, nullptr) == FALSE)
         {
             const DWORD error = ::GetLastError();
             if (error != ERROR_BROKEN_PIPE) // how a pipe tells its end
@@ -150,13 +150,13 @@ FileProblem loadFile(const std::wstring& name, std::string& bytes)
         return problemOf(::GetLastError());
     }
     BY_HANDLE_FILE_INFORMATION information = {};
-    if (::GetFileInformationByHandle(file.get(), &information) &&
+    if (::GetFileInformationByHandle(file.get(), &information) != FALSE &&
         (information.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
     {
         return FileProblem::is_folder;
     }
     LARGE_INTEGER size = {};
-    if (!::GetFileSizeEx(file.get(), &size))
+    if (::GetFileSizeEx(file.get(), &size) == FALSE)
     {
         size.QuadPart = 0; // a device or a pipe
     }

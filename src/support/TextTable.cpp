@@ -19,6 +19,7 @@ std::uint64_t hashOf(std::wstring_view text) noexcept
     // Eight bytes at a time; the odd multiplier is the golden ratio's, which spreads small
     // differences over the upper bits (D. E. Knuth, The Art of Computer Programming, 6.4).
     constexpr std::uint64_t multiplier = 0x9E3779B97F4A7C15;
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): bytes may be read of any object.
     const auto* bytes = reinterpret_cast<const char*>(text.data());
     std::size_t length = text.size() * sizeof(wchar_t);
     std::uint64_t hash = length;

@@ -8,7 +8,7 @@ namespace kexa_3_3
 namespace internal
 {
 
-bool trace_switch = false;
+bool trace_switch = false; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
 
 } // namespace internal
 

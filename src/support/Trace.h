@@ -22,6 +22,7 @@ public:
 
 // The trace switch. One for the whole process and unguarded: parsers in several threads interfere
 // in what they trace, and in nothing else.
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables)
 extern bool trace_switch;
 
 } // namespace internal

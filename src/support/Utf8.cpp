@@ -38,14 +38,14 @@ LeadingByte classify(unsigned char byte) noexcept
     }
     if (byte < 0xE0)
     {
-        return {byte & 0x1Fu, 1, 0x80, 0xBF};
+        return {byte & 0x1FU, 1, 0x80, 0xBF};
     }
     if (byte < 0xF0)
     {
-        return {byte & 0x0Fu, 2, static_cast<unsigned char>(byte == 0xE0 ? 0xA0 : 0x80),
+        return {byte & 0x0FU, 2, static_cast<unsigned char>(byte == 0xE0 ? 0xA0 : 0x80),
                 static_cast<unsigned char>(byte == 0xED ? 0x9F : 0xBF)};
     }
-    return {byte & 0x07u, 3, static_cast<unsigned char>(byte == 0xF0 ? 0x90 : 0x80),
+    return {byte & 0x07U, 3, static_cast<unsigned char>(byte == 0xF0 ? 0x90 : 0x80),
             static_cast<unsigned char>(byte == 0xF4 ? 0x8F : 0xBF)};
 }
 
@@ -66,7 +66,7 @@ Decoded decodeSequence(std::string_view bytes) noexcept
         {
             return {replacement_character, length};
         }
-        lead.payload = (lead.payload << 6) | (byte & 0x3Fu);
+        lead.payload = (lead.payload << 6) | (byte & 0x3FU);
         lead.lowest = 0x80;
         lead.highest = 0xBF;
         ++length;
@@ -166,7 +166,8 @@ std::string utf8FromWide(std::wstring_view text)
     for (std::size_t position = 0; position < text.size(); ++position)
     {
         const wchar_t unit = text[position];
-        auto codePoint = static_cast<std::uint32_t>(unit);
+        // A negative one, where wide characters have a sign, is above all code points.
+        auto codePoint = static_cast<std::uint32_t>(unit); // NOLINT(bugprone-signed-char-misuse)
         if (codePoint < 0x80)
         {
             bytes.push_back(static_cast<char>(codePoint));
