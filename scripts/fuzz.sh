@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Runs the fuzz targets, each for some seconds (20 unless given), under the address and
-# undefined-behaviour sanitizers. Ends with 1 where one of them finds something.
+# Runs the fuzz targets, each for some seconds (20 unless given) and as many at once as there are
+# processors, under the address and undefined-behaviour sanitizers. Ends with 1 where one of them
+# finds something.
 #
 #   scripts/fuzz.sh [SECONDS [TARGET ...]]
 #
@@ -19,28 +20,54 @@ targets=("$@")
 declare -A longest=(
     [arguments]=600 [help]=600 [option_file]=1000 [utf8]=64 [values]=400 [word_wrap]=400)
 
-scripts/install-packages.sh cmake ninja-build clang
+scripts/install-packages.sh cmake ninja-build g++ clang libclang-rt-dev llvm
 build=build/fuzz
 mkdir -p "$build/failed"
 cmake --preset fuzz >"$build/configure.log" 2>&1 || { cat "$build/configure.log"; exit 1; }
 cmake --build --preset fuzz -j "$(nproc)" >"$build/build.log" 2>&1 || { tail -n 80 "$build/build.log"; exit 1; }
 
-status=0
-for target in "${targets[@]}"; do
+# What a target writes to files stays in memory where there is a folder for that.
+if [ -z "${TMPDIR-}" ] && [ -w /dev/shm ]; then
+    export TMPDIR=/dev/shm
+fi
+
+run_target()
+{
+    local target=$1 log="$build/$1.log" failed
     mkdir -p "$build/found/$target"
-    log="$build/$target.log"
     # Mask 3: what the library prints about its declarations is not looked at here.
     if "$build/fuzz/fuzz_$target" -max_total_time="$seconds" -max_len="${longest[$target]}" \
         -timeout=10 -dict=fuzz/kexa.dict -close_fd_mask=3 -print_final_stats=1 \
         -artifact_prefix="$build/failed/$target-" \
         "$build/found/$target" "fuzz/corpus/$target" </dev/null >"$log" 2>&1; then
-        executions=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")
-        coverage=$(sed -n 's/.* cov: \([0-9]*\) .*/\1/p' "$log" | tail -n 1)
-        printf '%-12s %10s executions in %s s, %s edges\n' "$target" "$executions" "$seconds" "$coverage"
+        printf '%-12s %10s executions in %s s, %s edges\n' "$target" \
+            "$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")" "$seconds" \
+            "$(sed -n 's/.* cov: \([0-9]*\) .*/\1/p' "$log" | tail -n 1)"
+        return
+    fi
+    printf '%-12s FAILED, see %s\n' "$target" "$log"
+    # Once more, now with what the target says about it.
+    failed=$(sed -n 's/.*Test unit written to //p' "$log" | tail -n 1)
+    if [ -n "$failed" ]; then
+        "$build/fuzz/fuzz_$target" "$failed" </dev/null 2>&1 | tail -n 80
     else
-        status=1
-        printf '%-12s FAILED, see %s\n' "$target" "$log"
         tail -n 40 "$log"
     fi
+    return 1
+}
+
+status=0
+running=0
+for target in "${targets[@]}"; do
+    if [ "$running" -eq "$(nproc)" ]; then
+        wait -n || status=1
+        running=$((running - 1))
+    fi
+    run_target "$target" &
+    running=$((running + 1))
+done
+while [ "$running" -gt 0 ]; do
+    wait -n || status=1
+    running=$((running - 1))
 done
 exit $status

@@ -1,25 +1,37 @@
 #!/usr/bin/env bash
-# Installs what is missing (Debian packages), then builds and tests everything:
-# natively with GCC and Clang, under the address and undefined-behaviour sanitizers, and on Windows
-# under Wine; checks the formatting and looks for mistakes first.
+# Installs what is missing (Debian packages), then builds and tests everything: checks the formatting,
+# looks for mistakes, runs the fuzz targets for some seconds and what has threads under the thread
+# sanitizer, then the whole suite under the address and undefined-behaviour sanitizers, natively, and
+# on Windows under Wine.
 #
-#   scripts/test.sh [STEP ...]    run only these steps: format, lint, or the name of a preset
+#   scripts/test.sh [STEP ...]    run only these steps: format, lint, fuzz, tsan, or the name of a
+#                                 preset
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 jobs=$(nproc)
-all_steps=(format lint asan release mingw)
+all_steps=(format lint fuzz tsan asan release mingw)
 steps=("$@")
 [ ${#steps[@]} -gt 0 ] || steps=("${all_steps[@]}")
 
 headline() { printf '\n== %s\n' "$*"; }
 
+# run_preset PRESET [TEST ...]: everything, or the named tests alone, each a target of its own.
 run_preset()
 {
-    headline "preset $1: configure, build, test"
-    cmake --preset "$1" >"build/$1.configure.log" 2>&1 || { cat "build/$1.configure.log"; return 1; }
-    cmake --build --preset "$1" -j "$jobs" >"build/$1.build.log" 2>&1 || { tail -n 80 "build/$1.build.log"; return 1; }
-    ctest --preset "$1" -j "$jobs"
+    local preset=$1
+    shift
+    headline "preset $preset: configure, build, test $*"
+    cmake --preset "$preset" >"build/$preset.configure.log" 2>&1 || { cat "build/$preset.configure.log"; return 1; }
+    cmake --build --preset "$preset" -j "$jobs" ${1:+--target "$@"} >"build/$preset.build.log" 2>&1 ||
+        { tail -n 80 "build/$preset.build.log"; return 1; }
+    ctest --preset "$preset" -j "$jobs" --no-tests=error ${1:+-R "^($(IFS='|'; echo "$*"))\$"}
+}
+
+run_fuzzers()
+{
+    headline "fuzz targets: build, 20 seconds for each"
+    scripts/fuzz.sh 20
 }
 
 check_format()
@@ -30,8 +42,8 @@ check_format()
 }
 
 scripts/install-packages.sh \
-    cmake ninja-build g++ clang clang-format git python3 binutils diffutils valgrind \
-    libgtest-dev libgmock-dev googletest zlib1g-dev \
+    cmake ninja-build g++ clang clang-format libclang-rt-dev llvm git python3 binutils diffutils \
+    valgrind libgtest-dev libgmock-dev googletest zlib1g-dev \
     g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64
 mkdir -p build
 
@@ -39,6 +51,8 @@ for step in "${steps[@]}"; do
     case $step in
     format) check_format ;;
     lint) headline "static analysis" && scripts/lint.sh ;;
+    fuzz) run_fuzzers ;;
+    tsan) run_preset tsan faults_threads ;;
     *) run_preset "$step" ;;
     esac
 done
