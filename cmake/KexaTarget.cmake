@@ -20,6 +20,10 @@ else()
             # GCC 12 sees copies overlap and run over in every concatenation of strings.
             target_compile_options(kexa_build_settings INTERFACE
                 -Wno-restrict -Wno-stringop-overflow -Wno-stringop-overread -Wno-array-bounds)
+            if(CMAKE_CXX_FLAGS MATCHES "_FORTIFY_SOURCE")
+                # So do the fortified functions of the C library, which warn by an attribute.
+                target_compile_options(kexa_build_settings INTERFACE -Wno-attribute-warning)
+            endif()
         endif()
     endif()
     if(KEXA_WARNINGS_AS_ERRORS)
