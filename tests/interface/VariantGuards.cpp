@@ -1,6 +1,9 @@
 // Guards against variants that no operation makes: each raises its exact text.
+#include <cstddef>
 #include <cstring>
 #include <functional>
+#include <limits>
+#include <new>
 #include <stdexcept>
 #include <string>
 
@@ -149,6 +152,19 @@ TEST(VariantGuards, SetDataRefusesMissingBytes)
     variant_t value(L"kept");
     EXPECT_EQ(guardOf([&] { value.set_data(16, nullptr, 1); }), "bytes != NULL || length == 0");
     EXPECT_STREQ(value.get<const wchar_t*>(), L"kept");
+}
+
+// With its header such a block would be shorter than its data.
+TEST(VariantGuards, LengthThatNoMemoryHasRoomForIsRefused)
+{
+    const std::size_t longest = std::numeric_limits<std::size_t>::max();
+    variant_t value(L"kept");
+    for (const std::size_t length : {longest, longest - 1, longest - sizeof(void*)})
+    {
+        EXPECT_THROW(static_cast<void>(variant_t::blob("bytes", length)), std::bad_alloc);
+        EXPECT_THROW(value.set_data(16, "bytes", length), std::bad_alloc);
+        EXPECT_STREQ(value.get<const wchar_t*>(), L"kept");
+    }
 }
 
 TEST(VariantGuards, NarrowTextIsReadFromNarrowTextsOnly)

@@ -1,6 +1,7 @@
 // Console output that is refused, or taken slowly. Needs devices and pipes of a POSIX system.
 #ifndef _WIN32
 
+#include <chrono>
 #include <cstddef>
 #include <ostream>
 #include <string>
@@ -80,6 +81,11 @@ TEST(ConsoleFailures, WhatCouldNotBeWrittenDoesNotSilenceWhatComesLater)
 // The writer has to wait for the reader again and again: the text is larger than a pipe holds.
 TEST(ConsoleFailures, DescriptorThatDoesNotWaitGetsTheWholeText)
 {
+    std::wstring text;
+    for (int line = 0; line < 50000; ++line)
+    {
+        text += std::to_wstring(line) + L"\u00E9\n";
+    }
     int ends[2] = {-1, -1};
     ASSERT_EQ(::pipe(ends), 0);
     ASSERT_EQ(::fcntl(ends[1], F_SETFL, O_NONBLOCK), 0);
@@ -87,17 +93,14 @@ TEST(ConsoleFailures, DescriptorThatDoesNotWaitGetsTheWholeText)
     std::thread reader(
         [&received, end = ends[0]]
         {
+            // Until the pipe is full and the writer has to wait.
+            std::this_thread::sleep_for(std::chrono::milliseconds(50));
             std::string part(5000, '\0');
             for (ssize_t count = 0; (count = ::read(end, part.data(), part.size())) > 0;)
             {
                 received.append(part, 0, static_cast<std::size_t>(count));
             }
         });
-    std::wstring text;
-    for (int line = 0; line < 50000; ++line)
-    {
-        text += std::to_wstring(line) + L"\u00E9\n";
-    }
     bool written = false;
     {
         const Redirected redirected(ends[1]);

@@ -92,6 +92,20 @@ TEST(ConsoleStreams, ZeroCharactersAreWritten)
               std::string("a\0b\0", 4));
 }
 
+// Streams tell that they end by a character that is none; as a text it has nothing to write.
+TEST(ConsoleStreams, MarkOfTheEndWritesNothingAndEndsNothing)
+{
+    const auto mark = std::char_traits<wchar_t>::to_char_type(std::char_traits<wchar_t>::eof());
+    EXPECT_EQ(captureOutput(
+                  [mark]
+                  {
+                      std::wostream& out = ucout();
+                      out.put(L'a').put(mark).put(L'b');
+                      EXPECT_TRUE(out.good());
+                  }),
+              "ab");
+}
+
 TEST(ConsoleStreams, EveryInsertionArrivesAtOnce)
 {
     toolbox::ConsoleCapture capture(toolbox::ConsoleCapture::Stream::output);

@@ -3,7 +3,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <limits>
 #include <memory_resource>
+#include <new>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -84,6 +86,18 @@ TEST(Arena, NumberOfBlocksGrowsSlowly)
         static_cast<void>(arena.take(16, 8)); // 1.6 MB together
     }
     EXPECT_LE(allocationCount() - before, 20U);
+}
+
+// With what a block holds beside it such a piece would need no memory at all.
+TEST(Arena, PieceThatNoMemoryHasRoomForIsRefusedAndChangesNothing)
+{
+    Arena arena(1024);
+    char* const first = static_cast<char*>(arena.take(8, 8));
+    const std::size_t before = allocationCount();
+    EXPECT_THROW(static_cast<void>(arena.take(std::numeric_limits<std::size_t>::max(), 1)),
+                 std::bad_alloc);
+    EXPECT_EQ(allocationCount(), before);
+    EXPECT_EQ(arena.take(8, 8), first + 8);
 }
 
 TEST(Arena, IsAMemoryResourceThatFreesNothingEarly)
