@@ -30,6 +30,10 @@ struct ValueRecord
 // it alive until it is removed or the parser is released. Several handlers are called in the order
 // of their addresses, on the thread that parses. A handler may throw: a standard exception ends the
 // parse with code 3, any other with code 4.
+//
+// During an event a handler may query, parse, declare, and add or remove handlers, itself too;
+// docs/reliability.md tells what counts from when on. It must not release the parser, nor the
+// result that is being filled.
 class EventHandler
 {
 public:
