@@ -1,6 +1,6 @@
 #include "NaiveParser.h"
 
-#include <locale>
+#include <algorithm>
 #include <sstream>
 
 #include "kexa/parser.h"
@@ -152,10 +152,8 @@ Arguments splitLines(const std::wstring& text)
     std::wstring line;
     while (std::getline(stream, line))
     {
-        while (!line.empty() && std::isspace(line.front(), stream.getloc()))
-        {
-            line.erase(0, 1);
-        }
+        // The same characters in every locale and on every system; some count more of them.
+        line.erase(0, std::min(line.find_first_not_of(L" \t\v\f\r"), line.size()));
         while (!line.empty() && (line.back() == L'\r' || line.back() == L'\n'))
         {
             line.pop_back();

@@ -124,6 +124,19 @@ TEST_F(OptionFileContents, OneLeadingByteOrderMarkIsDropped)
     }
 }
 
+TEST_F(OptionFileContents, SpacesOutsideAsciiBelongToTheArgument)
+{
+    const ContentCase rows[] = {
+        {"\xC2\xA0z", {L"\u00A0z"}},
+        {" \xE2\x80\x83#b", {L"\u2003#b"}},
+        {"\xE3\x80\x80", {L"\u3000"}},
+    };
+    for (const ContentCase& row : rows)
+    {
+        expectArguments(row);
+    }
+}
+
 TEST_F(OptionFileContents, EachMaximalIllFormedPartBecomesOneReplacementCharacter)
 {
     const ContentCase rows[] = {
