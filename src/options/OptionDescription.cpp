@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <memory>
 
-#include "options/OptionIndex.h"
 #include "support/Garbage.h"
 #include "support/Text.h"
 
@@ -73,9 +72,14 @@ IOption& OptionDescription::setMarked()
 
 IOption& OptionDescription::addKeywords(const wchar_t* list)
 {
+    const std::wstring_view pieces = viewOf(list);
+    if (pieces.empty())
+    {
+        return *this;
+    }
     // Collected first: the option has all the new keywords or, where memory runs out, none of them.
     std::pmr::set<std::wstring_view> added(keywords.get_allocator());
-    forEachPiece(viewOf(list), L',',
+    forEachPiece(pieces, L',',
                  [this, &added](std::wstring_view piece)
                  {
                      if (keywords.find(piece) == keywords.end() && added.find(piece) == added.end())
@@ -93,17 +97,17 @@ bool OptionDescription::answersTo(std::wstring_view name) const noexcept
     return std::find(names.begin(), names.end(), name) != names.end();
 }
 
-bool OptionDescription::isPositional() const
+bool OptionDescription::hasPositionalKeyword() const
 {
-    return takesValue() && (marked || keywords.find(positional_keyword) != keywords.end());
+    return !keywords.empty() && keywords.find(positional_keyword) != keywords.end();
 }
 
-void OptionDescription::setNames(const std::vector<HashedText>& newNames)
+void OptionDescription::setNames(std::span<const OptionIndex::NewName> newNames)
 {
     names.reserve(newNames.size());
-    for (const HashedText& name : newNames)
+    for (const OptionIndex::NewName& name : newNames)
     {
-        names.emplace_back(name, owner->keep(name));
+        names.push_back(name.text);
     }
 }
 
@@ -114,6 +118,18 @@ void OptionDescription::enterInto(OptionIndex& index, std::size_t tableIndex)
     for (std::size_t position = 0; position < names.size(); ++position)
     {
         index.add(names[position], tableIndex, position, valueType == value_type_boolean);
+    }
+    notePositional();
+}
+
+void OptionDescription::enterInto(OptionIndex& index, std::size_t tableIndex,
+                                  std::span<const OptionIndex::NewName> newNames) noexcept
+{
+    m_place.held = {&index, tableIndex};
+    for (std::size_t position = 0; position < newNames.size(); ++position)
+    {
+        index.add(newNames[position].text, tableIndex, position, valueType == value_type_boolean,
+                  newNames[position].slot);
     }
     notePositional();
 }

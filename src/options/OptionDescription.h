@@ -7,6 +7,7 @@
 #include <memory>
 #include <memory_resource>
 #include <set>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -16,13 +17,13 @@
 
 #include "options/AllowedValueIndex.h"
 #include "options/NotCopied.h"
+#include "options/OptionIndex.h"
 #include "support/TextTable.h"
 
 namespace kexa_3_3
 {
 
 class Garbage;
-class OptionIndex;
 
 inline constexpr std::int32_t no_value_type = vexkit2::kind_null;
 inline constexpr std::wstring_view hidden_group = L"kexa_hidden";
@@ -61,17 +62,25 @@ public:
     // Whether the text is one of the option's names.
     [[nodiscard]] bool answersTo(std::wstring_view name) const noexcept;
     [[nodiscard]] bool takesValue() const noexcept { return valueMode != 0; }
-    [[nodiscard]] bool isPositional() const;
+    [[nodiscard]] bool isPositional() const
+    {
+        return takesValue() && (marked || hasPositionalKeyword());
+    }
 
-    // Sets the names of a new option.
-    void setNames(const std::vector<HashedText>& newNames);
+    // Sets the names of a new option. Their texts lie in the owner's pool already.
+    void setNames(std::span<const OptionIndex::NewName> newNames);
 
     // Makes the option known to an index, which from then on learns of further names and of the
-    // option becoming positional. table index: the option's place in the table of options. Throws
-    // std::bad_alloc, and the index is unchanged then.
+    // option becoming positional. table index: the option's place in the table of options, which
+    // no other has. Throws std::bad_alloc, and the index is unchanged then.
     void enterInto(OptionIndex& index, std::size_t tableIndex);
 
-    // The option's place in the table that it was entered into, 0 for none.
+    // The same for names that the index has made room for, which are those set.
+    void enterInto(OptionIndex& index, std::size_t tableIndex,
+                   std::span<const OptionIndex::NewName> newNames) noexcept;
+
+    // The index that it was entered into, or null, and its place in the table beside that.
+    [[nodiscard]] const OptionIndex* index() const noexcept { return m_place.held.index; }
     [[nodiscard]] std::size_t tableIndex() const noexcept { return m_place.held.tableIndex; }
 
     // The candidates for a typed value. Made on first use after a change of them.
@@ -100,6 +109,7 @@ private:
         std::size_t tableIndex = 0;
     };
 
+    [[nodiscard]] bool hasPositionalKeyword() const;
     void notePositional();
 
     NotCopied<Place> m_place;

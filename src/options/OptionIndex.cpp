@@ -1,6 +1,7 @@
 #include "options/OptionIndex.h"
 
 #include <algorithm>
+#include <atomic>
 #include <iterator>
 #include <tuple>
 
@@ -24,51 +25,74 @@ std::int64_t firstOf(std::int64_t left, std::int64_t right) noexcept
     return std::min(left, right);
 }
 
+std::uint64_t newIdentity() noexcept
+{
+    static std::atomic<std::uint64_t> last = 0;
+    return last.fetch_add(1, std::memory_order_relaxed) + 1;
+}
+
 } // namespace
+
+OptionIndex::OptionIndex(std::pmr::memory_resource& memory) noexcept
+    : m_identity(newIdentity()), m_names(&memory), m_slots(memory)
+{
+}
 
 void OptionIndex::grow(std::size_t count)
 {
     const std::size_t room = std::max({m_names.size() + count, 2 * m_names.size(), expected_names});
-    m_texts.reserve(room - m_texts.size());
-    m_owners.reserve(room);
     m_names.reserve(room);
+    m_slots.rebuild(room, m_names.size(), textOf());
     m_room = room;
 }
 
 void OptionIndex::add(const HashedText& name, std::size_t option, std::size_t position,
-                      bool boolean) noexcept
+                      bool boolean, std::size_t slot) noexcept
 {
-    const std::uint32_t number = m_texts.insert(name);
-    if (number == m_owners.size())
+    slot = m_slots.slotFrom(slot, name, textOf());
+    const auto index = static_cast<std::uint32_t>(option);
+    const std::uint32_t known = m_slots.numberAt(slot);
+    if (known == TextSlots::absent)
     {
-        m_owners.emplace_back();
+        m_slots.put(slot, static_cast<std::uint32_t>(m_count), name);
     }
-    Owners& owners = m_owners[number];
-    const auto index = static_cast<std::int64_t>(option);
-    owners.first = firstOf(owners.first, index);
-    if (boolean)
+    else
     {
-        owners.firstBoolean = firstOf(owners.firstBoolean, index);
+        Name& first = m_names[known];
+        first.first = std::min(first.first, index);
+        first.firstBoolean = std::min(first.firstBoolean, boolean ? index : no_option);
+        m_sharesNames = true;
     }
-    m_names.push_back({name, static_cast<std::uint32_t>(option),
-                       static_cast<std::uint32_t>(position & 0x7FFFFFFF), boolean ? 1U : 0U});
+    m_names.push_back({name, index, static_cast<std::uint32_t>(position & 0x7FFFFFFF),
+                       boolean ? 1U : 0U, index, boolean ? index : no_option});
+    ++m_count;
+}
+
+const OptionIndex::Name* OptionIndex::find(const HashedText& text) const noexcept
+{
+    if (m_count == 0)
+    {
+        return nullptr;
+    }
+    const std::uint32_t number = m_slots.numberAt(m_slots.slotOf(text, textOf()));
+    return number == TextSlots::absent ? nullptr : &m_names[number];
 }
 
 std::int64_t OptionIndex::findNamed(const HashedText& name) const noexcept
 {
-    const std::uint32_t number = m_texts.find(name);
-    return number == TextTable::absent ? none : m_owners[number].first;
+    const Name* const found = find(name);
+    return found == nullptr ? none : indexOf(found->first);
 }
 
 std::int64_t OptionIndex::findAnswering(std::wstring_view text) const noexcept
 {
     std::int64_t found = findNamed(HashedText(text));
-    if (text.substr(0, negation.size()) == negation)
+    if (beginsWithNegation(text))
     {
-        const std::uint32_t number = m_texts.find(text.substr(negation.size()));
-        if (number != TextTable::absent)
+        const Name* const negated = find(HashedText(text.substr(negation.size())));
+        if (negated != nullptr)
         {
-            found = firstOf(found, m_owners[number].firstBoolean);
+            found = firstOf(found, indexOf(negated->firstBoolean));
         }
     }
     return found;
@@ -81,33 +105,37 @@ void OptionIndex::sortNames() const
         return;
     }
     // New lists first: where memory runs out, the next search tries again.
-    const auto before = [](const Name& left, const Name& right)
+    const auto before = [](const SortedName& left, const SortedName& right)
     {
         return left.text < right.text;
     };
     const auto known = static_cast<std::ptrdiff_t>(m_sorted.size());
-    std::vector<Name> sorted(m_sorted);
-    sorted.insert(sorted.end(), m_names.begin() + known, m_names.end());
+    std::vector<SortedName> sorted(m_sorted);
+    sorted.reserve(m_names.size());
+    std::transform(m_names.begin() + known, m_names.end(), std::back_inserter(sorted),
+                   [](const Name& name) -> SortedName {
+                       return {name.text, name.option, name.position, name.boolean};
+                   });
     std::sort(sorted.begin() + known, sorted.end(), before);
     std::inplace_merge(sorted.begin(), sorted.begin() + known, sorted.end(), before);
-    std::vector<Name> booleans;
+    std::vector<SortedName> booleans;
     std::copy_if(sorted.begin(), sorted.end(), std::back_inserter(booleans),
-                 [](const Name& name) { return name.boolean != 0; });
+                 [](const SortedName& name) { return name.boolean != 0; });
     m_sorted = std::move(sorted);
     m_sortedBooleans = std::move(booleans);
 }
 
-OptionIndex::Range OptionIndex::rangeOf(const std::vector<Name>& sorted,
+OptionIndex::Range OptionIndex::rangeOf(const std::vector<SortedName>& sorted,
                                         std::wstring_view beginning)
 {
-    const Name* const begin = sorted.data();
-    const Name* const end = begin + sorted.size();
-    const Name* const first =
-        std::lower_bound(begin, end, beginning,
-                         [](const Name& name, std::wstring_view text) { return name.text < text; });
-    const Name* const last =
+    const SortedName* const begin = sorted.data();
+    const SortedName* const end = begin + sorted.size();
+    const SortedName* const first = std::lower_bound(
+        begin, end, beginning,
+        [](const SortedName& name, std::wstring_view text) { return name.text < text; });
+    const SortedName* const last =
         std::partition_point(first, end,
-                             [beginning](const Name& name)
+                             [beginning](const SortedName& name)
                              { return name.text.substr(0, beginning.size()) == beginning; });
     return {first, last};
 }
@@ -134,7 +162,7 @@ OptionIndex::PrefixMatches OptionIndex::matchPrefix(std::wstring_view beginning)
     if (matches.count == 1)
     {
         matches.negated = plain.size() == 0;
-        const Name& name = matches.negated ? *negated.begin : *plain.begin;
+        const SortedName& name = matches.negated ? *negated.begin : *plain.begin;
         matches.option = name.option;
         matches.name = name.text;
     }
@@ -147,7 +175,7 @@ std::vector<std::wstring> OptionIndex::listPrefix(std::wstring_view beginning) c
     std::vector<Match> matches;
     const auto collect = [&matches](const Range& range, bool negated)
     {
-        for (const Name* name = range.begin; name != range.end; ++name)
+        for (const SortedName* name = range.begin; name != range.end; ++name)
         {
             matches.emplace_back(name->option, name->position, negated, name->text);
         }

@@ -3,17 +3,25 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory_resource>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "support/TextTable.h"
+#include "support/HashedText.h"
+#include "support/TextSlots.h"
 
 namespace kexa_3_3
 {
 
 // The prefix under which a boolean option is switched off.
 inline constexpr std::wstring_view negation = L"no-";
+
+[[nodiscard]] constexpr bool beginsWithNegation(std::wstring_view text) noexcept
+{
+    return text.size() >= negation.size() && text[0] == negation[0] && text[1] == negation[1] &&
+           text[2] == negation[2];
+}
 
 // Stands beside the table of options and knows their names. Options are told by their index in the
 // table. An option answers to its names, a boolean one also to "no-" and a name. Table order is the
@@ -23,6 +31,42 @@ inline constexpr std::wstring_view negation = L"no-";
 // time; the first search for a beginning afterwards sorts the new ones in.
 class OptionIndex
 {
+    // Of an option, by index; this for none of them. Larger than any index.
+    static constexpr std::uint32_t no_option = 0xFFFFFFFF;
+
+    struct Name
+    {
+        HashedText text;
+        std::uint32_t option = 0;
+        std::uint32_t position : 31 = 0;
+        std::uint32_t boolean : 1 = 0;
+
+        // The first options with this text as a name, and the first boolean one. Kept in the name
+        // that was added first where several have one text.
+        std::uint32_t first = no_option;
+        std::uint32_t firstBoolean = no_option;
+    };
+
+    struct SortedName
+    {
+        std::wstring_view text;
+        std::uint32_t option;
+        std::uint32_t position : 31;
+        std::uint32_t boolean : 1;
+    };
+
+    [[nodiscard]] auto textOf() const noexcept
+    {
+        return [this](std::uint32_t number) -> const HashedText&
+        {
+            return m_names[number].text;
+        };
+    }
+    [[nodiscard]] static std::int64_t indexOf(std::uint32_t option) noexcept
+    {
+        return option == no_option ? none : static_cast<std::int64_t>(option);
+    }
+
 public:
     static constexpr std::int64_t none = -1;
 
@@ -38,10 +82,30 @@ public:
         bool negated = false;
     };
 
+    // memory: lives longer than the index.
+    explicit OptionIndex(
+        std::pmr::memory_resource& memory = *std::pmr::get_default_resource()) noexcept;
+    ~OptionIndex() = default;
+    OptionIndex(const OptionIndex&) = delete;
+    OptionIndex& operator=(const OptionIndex&) = delete;
+
+    // Tells this index from all others that this process makes.
+    [[nodiscard]] std::uint64_t identity() const noexcept { return m_identity; }
+
+    // Whether some name was added twice, of one option or of two.
+    [[nodiscard]] bool sharesNames() const noexcept { return m_sharesNames; }
+
+    // A text that is to become a name, and its place found by `slotOf`.
+    struct NewName
+    {
+        HashedText text;
+        std::size_t slot = 0;
+    };
+
     // Makes room for `count` names more, which adding them needs. Throws std::bad_alloc.
     void reserve(std::size_t count)
     {
-        if (m_names.size() + count > m_room)
+        if (m_count + count > m_room)
         {
             grow(count);
         }
@@ -50,7 +114,23 @@ public:
     // Adds a name. name: kept alive and unchanged by the caller. option: its index. position: the
     // name's place among those of the option.
     void add(const HashedText& name, std::size_t option, std::size_t position,
-             bool boolean) noexcept;
+             bool boolean) noexcept
+    {
+        add(name, option, position, boolean, slotOf(name));
+    }
+
+    // Where a name is or would be. Needs room made by `reserve`, and is good until more is made.
+    // Spares adding the name a second search.
+    [[nodiscard]] std::size_t slotOf(const HashedText& name) const noexcept
+    {
+        return m_slots.slotOf(name, textOf());
+    }
+    void add(const HashedText& name, std::size_t option, std::size_t position, bool boolean,
+             std::size_t slot) noexcept;
+    [[nodiscard]] bool isTaken(const NewName& name) const noexcept
+    {
+        return m_slots.numberAt(name.slot) != TextSlots::absent;
+    }
 
     // The first option, in table order, with exactly this name.
     [[nodiscard]] std::int64_t findNamed(const HashedText& name) const noexcept;
@@ -71,31 +151,17 @@ public:
     [[nodiscard]] std::int64_t firstPositional() const noexcept { return m_firstPositional; }
 
 private:
-    struct Name
-    {
-        std::wstring_view text;
-        std::uint32_t option;
-        std::uint32_t position : 31;
-        std::uint32_t boolean : 1;
-    };
-
     void grow(std::size_t count);
-
-    // Options that have one text as a name.
-    struct Owners
-    {
-        std::int64_t first = none;
-        std::int64_t firstBoolean = none;
-    };
+    [[nodiscard]] const Name* find(const HashedText& text) const noexcept;
 
     // Names that begin with a text, as a range of a sorted list.
     struct Range
     {
-        const Name* begin = nullptr;
-        const Name* end = nullptr;
+        const SortedName* begin = nullptr;
+        const SortedName* end = nullptr;
         [[nodiscard]] std::size_t size() const { return static_cast<std::size_t>(end - begin); }
     };
-    [[nodiscard]] static Range rangeOf(const std::vector<Name>& sorted,
+    [[nodiscard]] static Range rangeOf(const std::vector<SortedName>& sorted,
                                        std::wstring_view beginning);
 
     // The names that begin with the text, and the boolean ones whose negation does.
@@ -105,12 +171,14 @@ private:
     // Sorts in the names added since the last search.
     void sortNames() const;
 
-    std::size_t m_room = 0; // for names, in all of the following
-    TextTable m_texts;
-    std::vector<Owners> m_owners;               // by the numbers of m_texts
-    std::vector<Name> m_names;                  // as they were added
-    mutable std::vector<Name> m_sorted;         // the first of them, by text
-    mutable std::vector<Name> m_sortedBooleans; // those of m_sorted that belong to boolean options
+    std::uint64_t m_identity;
+    bool m_sharesNames = false;
+    std::size_t m_room = 0;                           // for names, in both of the following
+    std::size_t m_count = 0;                          // of names
+    std::pmr::vector<Name> m_names;                   // as they were added
+    TextSlots m_slots;                                // of the first name with each text
+    mutable std::vector<SortedName> m_sorted;         // the first of m_names, by text
+    mutable std::vector<SortedName> m_sortedBooleans; // those of boolean options
     std::int64_t m_firstPositional = none;
 };
 

@@ -1,6 +1,7 @@
 #include "options/RegisteredOptionStorage.h"
 
 #include <algorithm>
+#include <cwchar>
 #include <new>
 
 #include "support/ConsoleStreams.h"
@@ -19,11 +20,14 @@ constexpr std::int32_t refused = 1;
 constexpr std::size_t most_names = 3;
 constexpr std::size_t longest_short_form = 2;
 constexpr std::size_t expected_options = 32; // room taken at once, for programs of usual size
+constexpr std::size_t largest_table_in_pool = 2048; // bytes; larger ones are freed as they grow
 
 } // namespace
 
 RegisteredOptionStorage::RegisteredOptionStorage(Garbage& owner, wchar_t defaultSeparator)
-    : m_defaultSeparator(defaultSeparator), m_owner(owner)
+    : m_defaultSeparator(defaultSeparator), m_owner(owner),
+      m_memory(owner.memory(), largest_table_in_pool), m_options(&m_memory), m_groupNames(m_memory),
+      m_index(m_memory), m_names(&m_memory)
 {
 }
 
@@ -42,25 +46,25 @@ const Registration& RegisteredOptionStorage::registerOption(const wchar_t* names
                                                             const wchar_t* groupText)
 {
     m_lastRegistration = {nullptr, refused};
-    const Group& group = groupOf(viewOf(groupText));
-    if (!acceptNames(viewOf(names)))
+    const Group& group = groupOf(groupText == nullptr ? L"" : groupText);
+    const std::wstring_view allNames = viewOf(names);
+    if (!acceptNames(allNames))
     {
         return m_lastRegistration;
     }
 
     OptionPointer option = makeOption(group, isSwitch);
-    option->setNames(m_names);
+    keepTexts(*option, allNames, viewOf(description));
     option->valueType = valueType;
-    option->description = m_owner.keep(viewOf(description));
     option->addKeywords(keywords);
     if (isSwitch)
     {
         option->addKeywords(names);
     }
-    option->setSeparator(m_defaultSeparator);
+    option->separator = m_defaultSeparator;
 
     reserveMore(m_options, 1, expected_options);
-    option->enterInto(m_index, m_options.size());
+    option->enterInto(m_index, m_options.size(), m_names);
     m_lastRegistration = {option.get(), registered};
     m_options.push_back(std::move(option));
     m_actionCount += isSwitch ? 1 : 0;
@@ -91,14 +95,16 @@ const OptionDescription* RegisteredOptionStorage::find(const HashedText& name) c
 }
 
 // The group that a declaration names, added to the list where it is new.
-const RegisteredOptionStorage::Group& RegisteredOptionStorage::groupOf(std::wstring_view groupText)
+const RegisteredOptionStorage::Group& RegisteredOptionStorage::groupOf(const wchar_t* declared)
 {
+    // Declarations of a group usually stand together.
+    if (m_lastGroupText != nullptr && std::wcscmp(m_lastGroupText, declared) == 0)
+    {
+        return m_groups[m_lastGroup];
+    }
+    const std::wstring_view groupText(declared);
     const std::size_t colon = std::min(groupText.find(L':'), groupText.size());
     const std::wstring_view name = groupText.substr(0, colon);
-    if (!m_groups.empty() && m_groups.back().first == name)
-    {
-        return m_groups.back(); // declarations of a group usually stand together
-    }
     const HashedText hashedName(name);
     std::uint32_t number = m_groupNames.find(hashedName);
     if (number == TextTable::absent)
@@ -108,22 +114,30 @@ const RegisteredOptionStorage::Group& RegisteredOptionStorage::groupOf(std::wstr
         m_groups.emplace_back(m_owner.keep(name), m_owner.keep(text));
         number = m_groupNames.insert(HashedText(hashedName, m_groups.back().first));
     }
+    m_lastGroupText = m_owner.internText(groupText).data();
+    m_lastGroup = number;
     return m_groups[number];
 }
 
 // Splits the names text into m_names and applies the rules for names.
 bool RegisteredOptionStorage::acceptNames(std::wstring_view names)
 {
+    m_index.reserve(most_names); // so that what is found out about their places stays true
     m_names.clear();
-    forEachPiece(names, L',', [this](std::wstring_view name) { m_names.emplace_back(name); });
+    forEachPiece(names, L',',
+                 [this](std::wstring_view name)
+                 {
+                     const HashedText text(name);
+                     m_names.push_back({text, m_index.slotOf(text)});
+                 });
     if (m_names.empty() || m_names.size() > most_names ||
-        (m_names.size() == most_names && m_names.back().size() > longest_short_form))
+        (m_names.size() == most_names && m_names.back().text.size() > longest_short_form))
     {
         return false;
     }
-    const bool taken = std::any_of(m_names.begin(), m_names.end(),
-                                   [this](const HashedText& name)
-                                   { return m_index.findNamed(name) != OptionIndex::none; });
+    const bool taken =
+        std::any_of(m_names.begin(), m_names.end(),
+                    [this](const OptionIndex::NewName& name) { return m_index.isTaken(name); });
     if (taken)
     {
         // Past the stream: parsers in several threads may be declaring at the same time.
@@ -133,6 +147,23 @@ bool RegisteredOptionStorage::acceptNames(std::wstring_view names)
         static_cast<void>(internal::writeConsole(internal::ConsoleTarget::output, line));
     }
     return !taken;
+}
+
+// Copies all names of the declaration at work at once, and the description behind them. Those in
+// m_names then refer to the copies, in which a zero takes the place of every separator.
+void RegisteredOptionStorage::keepTexts(OptionDescription& option, std::wstring_view names,
+                                        std::wstring_view description)
+{
+    wchar_t* const copy = m_owner.roomFor(names.size() + 1 + description.size());
+    Garbage::copyInto(copy, names);
+    for (OptionIndex::NewName& name : m_names)
+    {
+        wchar_t* const text = copy + (name.text.data() - names.data());
+        text[name.text.size()] = L'\0';
+        name.text = HashedText(name.text, std::wstring_view(text, name.text.size()));
+    }
+    option.description = Garbage::copyInto(copy + names.size() + 1, description);
+    option.setNames(m_names);
 }
 
 RegisteredOptionStorage::OptionPointer RegisteredOptionStorage::makeOption(const Group& group,

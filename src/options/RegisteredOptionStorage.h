@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <memory_resource>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -12,6 +13,7 @@
 
 #include "options/OptionDescription.h"
 #include "options/OptionIndex.h"
+#include "support/SmallBlocks.h"
 #include "support/TextTable.h"
 
 namespace kexa_3_3
@@ -93,20 +95,25 @@ private:
     };
     using OptionPointer = std::unique_ptr<OptionDescription, Destroy>;
 
-    [[nodiscard]] const Group& groupOf(std::wstring_view groupText);
+    [[nodiscard]] const Group& groupOf(const wchar_t* declared);
     [[nodiscard]] bool acceptNames(std::wstring_view names);
+    void keepTexts(OptionDescription& option, std::wstring_view names,
+                   std::wstring_view description);
     [[nodiscard]] OptionPointer makeOption(const Group& group, bool isSwitch);
 
     wchar_t m_defaultSeparator;
-    std::vector<OptionPointer> m_options;
-    std::vector<Group> m_groups;
     Garbage& m_owner;
+    SmallBlocks m_memory; // of the tables
+    std::pmr::vector<OptionPointer> m_options;
+    std::vector<Group> m_groups;
     Registration m_lastRegistration = {nullptr, 1};
 
-    TextTable m_groupNames; // numbers are indices of m_groups
+    TextTable m_groupNames;                   // numbers are indices of m_groups
+    const wchar_t* m_lastGroupText = nullptr; // as declared last, and the group's index
+    std::size_t m_lastGroup = 0;
     OptionIndex m_index;
     std::size_t m_actionCount = 0;
-    std::vector<HashedText> m_names; // of the declaration at work
+    std::pmr::vector<OptionIndex::NewName> m_names; // of the declaration at work
 };
 
 } // namespace kexa_3_3

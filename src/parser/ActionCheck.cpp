@@ -35,7 +35,7 @@ Overview survey(const OptionResultTable& result, const RegisteredOptionStorage& 
     Overview overview;
     for (std::size_t number = 0; number < result.size(); ++number)
     {
-        if (result.record(number).result.positions.empty())
+        if (result.record(number).positions.empty())
         {
             continue;
         }
@@ -127,6 +127,10 @@ std::wstring unacceptedMessage(const OptionDescription& action, const OptionDesc
 result_t checkActions(const OptionResultTable& result, const RegisteredOptionStorage& options,
                       const ActionGroups& compatible, std::wstring& message)
 {
+    if (!options.hasActions() && result.isFilledFrom(options.index()))
+    {
+        return result_success; // nothing to combine, and no unknown name
+    }
     const Overview overview = survey(result, options);
     const Given* const conflict = findConflict(overview.actions, compatible);
     if (overview.firstUnknown && (conflict == nullptr || *overview.firstUnknown < conflict->name))

@@ -14,8 +14,6 @@ namespace kexa_3_3
 namespace
 {
 
-constexpr std::size_t first_text_block = 8192; // bytes; holds the declarations of a usual program
-
 // The calls of one event still hold when a handler adds or removes handlers, itself too: the next
 // handler to call is found by address each time.
 EventHandler* handlerBehind(const std::set<EventHandler*>& handlers, EventHandler* last)
@@ -41,7 +39,7 @@ result_t createParser(IParser** out, int flags)
 }
 
 BasicParser::BasicParser(std::int32_t flags)
-    : m_strings(first_text_block), m_options(m_strings, L','), m_flags(flags)
+    : m_strings(m_firstBlock.bytes()), m_options(m_strings, L','), m_flags(flags)
 {
     if ((flags & flag_no_value_lists) != 0)
     {

@@ -13,6 +13,7 @@
 #include "parser/ActionCheck.h"
 #include "recognition/ArgumentQueue.h"
 #include "support/Garbage.h"
+#include "support/InlineBlock.h"
 
 namespace kexa_3_3
 {
@@ -82,7 +83,8 @@ private:
     template <class MakeHelp>
     const wchar_t* help(MakeHelp makeHelp);
 
-    Garbage m_strings; // first: the options keep their texts in it
+    InlineBlock<12288> m_firstBlock; // holds the declarations of a usual program
+    Garbage m_strings;               // before the options, which keep their texts in it
     RegisteredOptionStorage m_options;
     std::wstring m_errorMessage;
     std::int32_t m_flags;

@@ -47,10 +47,18 @@ FileProblem loadText(const std::wstring& name, std::wstring& text)
     return problem;
 }
 
-const OptionResult* resultOf(OptionResultTable& options) noexcept
+// The whole text of a value, zero characters included: a name that holds one names no file.
+std::wstring wholeText(const StoredValue& stored)
 {
-    const StoredOption* const stored = options.find(std::wstring_view(option_file_name));
-    return stored == nullptr ? nullptr : &stored->result;
+    const std::size_t units = stored.value.kind() == vexkit2::kind_wide_text
+                                  ? stored.value.byte_length() / sizeof(wchar_t)
+                                  : 0;
+    return units == 0 ? std::wstring(stored.text) : std::wstring(stored.text, units - 1);
+}
+
+const StoredOption* resultOf(OptionResultTable& options) noexcept
+{
+    return options.find(std::wstring_view(option_file_name));
 }
 
 result_t readFile(const std::wstring& name, const OptionFiles::ParseFile& parseFile,
@@ -71,7 +79,7 @@ result_t readFile(const std::wstring& name, const OptionFiles::ParseFile& parseF
 
 OptionFiles::OptionFiles(OptionResultTable& options) : m_options(options), m_next(0)
 {
-    const OptionResult* const result = resultOf(options);
+    const StoredOption* const result = resultOf(options);
     m_next = result == nullptr ? 0 : result->values.size();
 }
 
@@ -80,12 +88,12 @@ result_t OptionFiles::readAll(const ParseFile& parseFile, std::wstring& message)
     // The record is looked up each time: a file may bring the first value, or more of them.
     for (;;)
     {
-        const OptionResult* const result = resultOf(m_options);
+        const StoredOption* const result = resultOf(m_options);
         if (result == nullptr || m_next >= result->values.size())
         {
             return result_success;
         }
-        const std::wstring name(result->values[m_next++].text);
+        const std::wstring name = wholeText(result->values[m_next++]);
         if (!m_read.insert(canonicalPath(name)).second)
         {
             continue;

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <exception>
+#include <typeinfo>
 
 #include "options/ValueText.h"
 #include "parser/ArgumentSplitter.h"
@@ -25,7 +26,13 @@ constexpr std::wstring_view trace_keyword = L"kexaoption=kexalogenable=1";
 // A result made by this library, or null: nothing else can be filled.
 ParseResult* fillable(IParseResult* result)
 {
-    return dynamic_cast<ParseResult*>(result);
+    // ParseResult has no derived classes, so its type is all there is to ask for.
+    if (result == nullptr || typeid(*result) != typeid(ParseResult))
+    {
+        return nullptr;
+    }
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-static-cast-downcast): asked for above.
+    return static_cast<ParseResult*>(result);
 }
 
 // The keyword counts as the first argument only, and is never parsed.

@@ -86,11 +86,10 @@ int AbbreviationParser::parse(ArgumentQueue& arguments, IResultCollector* collec
     {
         traceLine(name(), L": value from the same argument taken: '", m_split.value, L"'");
     }
-    Given given = takeValue(arguments, option);
-    if (!given.error.empty())
+    Given given;
+    if (!takeValue(given, arguments, option, error))
     {
-        traceLine(name(), L": ", given.error);
-        error = std::move(given.error);
+        traceLine(name(), L": ", error);
         return invalid;
     }
 
@@ -109,53 +108,60 @@ int AbbreviationParser::parse(ArgumentQueue& arguments, IResultCollector* collec
     return parsed;
 }
 
-AbbreviationParser::Given AbbreviationParser::takeValue(const ArgumentQueue& arguments,
-                                                        const OptionDescription& option) const
+bool AbbreviationParser::takeValue(Given& given, const ArgumentQueue& arguments,
+                                   const OptionDescription& option, std::wstring& error) const
 {
-    const std::wstring_view argument = arguments.front();
     const bool empty = m_split.value.empty();
     if (option.valueType == value_type_none)
     {
-        return {{},
-                1,
-                empty
-                    ? std::wstring()
-                    : concatenate({L"Option '", option.primaryName(), L"'does not requires a value",
-                                   formatArgumentContext(argument)})};
+        if (!empty)
+        {
+            error = concatenate({L"Option '", option.primaryName(), L"'does not requires a value",
+                                 formatArgumentContext(arguments.front())});
+        }
+        return empty;
     }
     if (option.valueType == value_type_boolean)
     {
-        return {m_match.beginsWithNegation() ? L"0" : L"1", 1,
-                empty ? std::wstring()
-                      : concatenate({L"Option '", option.primaryName(),
-                                     L"' is boolean and should be declared in form '--option' "
-                                     L"or '--no-option'",
-                                     formatArgumentContext(argument)})};
+        given.value = m_match.beginsWithNegation() ? L"0" : L"1";
+        if (!empty)
+        {
+            error = concatenate({L"Option '", option.primaryName(),
+                                 L"' is boolean and should be declared in form '--option' "
+                                 L"or '--no-option'",
+                                 formatArgumentContext(arguments.front())});
+        }
+        return empty;
     }
-    return empty ? takeNextArgument(arguments, option) : Given{m_split.value, 1, {}};
+    given.value = m_split.value;
+    return !empty || takeNextArgument(given, arguments, option, error);
 }
 
-AbbreviationParser::Given
-AbbreviationParser::takeNextArgument(const ArgumentQueue& arguments,
-                                     const OptionDescription& option) const
+bool AbbreviationParser::takeNextArgument(Given& given, const ArgumentQueue& arguments,
+                                          const OptionDescription& option,
+                                          std::wstring& error) const
 {
     traceLine(name(), L": no value in the same argument, looking next");
     if (arguments.size() < 2)
     {
-        return {{}, 1, valueMissing(option, arguments.front())};
+        error = valueMissing(option, arguments.front());
+        return false;
     }
-    const std::wstring_view value = arguments[1];
-    if (!value.empty() && value.front() == L'-')
+    given = {arguments[1], 2};
+    if (!given.value.empty() && given.value.front() == L'-')
     {
-        return {{},
-                1,
-                concatenate({L"Option '", option.primaryName(),
-                             L"' received value from the next argument: '", value,
+        error = concatenate({L"Option '", option.primaryName(),
+                             L"' received value from the next argument: '", given.value,
                              (L"', but it seems to be an option. Use '-option=value' declaration "
-                              L"form or make sure that value is not missed")})};
+                              L"form or make sure that value is not missed")});
+        return false;
     }
-    traceLine(name(), L": got value from the next argument: '", value, L"'");
-    return {value, 2, value.empty() ? valueMissing(option, arguments.front()) : std::wstring()};
+    traceLine(name(), L": got value from the next argument: '", given.value, L"'");
+    if (given.value.empty())
+    {
+        error = valueMissing(option, arguments.front());
+    }
+    return !given.value.empty();
 }
 
 std::wstring AbbreviationParser::valueMissing(const OptionDescription& option,

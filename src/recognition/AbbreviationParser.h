@@ -29,20 +29,19 @@ public:
     [[nodiscard]] std::int32_t priority() const noexcept override { return -10; }
 
 private:
-    // What an option is given: its value, and how many arguments name and value take. Empty
-    // `error`: no failure.
+    // What an option is given: its value, and how many arguments name and value take.
     struct Given
     {
         std::wstring_view value;
         std::size_t consumed = 1;
-        std::wstring error;
     };
 
     void recognizeName(std::wstring_view argument, const RegisteredOptionStorage& options);
-    [[nodiscard]] Given takeValue(const ArgumentQueue& arguments,
-                                  const OptionDescription& option) const;
-    [[nodiscard]] Given takeNextArgument(const ArgumentQueue& arguments,
-                                         const OptionDescription& option) const;
+    // Answer whether an option is given what it needs; otherwise `error` receives the message.
+    [[nodiscard]] bool takeValue(Given& given, const ArgumentQueue& arguments,
+                                 const OptionDescription& option, std::wstring& error) const;
+    [[nodiscard]] bool takeNextArgument(Given& given, const ArgumentQueue& arguments,
+                                        const OptionDescription& option, std::wstring& error) const;
     [[nodiscard]] std::wstring valueMissing(const OptionDescription& option,
                                             std::wstring_view argument) const;
 

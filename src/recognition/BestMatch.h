@@ -25,7 +25,7 @@ struct BestMatch
 
     [[nodiscard]] bool beginsWithNegation() const noexcept
     {
-        return !prefix.empty() || name.substr(0, negation.size()) == negation;
+        return !prefix.empty() || kexa_3_3::beginsWithNegation(name);
     }
 };
 

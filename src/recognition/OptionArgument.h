@@ -1,7 +1,6 @@
 // Splitting an argument into an option's name and value. Knows no options.
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <locale>
 #include <string_view>
@@ -12,23 +11,44 @@ namespace kexa_3_3
 {
 
 // What may stand before an option's name: the hyphen of keyboards, and the dashes by which word
-// processors replace it (figure, en, em dash, horizontal bar, swung dash).
-inline constexpr std::array<wchar_t, 6> hyphen_characters = {0x002D, 0x2012, 0x2013,
-                                                             0x2014, 0x2015, 0x2053};
+// processors replace it (figure, en, em dash, horizontal bar; swung dash).
+[[nodiscard]] constexpr bool isHyphen(wchar_t character) noexcept
+{
+    return character == 0x002D || (character >= 0x2012 && character <= 0x2015) ||
+           character == 0x2053;
+}
 
 // 1 where the character at the position is a hyphen character, else 0.
-[[nodiscard]] std::size_t hyphenPrefixLength(std::wstring_view text, std::size_t position) noexcept;
+[[nodiscard]] constexpr std::size_t hyphenPrefixLength(std::wstring_view text,
+                                                       std::size_t position) noexcept
+{
+    return position < text.size() && isHyphen(text[position]) ? 1 : 0;
+}
 
 // Decides what is white space by the global locale at the time it is made.
 class WhiteSpace
 {
 public:
     WhiteSpace();
-    // Whether the character is white space or "=". Letters stand above both in the basic set.
-    [[nodiscard]] bool endsName(wchar_t character) const
+    // The index of the first character that is white space or "=", or the text's length.
+    [[nodiscard]] std::size_t endOfName(std::wstring_view text) const
     {
-        const bool mayEnd = character <= L'=' || m_facet != nullptr;
-        return mayEnd && (character == L'=' || contains(character));
+        std::size_t end = 0;
+        if (m_facet != nullptr)
+        {
+            while (end != text.size() && text[end] != L'=' && !contains(text[end]))
+            {
+                ++end;
+            }
+            return end;
+        }
+        // Letters stand above both in the basic set.
+        while (end != text.size() &&
+               (text[end] > L'=' || (text[end] != L'=' && !isClassicSpace(text[end]))))
+        {
+            ++end;
+        }
+        return end;
     }
 
     [[nodiscard]] bool contains(wchar_t character) const

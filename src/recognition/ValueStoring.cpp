@@ -77,89 +77,111 @@ int ValueStoring::store(std::wstring_view value, std::wstring& error,
                         const OptionDescription& option, std::wstring_view argument,
                         IResultCollector* collector)
 {
-    m_occurrence.positions.clear();
-    m_occurrence.values.clear();
-    if (value.empty())
+    const Occurrence occurrence = {option, value, argument, option.separator, collector};
+    const int code = value.empty() ? storeWithoutValue(occurrence) : storeValues(occurrence, error);
+    if (code == stored)
     {
-        m_occurrence.positions.push_back(nextSequenceNumber());
-    }
-    else
-    {
-        const int code = addPieces(value, error, option, argument);
-        if (code != stored)
-        {
-            return code;
-        }
-    }
-    if (collector != nullptr)
-    {
-        static_cast<void>(collector->storeOption(option, m_occurrence));
-    }
-    traceLine(m_parser.name(), L": stored option to result container.");
-    return stored;
-}
-
-int ValueStoring::addPieces(std::wstring_view value, std::wstring& error,
-                            const OptionDescription& option, std::wstring_view argument)
-{
-    traceLine(m_parser.name(), L": adding values to result container:");
-    if (option.separator == 0)
-    {
-        traceLine(m_parser.name(), L": not using tokenizer");
-        return addValue(value, {value, false}, error, option, argument);
-    }
-    const wchar_t separator = option.separator; // a handler may change the option meanwhile
-    traceLine(m_parser.name(), L": using tokenizer on char: '", separator, L"'");
-    int code = stored;
-    bool any = false;
-    forEachPiece(value, separator,
-                 [&](std::wstring_view piece)
-                 {
-                     any = true;
-                     if (code == stored)
-                     {
-                         traceLine(m_parser.name(), L": value is: '", piece, L"'");
-                         code = addValue(piece, {value, true}, error, option, argument);
-                     }
-                 });
-    if (!any)
-    {
-        error = noValueMessage(value, option);
-        traceLine(m_parser.name(), L": ", error);
-        return invalid;
+        traceLine(m_parser.name(), L": stored option to result container.");
     }
     return code;
 }
 
-int ValueStoring::addValue(std::wstring_view piece, const Whole& whole, std::wstring& error,
-                           const OptionDescription& option, std::wstring_view argument)
+int ValueStoring::storeWithoutValue(const Occurrence& occurrence)
 {
+    OptionResult record;
+    record.positions.push_back(nextSequenceNumber());
+    if (occurrence.collector != nullptr)
+    {
+        static_cast<void>(occurrence.collector->storeOption(occurrence.option, record));
+    }
+    return stored;
+}
+
+int ValueStoring::storeValues(const Occurrence& occurrence, std::wstring& error)
+{
+    traceLine(m_parser.name(), L": adding values to result container:");
+    if (occurrence.isCut())
+    {
+        traceLine(m_parser.name(), L": using tokenizer on char: '", occurrence.separator, L"'");
+        if (occurrence.value.find(occurrence.separator) != std::wstring_view::npos)
+        {
+            return storePieces(occurrence, error);
+        }
+        traceLine(m_parser.name(), L": value is: '", occurrence.value, L"'");
+    }
+    else
+    {
+        traceLine(m_parser.name(), L": not using tokenizer");
+    }
+    ValueEntry entry;
+    const int code = accept(occurrence.value, occurrence, entry, error);
+    if (code == stored && occurrence.collector != nullptr)
+    {
+        static_cast<void>(occurrence.collector->storeValue(occurrence.option, entry));
+    }
+    return code;
+}
+
+int ValueStoring::storePieces(const Occurrence& occurrence, std::wstring& error)
+{
+    OptionResult record;
+    int code = stored;
+    forEachPiece(occurrence.value, occurrence.separator,
+                 [&](std::wstring_view piece)
+                 {
+                     if (code == stored)
+                     {
+                         traceLine(m_parser.name(), L": value is: '", piece, L"'");
+                         // Room first: behind a failure with a message nothing may throw.
+                         record.positions.push_back(no_position);
+                         ValueEntry& entry = record.values.emplace_back();
+                         code = accept(piece, occurrence, entry, error);
+                         record.positions.back() = entry.position;
+                     }
+                 });
+    if (record.values.empty())
+    {
+        error = noValueMessage(occurrence.value, occurrence.option);
+        traceLine(m_parser.name(), L": ", error);
+        return invalid;
+    }
+    if (code == stored && occurrence.collector != nullptr)
+    {
+        static_cast<void>(occurrence.collector->storeOption(occurrence.option, record));
+    }
+    return code;
+}
+
+// Converts a piece of the value, numbers it and offers it to the event handlers.
+int ValueStoring::accept(std::wstring_view piece, const Occurrence& occurrence, ValueEntry& entry,
+                         std::wstring& error)
+{
+    const OptionDescription& option = occurrence.option;
     ValueRecord record = {option.primaryName().data(), vexkit2::variant_t(), 0};
     std::wstring reason;
     const ValueVerdict verdict = checkValue(option, piece, record.value, reason);
     if (verdict == ValueVerdict::rejected)
     {
-        error = validationMessage(argument, reason);
+        error = validationMessage(occurrence.argument, reason);
         traceLine(m_parser.name(), L": ", error);
         return invalid;
     }
     record.sequenceNumber = takeSequenceNumber();
     const bool accepted = m_parser.owner().onValueParsed(record.optionName, &record);
-    if (whole.tokenized)
+    if (occurrence.isCut())
     {
         traceLine(m_parser.name(), L": sent event on value parsed, option: '", record.optionName,
                   L"', value: '", piece, L"'");
     }
     if (!accepted)
     {
-        error = refusalMessage(whole.value, option, argument);
+        error = refusalMessage(occurrence.value, option, occurrence.argument);
         traceLine(m_parser.name(), error, L" One of the handler signaled the value is not valid.");
         return refused;
     }
-    const std::wstring_view text =
-        verdict == ValueVerdict::changed ? finalText(option, record.value) : piece;
-    m_occurrence.positions.push_back(record.sequenceNumber);
-    m_occurrence.values.push_back({text, std::move(record.value), record.sequenceNumber});
+    entry.text = verdict == ValueVerdict::changed ? finalText(option, record.value) : piece;
+    entry.value = std::move(record.value);
+    entry.position = record.sequenceNumber;
     return stored;
 }
 

@@ -39,21 +39,24 @@ public:
                             IResultCollector* collector);
 
 private:
-    // What a piece was cut from. Whether it was cut is settled before handlers may change the
-    // option.
-    struct Whole
+    struct Occurrence
     {
+        const OptionDescription& option;
         std::wstring_view value;
-        bool tokenized;
+        std::wstring_view argument;
+        wchar_t separator; // as it was at first: handlers may change the option's
+        IResultCollector* collector;
+
+        [[nodiscard]] bool isCut() const noexcept { return separator != 0; }
     };
 
-    [[nodiscard]] int addPieces(std::wstring_view value, std::wstring& error,
-                                const OptionDescription& option, std::wstring_view argument);
-    [[nodiscard]] int addValue(std::wstring_view piece, const Whole& whole, std::wstring& error,
-                               const OptionDescription& option, std::wstring_view argument);
+    [[nodiscard]] static int storeWithoutValue(const Occurrence& occurrence);
+    [[nodiscard]] int storeValues(const Occurrence& occurrence, std::wstring& error);
+    [[nodiscard]] int storePieces(const Occurrence& occurrence, std::wstring& error);
+    [[nodiscard]] int accept(std::wstring_view piece, const Occurrence& occurrence,
+                             ValueEntry& entry, std::wstring& error);
 
     const IArgumentParser& m_parser;
-    OptionResult m_occurrence; // of the argument at work; keeps its room for the next
 };
 
 } // namespace kexa_3_3

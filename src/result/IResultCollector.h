@@ -23,6 +23,9 @@ public:
     // is stored then.
     virtual result_t storeOption(const OptionDescription& option, OptionResult& record) = 0;
 
+    // The same for an occurrence with one value, which is moved away unless this throws.
+    virtual result_t storeValue(const OptionDescription& option, ValueEntry& value) = 0;
+
 protected:
     ~IResultCollector() = default;
 };

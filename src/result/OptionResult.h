@@ -20,7 +20,7 @@ struct ValueEntry
     std::int32_t position = no_position;
 };
 
-// The occurrences of an option, and what to report when it never occurred.
+// One occurrence of an option, or its default, on the way to the result.
 struct OptionResult
 {
     OptionResult() = default;

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <iterator>
 #include <new>
-#include <span>
 #include <utility>
 
 #include "options/OptionDescription.h"
+#include "options/OptionIndex.h"
 #include "support/Growth.h"
 
 namespace kexa_3_3
@@ -15,28 +15,26 @@ namespace kexa_3_3
 namespace
 {
 
-constexpr std::size_t expected_names = 16; // room taken at once, for command lines of usual size
+constexpr std::size_t expected_names = 32; // room taken at once, for command lines of usual size
+constexpr std::size_t largest_table_in_pool = 2048; // bytes; larger ones are freed as they grow
 
-void makeRoom(OptionResult& target, const OptionResult& record)
+// These append into room made before, so without throwing.
+
+void appendPositions(StoredOption& target, const OptionResult& record) noexcept
 {
-    reserveMore(target.positions, record.positions.size());
-    reserveMore(target.values, record.values.size());
+    for (const std::int32_t position : record.positions)
+    {
+        target.positions.push_back(position);
+    }
 }
 
-// Appends into room made before, so without throwing: variants share their blocks.
-// NOLINTNEXTLINE(bugprone-exception-escape): it cannot see the room.
-void appendCopies(OptionResult& target, const OptionResult& record) noexcept
+void appendCopies(StoredOption& target, const OptionResult& record) noexcept
 {
-    target.positions.insert(target.positions.end(), record.positions.begin(),
-                            record.positions.end());
-    target.values.insert(target.values.end(), record.values.begin(), record.values.end());
-}
-
-void appendMoved(OptionResult& target, OptionResult& record) noexcept
-{
-    target.positions.insert(target.positions.end(), record.positions.begin(),
-                            record.positions.end());
-    std::move(record.values.begin(), record.values.end(), std::back_inserter(target.values));
+    appendPositions(target, record);
+    for (const ValueEntry& entry : record.values)
+    {
+        target.values.push_back({entry.text.data(), entry.value, entry.position});
+    }
 }
 
 bool isSharedBy(const StoredOption& stored, std::span<const HashedText> names) noexcept
@@ -44,65 +42,162 @@ bool isSharedBy(const StoredOption& stored, std::span<const HashedText> names) n
     return std::equal(names.begin(), names.end(), stored.names.begin(), stored.names.end());
 }
 
-bool contains(std::span<const HashedText> names, const HashedText& name) noexcept
+template <class Names>
+bool contains(const Names& names, const HashedText& name) noexcept
 {
     return std::find(names.begin(), names.end(), name) != names.end();
 }
 
 } // namespace
 
+OptionResultTable::OptionResultTable(Garbage& strings)
+    : m_strings(strings), m_memory(strings.memory(), largest_table_in_pool), m_recalled(&m_memory),
+      m_names(&m_memory), m_slots(m_memory), m_records(&m_memory)
+{
+}
+
 void OptionResultTable::store(const OptionDescription& option, OptionResult& record)
 {
+    const Place place = locate(option);
+    if (place.apart)
+    {
+        storeApart(Names(option.names), record);
+    }
+    else if (place.record != nullptr)
+    {
+        append(*place.record, record);
+    }
+    else
+    {
+        storeNew(option,
+                 [this, &record](StoredOption& stored)
+                 {
+                     if (!record.defaultText.empty())
+                     {
+                         stored.defaultText = keptText(record.defaultText, record.defaultValue);
+                     }
+                     append(stored, record);
+                     stored.defaultValue = record.defaultValue;
+                     stored.defaultPosition = record.defaultPosition;
+                 });
+    }
+}
+
+void OptionResultTable::storeValue(const OptionDescription& option, ValueEntry& value)
+{
+    const Place place = locate(option);
+    if (place.apart)
+    {
+        OptionResult record;
+        record.positions.push_back(value.position);
+        record.values.push_back(value);
+        storeApart(Names(option.names), record);
+    }
+    else if (place.record != nullptr)
+    {
+        append(*place.record, value);
+    }
+    else
+    {
+        storeNew(option, [this, &value](StoredOption& stored) { append(stored, value); });
+    }
+}
+
+// Where to store an occurrence of an option.
+OptionResultTable::Place OptionResultTable::locate(const OptionDescription& option)
+{
     const Names names(option.names);
-    const std::size_t index = option.tableIndex();
-    StoredOption* known = index < m_guesses.size() ? m_guesses[index] : nullptr;
+    const bool isOwnRecord = noteSource(option.index());
+    StoredOption* known = recall(option.tableIndex());
+    if (isOwnRecord && (known == nullptr || known->names.size() == names.size()))
+    {
+        return {known, false}; // names are only ever added, so they are the same
+    }
     if (known == nullptr || !isSharedBy(*known, names))
     {
         known = find(names.front());
-        if (known == nullptr)
+        if (known != nullptr && !isSharedBy(*known, names))
         {
-            storeNew(names, record);
-            return;
+            return {known, true};
         }
-        if (!isSharedBy(*known, names))
-        {
-            storeApart(names, record);
-            return;
-        }
-        remember(index, known);
+        remember(option.tableIndex(), known);
     }
-    makeRoom(known->result, record);
-    keepTexts(record);
-    appendMoved(known->result, record);
+    return {known, false};
 }
 
-// Notes the record of an option for the next time.
-void OptionResultTable::remember(std::size_t index, StoredOption* stored)
+// Notes where an option comes from. Answers whether all that is stored comes from one table of
+// options in which no two have a name in common, so that the record recalled for an option is its
+// own, and where there is none, the option was never stored.
+bool OptionResultTable::noteSource(const OptionIndex* index) noexcept
 {
-    if (index >= m_guesses.size())
+    const std::uint64_t source = index == nullptr ? several_sources : index->identity();
+    if (m_source != source)
     {
-        reserveMore(m_guesses, index + 1 - m_guesses.size(), expected_names);
-        m_guesses.resize(index + 1);
+        m_source = m_source == no_source ? source : several_sources;
     }
-    m_guesses[index] = stored;
+    return m_source != several_sources && !index->sharesNames();
+}
+
+bool OptionResultTable::isFilledFrom(const OptionIndex& index) const noexcept
+{
+    return m_source == index.identity() || m_names.empty();
+}
+
+StoredOption* OptionResultTable::recall(std::size_t tableIndex) const noexcept
+{
+    return tableIndex < m_recalled.size() ? m_recalled[tableIndex] : nullptr;
+}
+
+void OptionResultTable::remember(std::size_t tableIndex, StoredOption* stored)
+{
+    if (tableIndex >= m_recalled.size())
+    {
+        reserveMore(m_recalled, tableIndex + 1 - m_recalled.size(), expected_names);
+        m_recalled.resize(tableIndex + 1);
+    }
+    m_recalled[tableIndex] = stored;
 }
 
 StoredOption* OptionResultTable::find(const HashedText& name) noexcept
 {
-    const std::uint32_t number = m_names.find(name);
-    return number == TextTable::absent ? nullptr : m_records[m_recordOf[number]].get();
+    if (m_names.empty())
+    {
+        return nullptr;
+    }
+    const std::uint32_t number = m_slots.numberAt(m_slots.slotOf(name, textOf()));
+    return number == TextSlots::absent ? nullptr : m_names[number].record;
 }
 
-void OptionResultTable::storeNew(Names names, OptionResult& record)
+void OptionResultTable::append(StoredOption& target, ValueEntry& value)
 {
-    RecordPointer stored = makeRecord(names);
-    makeRoom(stored->result, record);
+    makeRoom(target, 1, 1);
+    const wchar_t* const text = keptText(value.text, value.value).data();
+    target.positions.push_back(value.position);
+    target.values.push_back({text, std::move(value.value), value.position});
+}
+
+void OptionResultTable::append(StoredOption& target, OptionResult& record)
+{
+    makeRoom(target, record.positions.size(), record.values.size());
     keepTexts(record);
-    OptionResult& result = bind(std::move(stored)).result;
-    appendMoved(result, record);
-    result.defaultText = record.defaultText;
-    result.defaultValue = record.defaultValue;
-    result.defaultPosition = record.defaultPosition;
+    appendPositions(target, record);
+    for (ValueEntry& entry : record.values)
+    {
+        target.values.push_back({entry.text.data(), std::move(entry.value), entry.position});
+    }
+}
+
+// Makes a record for an option that was never stored. fill: stores into it; where that throws, the
+// table is as before.
+template <class Fill>
+void OptionResultTable::storeNew(const OptionDescription& option, Fill fill)
+{
+    RecordPointer stored = makeRecord(Names(option.names));
+    StoredOption& target = *stored;
+    reserveFor(target);
+    remember(option.tableIndex(), nullptr); // makes room for it
+    fill(target);
+    m_recalled[option.tableIndex()] = &bind(std::move(stored));
 }
 
 // Stores where the names do not share exactly one record: another declaration stored some of them.
@@ -111,12 +206,12 @@ void OptionResultTable::storeApart(Names names, OptionResult& record)
     const std::vector<StoredOption*> targets = takeRecords(names);
     for (StoredOption* const target : targets)
     {
-        makeRoom(target->result, record);
+        makeRoom(*target, record.positions.size(), record.values.size());
     }
     keepTexts(record);
     for (StoredOption* const target : targets)
     {
-        appendCopies(target->result, record);
+        appendCopies(*target, record);
     }
 }
 
@@ -129,24 +224,17 @@ std::vector<StoredOption*> OptionResultTable::takeRecords(Names names)
         if (target == nullptr)
         {
             StoredOption& first = *find(names.front());
-            RecordPointer joined = makeRecord(names.subspan(0, 1));
-            joined->result = first.result;
-            joined->names = first.names;
-            joined->names.emplace_back(name, m_strings.keep(name));
+            std::vector<HashedText> together(first.names.begin(), first.names.end());
+            together.push_back(name);
             targets.erase(std::remove(targets.begin(), targets.end(), &first), targets.end());
-            target = &bind(std::move(joined));
+            target = &bindCopy(first, together);
         }
-        const auto foreign =
-            std::find_if(target->names.begin(), target->names.end(),
-                         [names](const HashedText& other) { return !contains(names, other); });
-        if (foreign != target->names.end())
+        std::vector<HashedText> own;
+        std::copy_if(target->names.begin(), target->names.end(), std::back_inserter(own),
+                     [names](const HashedText& other) { return contains(names, other); });
+        if (own.size() != target->names.size())
         {
-            std::vector<HashedText> own;
-            std::copy_if(target->names.begin(), target->names.end(), std::back_inserter(own),
-                         [names](const HashedText& other) { return contains(names, other); });
-            RecordPointer apart = makeRecord(own);
-            apart->result = target->result;
-            target = &bind(std::move(apart));
+            target = &bindCopy(*target, own);
         }
         if (std::find(targets.begin(), targets.end(), target) == targets.end())
         {
@@ -158,64 +246,97 @@ std::vector<StoredOption*> OptionResultTable::takeRecords(Names names)
 
 OptionResultTable::RecordPointer OptionResultTable::makeRecord(Names names)
 {
-    void* const memory = m_strings.memory().take(sizeof(StoredOption), alignof(StoredOption));
-    RecordPointer stored(new (memory) StoredOption(m_memory));
-    stored->names.reserve(names.size());
+    Arena& arena = m_strings.memory();
+    RecordPointer stored(new (arena.take(sizeof(StoredOption), alignof(StoredOption)))
+                             StoredOption());
+    stored->names.reserveMore(names.size(), arena);
     for (const HashedText& name : names)
     {
-        if (contains(stored->names, name))
+        // An option may list a name twice; it is one entry all the same.
+        if (stored->names.empty() || !contains(stored->names, name))
         {
-            continue; // an option may list a name twice; it is one entry all the same
+            stored->names.push_back(HashedText(name, m_strings.keep(name)));
         }
-        const std::uint32_t number = m_names.find(name);
-        stored->names.emplace_back(name, number == TextTable::absent
-                                             ? m_strings.keep(name)
-                                             : std::wstring_view(m_names.text(number)));
     }
     return stored;
 }
 
-StoredOption& OptionResultTable::bind(RecordPointer stored)
+StoredOption& OptionResultTable::bindCopy(const StoredOption& from, Names names)
 {
-    // All that may throw comes first.
-    m_names.reserve(stored->names.size());
-    reserveMore(m_recordOf, stored->names.size(), expected_names);
-    reserveMore(m_records, 1, expected_names);
+    RecordPointer stored = makeRecord(names);
+    reserveFor(*stored);
+    StoredOption& copy = *stored;
+    makeRoom(copy, from.positions.size(), from.values.size());
+    for (const std::int32_t position : from.positions)
+    {
+        copy.positions.push_back(position);
+    }
+    for (const StoredValue& value : from.values)
+    {
+        copy.values.push_back(value);
+    }
+    copy.defaultText = from.defaultText;
+    copy.defaultValue = from.defaultValue;
+    copy.defaultPosition = from.defaultPosition;
+    return bind(std::move(stored));
+}
 
-    const auto record = static_cast<std::uint32_t>(m_records.size());
+// Makes room in the tables for a record and its names.
+void OptionResultTable::reserveFor(const StoredOption& stored)
+{
+    const std::size_t count = stored.names.size();
+    if (m_names.size() + count > m_room)
+    {
+        const std::size_t room = std::max({m_names.size() + count, 2 * m_room, expected_names});
+        m_names.reserve(room);
+        m_slots.rebuild(room, m_names.size(), textOf());
+        m_room = room;
+    }
+    reserveMore(m_records, 1, expected_names);
+}
+
+StoredOption& OptionResultTable::bind(RecordPointer stored) noexcept
+{
     for (const HashedText& name : stored->names)
     {
-        const std::uint32_t number = m_names.insert(name);
-        if (number == m_recordOf.size())
+        const std::size_t slot = m_slots.slotOf(name, textOf());
+        const std::uint32_t number = m_slots.numberAt(slot);
+        if (number == TextSlots::absent)
         {
-            m_recordOf.push_back(record);
+            m_slots.put(slot, static_cast<std::uint32_t>(m_names.size()), name);
+            m_names.push_back({name, stored.get()});
             continue;
         }
-        std::pmr::vector<HashedText>& former = m_records[m_recordOf[number]]->names;
-        former.erase(std::remove(former.begin(), former.end(), name), former.end());
-        m_recordOf[number] = record;
+        m_names[number].record->names.removeIf([&name](const HashedText& other)
+                                               { return other == name; });
+        m_names[number].record = stored.get();
     }
     m_records.push_back(std::move(stored));
     return *m_records.back();
 }
 
+void OptionResultTable::makeRoom(StoredOption& target, std::size_t positions, std::size_t values)
+{
+    target.positions.reserveMore(positions, m_strings.memory());
+    target.values.reserveMore(values, m_strings.memory());
+}
+
+// Gives the texts of a record's values the lifetime of the table.
 void OptionResultTable::keepTexts(OptionResult& record)
 {
-    const auto keep = [this](std::wstring_view text, const vexkit2::variant_t& value)
-    {
-        // A string value holds its own text, in a block that stays where it is.
-        return value.kind() == vexkit2::kind_wide_text
-                   ? std::wstring_view(value.get<const wchar_t*>(), text.size())
-                   : m_strings.keep(text);
-    };
     for (ValueEntry& entry : record.values)
     {
-        entry.text = keep(entry.text, entry.value);
+        entry.text = keptText(entry.text, entry.value);
     }
-    if (!record.defaultText.empty())
-    {
-        record.defaultText = keep(record.defaultText, record.defaultValue);
-    }
+}
+
+// A string value holds its own text, in a block that stays where it is.
+std::wstring_view OptionResultTable::keptText(std::wstring_view text,
+                                              const vexkit2::variant_t& value)
+{
+    return value.kind() == vexkit2::kind_wide_text
+               ? std::wstring_view(value.get<const wchar_t*>(), text.size())
+               : m_strings.keep(text);
 }
 
 } // namespace kexa_3_3

@@ -10,23 +10,17 @@
 #include <vector>
 
 #include "result/OptionResult.h"
+#include "result/StoredOption.h"
 #include "support/Garbage.h"
+#include "support/HashedText.h"
 #include "support/SmallBlocks.h"
-#include "support/TextTable.h"
+#include "support/TextSlots.h"
 
 namespace kexa_3_3
 {
 
 class OptionDescription;
-
-// The record that some names share.
-struct StoredOption
-{
-    explicit StoredOption(std::pmr::memory_resource& memory) : names(&memory), result(memory) {}
-
-    std::pmr::vector<HashedText> names;
-    OptionResult result;
-};
+class OptionIndex;
 
 // Behaves as if every name had an entry of its own, in which the entries of one option start as
 // copies and receive the same appends. The names of one option share one record as long as nothing
@@ -35,10 +29,16 @@ class OptionResultTable
 {
 public:
     // strings: keeps the texts; lives longer than the table.
-    explicit OptionResultTable(Garbage& strings) : m_strings(strings), m_memory(strings.memory()) {}
+    explicit OptionResultTable(Garbage& strings);
+    ~OptionResultTable() = default;
+    OptionResultTable(const OptionResultTable&) = delete;
+    OptionResultTable& operator=(const OptionResultTable&) = delete;
 
     // See IResultCollector::storeOption.
     void store(const OptionDescription& option, OptionResult& record);
+
+    // See IResultCollector::storeValue.
+    void storeValue(const OptionDescription& option, ValueEntry& value);
 
     // The record of a name, or null. It stays where it is as long as the table lives.
     [[nodiscard]] StoredOption* find(const HashedText& name) noexcept;
@@ -49,17 +49,30 @@ public:
 
     // The names in the order of their first storing, each with its record.
     [[nodiscard]] std::size_t size() const noexcept { return m_names.size(); }
-    [[nodiscard]] const HashedText& name(std::size_t number) const
-    {
-        return m_names.text(static_cast<std::uint32_t>(number));
-    }
+    [[nodiscard]] const HashedText& name(std::size_t number) const { return m_names[number].text; }
     [[nodiscard]] const StoredOption& record(std::size_t number) const
     {
-        return *m_records[m_recordOf[number]];
+        return *m_names[number].record;
     }
+
+    // Whether all that is stored came from the options that the index knows.
+    [[nodiscard]] bool isFilledFrom(const OptionIndex& index) const noexcept;
 
 private:
     using Names = std::span<const HashedText>;
+
+    struct Name
+    {
+        HashedText text;
+        StoredOption* record = nullptr;
+    };
+    [[nodiscard]] auto textOf() const noexcept
+    {
+        return [this](std::uint32_t number) -> const HashedText&
+        {
+            return m_names[number].text;
+        };
+    }
 
     // The memory of a record belongs to m_strings; only the object is destroyed.
     struct Destroy
@@ -68,29 +81,55 @@ private:
     };
     using RecordPointer = std::unique_ptr<StoredOption, Destroy>;
 
-    void remember(std::size_t index, StoredOption* stored);
-    void storeNew(Names names, OptionResult& record);
+    [[nodiscard]] bool noteSource(const OptionIndex* index) noexcept;
+    [[nodiscard]] StoredOption* recall(std::size_t tableIndex) const noexcept;
+    void remember(std::size_t tableIndex, StoredOption* stored);
+
+    struct Place
+    {
+        StoredOption* record; // null: the option was never stored
+        bool apart;           // whether its names do not share exactly this one
+    };
+    [[nodiscard]] Place locate(const OptionDescription& option);
+
+    void append(StoredOption& target, ValueEntry& value);
+    void append(StoredOption& target, OptionResult& record);
+    template <class Fill>
+    void storeNew(const OptionDescription& option, Fill fill);
     void storeApart(Names names, OptionResult& record);
 
     // The records of the names, each once and cut loose from names that are not among them. Absent
     // names join the record of the first.
     [[nodiscard]] std::vector<StoredOption*> takeRecords(Names names);
 
-    // Lets the names in stored->names find it from now on.
-    StoredOption& bind(RecordPointer stored);
+    // A record for names, which find it once it is bound to them. `reserveFor` makes the room that
+    // binding needs.
     [[nodiscard]] RecordPointer makeRecord(Names names);
+    void reserveFor(const StoredOption& stored);
+    StoredOption& bind(RecordPointer stored) noexcept;
+    StoredOption& bindCopy(const StoredOption& from, Names names);
 
-    // Gives the texts of a record the lifetime of the table.
+    void makeRoom(StoredOption& target, std::size_t positions, std::size_t values);
     void keepTexts(OptionResult& record);
+    [[nodiscard]] std::wstring_view keptText(std::wstring_view text,
+                                             const vexkit2::variant_t& value);
+
+    // The options that filled the result: an index's identity, or one of these.
+    static constexpr std::uint64_t no_source = 0;
+    static constexpr std::uint64_t several_sources = ~std::uint64_t{0};
 
     Garbage& m_strings;
-    SmallBlocks m_memory;
-    // The record that an option of some table was stored in last, by its index there: a guess,
-    // which saves the search where the names agree.
-    std::vector<StoredOption*> m_guesses;
-    TextTable m_names;
-    std::vector<std::uint32_t> m_recordOf; // by the numbers of m_names
-    std::vector<RecordPointer> m_records;
+    SmallBlocks m_memory; // of the tables
+    std::uint64_t m_source = no_source;
+
+    // The record that an option of some table was stored in last, by its index there. Where all
+    // options come from one table whose names are all different, the record is that of the option;
+    // otherwise it is a guess.
+    std::pmr::vector<StoredOption*> m_recalled;
+    std::size_t m_room = 0; // for names, in both of the following
+    std::pmr::vector<Name> m_names;
+    TextSlots m_slots; // of m_names
+    std::pmr::vector<RecordPointer> m_records;
 };
 
 } // namespace kexa_3_3

@@ -11,12 +11,17 @@ namespace kexa_3_3
 namespace
 {
 
-constexpr std::size_t first_text_block =
-    4096; // bytes; holds what a command line of usual size leaves
+void requireName(const OptionDescription& option)
+{
+    if (option.names.empty())
+    {
+        throw std::out_of_range("invalid vector<T> subscript");
+    }
+}
 
 } // namespace
 
-ParseResult::ParseResult() : m_strings(first_text_block), m_options(m_strings) {}
+ParseResult::ParseResult() : m_strings(m_firstBlock.bytes()), m_options(m_strings) {}
 
 void ParseResult::release()
 {
@@ -92,11 +97,15 @@ result_t ParseResult::getNextUnparsed(const wchar_t** out)
 
 result_t ParseResult::storeOption(const OptionDescription& option, OptionResult& record)
 {
-    if (option.names.empty())
-    {
-        throw std::out_of_range("invalid vector<T> subscript");
-    }
+    requireName(option);
     m_options.store(option, record);
+    return result_success;
+}
+
+result_t ParseResult::storeValue(const OptionDescription& option, ValueEntry& value)
+{
+    requireName(option);
+    m_options.storeValue(option, value);
     return result_success;
 }
 
@@ -117,9 +126,7 @@ bool ParseResult::beginQuery(const wchar_t* name, std::int32_t from, std::int32_
 {
     m_rangeFrom = from;
     m_rangeTo = to;
-    const StoredOption* const stored =
-        name == nullptr ? nullptr : m_options.find(std::wstring_view(name));
-    m_currentOption = stored == nullptr ? nullptr : &stored->result;
+    m_currentOption = name == nullptr ? nullptr : m_options.find(std::wstring_view(name));
     if (m_currentOption == nullptr)
     {
         return false;
@@ -130,7 +137,7 @@ bool ParseResult::beginQuery(const wchar_t* name, std::int32_t from, std::int32_
     {
         return true;
     }
-    const std::pmr::vector<std::int32_t>& positions = m_currentOption->positions;
+    const auto& positions = m_currentOption->positions;
     while (m_positionCursor < positions.size() &&
            (positions[m_positionCursor] < from || positions[m_positionCursor] >= to))
     {
@@ -142,7 +149,7 @@ bool ParseResult::beginQuery(const wchar_t* name, std::int32_t from, std::int32_
 // The next value of the walk. Needs a current option.
 bool ParseResult::nextValue(Found& found) noexcept
 {
-    const OptionResult& option = *m_currentOption;
+    const StoredOption& option = *m_currentOption;
     if (!walksOccurrences())
     {
         if (m_rangeFrom != no_position || m_rangeTo != no_position)
@@ -173,12 +180,12 @@ bool ParseResult::nextValue(Found& found) noexcept
     {
         return false;
     }
-    const ValueEntry& entry = option.values[m_valueCursor++];
-    found = {entry.text.data(), &entry.value, entry.position};
+    const StoredValue& entry = option.values[m_valueCursor++];
+    found = {entry.text, &entry.value, entry.position};
     return true;
 }
 
-ParseResult::Found ParseResult::defaultOf(const OptionResult& option) noexcept
+ParseResult::Found ParseResult::defaultOf(const StoredOption& option) noexcept
 {
     return {option.defaultText.data(), &option.defaultValue,
             static_cast<std::int32_t>(option.defaultPosition)};

@@ -11,6 +11,7 @@
 #include "result/IResultCollector.h"
 #include "result/OptionResultTable.h"
 #include "support/Garbage.h"
+#include "support/InlineBlock.h"
 
 namespace kexa_3_3
 {
@@ -33,6 +34,7 @@ public:
     result_t getNextUnparsed(const wchar_t** out) override;
 
     result_t storeOption(const OptionDescription& option, OptionResult& record) override;
+    result_t storeValue(const OptionDescription& option, ValueEntry& value) override;
 
     // Adds a left-over argument.
     void addUnparsed(std::wstring_view argument);
@@ -58,10 +60,11 @@ private:
     [[nodiscard]] bool walksOccurrences() const noexcept;
     [[nodiscard]] bool beginQuery(const wchar_t* name, std::int32_t from, std::int32_t to) noexcept;
     [[nodiscard]] bool nextValue(Found& found) noexcept;
-    [[nodiscard]] static Found defaultOf(const OptionResult& option) noexcept;
+    [[nodiscard]] static Found defaultOf(const StoredOption& option) noexcept;
     // NOLINTNEXTLINE(bugprone-exception-escape): as in the definition.
     [[nodiscard]] static result_t answer(Value* out, bool found, const Found& what) noexcept;
 
+    InlineBlock<6144> m_firstBlock; // holds what a command line of usual size leaves
     Garbage m_strings; // keeps every text handed out, so it is destroyed after what refers to it
     OptionResultTable m_options;
 
@@ -69,7 +72,7 @@ private:
     std::size_t m_positionCursor = 0;
     std::int32_t m_rangeFrom = 0;
     std::int32_t m_rangeTo = no_position;
-    const OptionResult* m_currentOption = nullptr;
+    const StoredOption* m_currentOption = nullptr;
 
     std::vector<Unparsed> m_unparsed;
     std::size_t m_unparsedCursor = 0;

@@ -10,7 +10,7 @@ namespace kexa_3_3
 namespace
 {
 
-constexpr std::size_t largest_shared_block = std::size_t{1} << 20;
+constexpr std::size_t largest_shared_block = std::size_t{1} << 18;
 
 } // namespace
 
@@ -31,14 +31,14 @@ void* Arena::takeFromNewBlock(std::size_t size)
         // A block of its own: what is left of the shared one stays in use.
         return addBlock(size);
     }
-    char* const block = addBlock(m_nextBlock);
+    std::byte* const block = addBlock(m_nextBlock);
     m_free = block + size;
     m_left = m_nextBlock - size;
     m_nextBlock = std::min(2 * m_nextBlock, std::max(m_nextBlock, largest_shared_block));
     return block;
 }
 
-char* Arena::addBlock(std::size_t size)
+std::byte* Arena::addBlock(std::size_t size)
 {
     if (size > std::numeric_limits<std::size_t>::max() - sizeof(Block))
     {
@@ -46,7 +46,7 @@ char* Arena::addBlock(std::size_t size)
     }
     void* const memory = ::operator new(sizeof(Block) + size);
     m_blocks = new (memory) Block{m_blocks};
-    return static_cast<char*>(memory) + sizeof(Block);
+    return static_cast<std::byte*>(memory) + sizeof(Block);
 }
 
 } // namespace kexa_3_3

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory_resource>
+#include <span>
 
 namespace kexa_3_3
 {
@@ -16,6 +17,12 @@ public:
     // firstBlock: how many bytes to take from the heap when memory is first asked for. Later blocks
     // grow up to a limit, so that what is left unused at the end stays a small part of the whole.
     explicit Arena(std::size_t firstBlock) noexcept : m_nextBlock(firstBlock) {}
+
+    // first: taken from before the heap is asked for anything. Lives longer than the arena.
+    explicit Arena(std::span<std::byte> first) noexcept
+        : m_free(first.data()), m_left(first.size()), m_nextBlock(2 * first.size())
+    {
+    }
     ~Arena() override;
     Arena(const Arena&) = delete;
     Arena& operator=(const Arena&) = delete;
@@ -32,7 +39,7 @@ public:
         {
             return takeFromNewBlock(size);
         }
-        char* const taken = m_free + padding;
+        std::byte* const taken = m_free + padding;
         m_free = taken + size;
         m_left -= size + padding;
         return taken;
@@ -46,7 +53,7 @@ private:
     };
 
     [[nodiscard]] void* takeFromNewBlock(std::size_t size);
-    [[nodiscard]] char* addBlock(std::size_t size);
+    [[nodiscard]] std::byte* addBlock(std::size_t size);
 
     void* do_allocate(std::size_t size, std::size_t alignment) override
     {
@@ -58,7 +65,7 @@ private:
         return this == &other;
     }
 
-    char* m_free = nullptr; // in the newest shared block
+    std::byte* m_free = nullptr; // in the newest shared block
     std::size_t m_left = 0;
     std::size_t m_nextBlock;
     Block* m_blocks = nullptr;

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <cstddef>
+#include <cstring>
 #include <set>
+#include <span>
 #include <string_view>
 
 #include "support/Arena.h"
@@ -18,6 +20,9 @@ class Garbage final
 public:
     // firstBlock: how many bytes to take from the heap the first time a text is stored.
     explicit Garbage(std::size_t firstBlock);
+
+    // first: where texts are stored as long as they fit. Lives longer than the pool.
+    explicit Garbage(std::span<std::byte> first);
     ~Garbage() = default;
     Garbage(const Garbage&) = delete;
     Garbage& operator=(const Garbage&) = delete;
@@ -30,7 +35,25 @@ public:
     std::wstring_view internText(std::wstring_view text);
 
     // A copy of the text, terminated by a zero, not shared with equal texts.
-    std::wstring_view keep(std::wstring_view text);
+    std::wstring_view keep(std::wstring_view text) { return copyInto(roomFor(text.size()), text); }
+
+    // Room for a text of `length` characters and its terminating zero.
+    [[nodiscard]] wchar_t* roomFor(std::size_t length)
+    {
+        const std::size_t size = (length + 1) * sizeof(wchar_t);
+        return static_cast<wchar_t*>(m_memory.take(size, alignof(wchar_t)));
+    }
+
+    // The text, copied and terminated by a zero.
+    static std::wstring_view copyInto(wchar_t* room, std::wstring_view text) noexcept
+    {
+        if (!text.empty())
+        {
+            std::memcpy(room, text.data(), text.size() * sizeof(wchar_t));
+        }
+        room[text.size()] = L'\0';
+        return {room, text.size()};
+    }
 
     // Memory that lives as long as the pool. What is allocated from it is never given back.
     Arena& memory() noexcept { return m_memory; }

@@ -16,22 +16,34 @@ namespace kexa_3_3
 class SmallBlocks final : public std::pmr::memory_resource
 {
 public:
-    // small: lives longer than this.
-    explicit SmallBlocks(Arena& small) noexcept : m_small(&small) {}
-
-private:
-    static constexpr std::size_t largest_small_block = 256; // bytes
-
-    void* do_allocate(std::size_t size, std::size_t alignment) override
+    // small:   lives longer than this.
+    // largest: the largest block, in bytes, to take from it.
+    explicit SmallBlocks(Arena& small, std::size_t largest = 256) noexcept
+        : m_small(&small), m_largest(largest)
     {
-        return size <= largest_small_block ? m_small->take(size, alignment) : ::operator new(size);
     }
-    void do_deallocate(void* block, std::size_t size, std::size_t /*alignment*/) override
+
+    // As the operations of a memory resource, known to the caller by their type.
+    [[nodiscard]] void* take(std::size_t size, std::size_t alignment)
     {
-        if (size > largest_small_block)
+        return size <= m_largest ? m_small->take(size, alignment) : ::operator new(size);
+    }
+    void giveBack(void* block, std::size_t size) const noexcept
+    {
+        if (size > m_largest)
         {
             ::operator delete(block);
         }
+    }
+
+private:
+    void* do_allocate(std::size_t size, std::size_t alignment) override
+    {
+        return take(size, alignment);
+    }
+    void do_deallocate(void* block, std::size_t size, std::size_t /*alignment*/) override
+    {
+        giveBack(block, size);
     }
     [[nodiscard]] bool do_is_equal(const std::pmr::memory_resource& other) const noexcept override
     {
@@ -39,6 +51,7 @@ private:
     }
 
     Arena* m_small;
+    std::size_t m_largest;
 };
 
 } // namespace kexa_3_3

@@ -3,49 +3,37 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory_resource>
 #include <string_view>
 #include <vector>
 
+#include "support/HashedText.h"
+#include "support/TextSlots.h"
+
 namespace kexa_3_3
 {
-
-// A hash of the text. Only texts that a host declares are stored in tables, so it needs to be quick
-// and not to withstand an enemy who chooses what is stored.
-[[nodiscard]] std::uint64_t hashOf(std::wstring_view text) noexcept;
-
-// A text that carries its hash, for texts that are looked for again and again.
-class HashedText : public std::wstring_view
-{
-public:
-    explicit HashedText(std::wstring_view text) noexcept
-        : std::wstring_view(text), m_hash(hashOf(text))
-    {
-    }
-
-    // The same text at another place.
-    HashedText(const HashedText& other, std::wstring_view copy) noexcept
-        : std::wstring_view(copy), m_hash(other.m_hash)
-    {
-    }
-
-    [[nodiscard]] std::uint64_t hash() const noexcept { return m_hash; }
-
-    friend bool operator==(const HashedText& left, const HashedText& right) noexcept
-    {
-        return left.m_hash == right.m_hash &&
-               static_cast<std::wstring_view>(left) == static_cast<std::wstring_view>(right);
-    }
-
-private:
-    std::uint64_t m_hash;
-};
 
 // The numbers run from 0, so what belongs to a text can be kept in vectors beside the table. Texts
 // are not copied: whoever inserts them keeps them alive and unchanged.
 class TextTable
 {
+    [[nodiscard]] auto textOf() const noexcept
+    {
+        return [this](std::uint32_t number) -> const HashedText&
+        {
+            return m_texts[number];
+        };
+    }
+
 public:
-    static constexpr std::uint32_t absent = 0xFFFFFFFF;
+    static constexpr std::uint32_t absent = TextSlots::absent;
+
+    // memory: lives longer than the table.
+    explicit TextTable(
+        std::pmr::memory_resource& memory = *std::pmr::get_default_resource()) noexcept
+        : m_texts(&memory), m_slots(memory)
+    {
+    }
 
     // The number of the text, or `absent`.
     [[nodiscard]] std::uint32_t find(std::wstring_view text) const noexcept
@@ -54,34 +42,40 @@ public:
     }
     [[nodiscard]] std::uint32_t find(const HashedText& text) const noexcept
     {
-        return m_entries.empty() ? absent : m_slots[slotOf(text)];
+        return m_texts.empty() ? absent : m_slots.numberAt(m_slots.slotOf(text, textOf()));
     }
 
     // The number of the text, which is inserted where it is new. Needs room made by `reserve`.
-    std::uint32_t insert(const HashedText& text) noexcept;
+    std::uint32_t insert(const HashedText& text) noexcept
+    {
+        const std::size_t slot = m_slots.slotOf(text, textOf());
+        if (m_slots.numberAt(slot) == absent)
+        {
+            m_slots.put(slot, static_cast<std::uint32_t>(m_texts.size()), text);
+            m_texts.push_back(text);
+        }
+        return m_slots.numberAt(slot);
+    }
     std::uint32_t insert(std::wstring_view text) noexcept { return insert(HashedText(text)); }
 
     // Makes room for `count` texts more. Throws std::bad_alloc, changing nothing.
     void reserve(std::size_t count)
     {
-        // At most half full: a search for a text that is not there ends soon.
-        if (2 * (m_entries.size() + count) > m_slots.size())
+        if (m_texts.size() + count > m_room)
         {
-            grow(m_entries.size() + count);
+            grow(m_texts.size() + count);
         }
     }
 
-    [[nodiscard]] std::size_t size() const noexcept { return m_entries.size(); }
-    [[nodiscard]] const HashedText& text(std::uint32_t number) const { return m_entries[number]; }
+    [[nodiscard]] std::size_t size() const noexcept { return m_texts.size(); }
+    [[nodiscard]] const HashedText& text(std::uint32_t number) const { return m_texts[number]; }
 
 private:
-    // The slot that holds the text, or the free one where it belongs. Needs a free slot.
-    [[nodiscard]] std::size_t slotOf(const HashedText& text) const noexcept;
-
     void grow(std::size_t needed);
 
-    std::vector<HashedText> m_entries;  // with room for as many as the slots take
-    std::vector<std::uint32_t> m_slots; // numbers of entries, or `absent`; a power of two of them
+    std::size_t m_room = 0;
+    std::pmr::vector<HashedText> m_texts;
+    TextSlots m_slots;
 };
 
 } // namespace kexa_3_3

@@ -35,14 +35,25 @@ inline void switchTrace(bool on) noexcept
     internal::trace_switch = on;
 }
 
+namespace internal
+{
+
+template <class... Pieces>
+void writeTraceLine(const Pieces&... pieces)
+{
+    (traceStream() << ... << pieces) << std::endl;
+}
+
+} // namespace internal
+
 // Writes one line made of the pieces (wide texts and integers). While the trace is off it costs a
 // look at the switch: the pieces are not even formatted.
 template <class... Pieces>
-void traceLine(const Pieces&... pieces)
+inline void traceLine(const Pieces&... pieces)
 {
-    if (internal::trace_switch)
+    if (internal::trace_switch) [[unlikely]]
     {
-        (traceStream() << ... << pieces) << std::endl;
+        internal::writeTraceLine(pieces...);
     }
 }
 

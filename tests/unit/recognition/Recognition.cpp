@@ -30,6 +30,14 @@ result_t Collector::storeOption(const OptionDescription& option, OptionResult& r
     return result_success;
 }
 
+result_t Collector::storeValue(const OptionDescription& option, ValueEntry& value)
+{
+    OptionResult record;
+    record.positions.push_back(value.position);
+    record.values.push_back(value);
+    return storeOption(option, record);
+}
+
 bool Handler::onOptionParsed(const wchar_t* name)
 {
     events.push_back(std::wstring(L"option ") + name);

@@ -23,13 +23,15 @@ namespace unit
 
 using Texts = std::vector<std::wstring>;
 
-// One call of storeOption, written down: "name [position text=value, ...]", the texts being those
+// One occurrence stored, written down: "name [position text=value, ...]", the texts being those
 // of the values; without values "name [position]".
 class Collector final : public kexa_3_3::IResultCollector
 {
 public:
     kexa_3_3::result_t storeOption(const kexa_3_3::OptionDescription& option,
                                    kexa_3_3::OptionResult& record) override;
+    kexa_3_3::result_t storeValue(const kexa_3_3::OptionDescription& option,
+                                  kexa_3_3::ValueEntry& value) override;
 
     Texts stored;
 };

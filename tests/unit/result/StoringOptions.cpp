@@ -38,11 +38,7 @@ protected:
         record.defaultPosition = no_position;
         EXPECT_EQ(result.storeOption(option, record), 0);
     }
-    const OptionResult* stored(std::wstring_view name)
-    {
-        const StoredOption* const found = result.options().find(name);
-        return found == nullptr ? nullptr : &found->result;
-    }
+    const StoredOption* stored(std::wstring_view name) { return result.options().find(name); }
 
     Garbage pool{4096};
     OptionDescription option{{L"", L""}, false, pool};
@@ -72,10 +68,10 @@ TEST_F(StoringOptions, EveryNameFindsTheRecord)
     store(option, L"text", variant_t(L"text"), 3);
     for (const wchar_t* const name : {L"name", L"n"})
     {
-        const OptionResult* const found = stored(name);
+        const StoredOption* const found = stored(name);
         ASSERT_NE(found, nullptr);
         ASSERT_EQ(found->values.size(), 1U);
-        EXPECT_EQ(found->values[0].text, L"text");
+        EXPECT_STREQ(found->values[0].text, L"text");
         EXPECT_EQ(found->values[0].value, variant_t(L"text"));
         EXPECT_EQ(found->values[0].position, 3);
         ASSERT_EQ(found->positions.size(), 1U);
@@ -121,7 +117,7 @@ TEST_F(StoringOptions, DefaultIsKeptAsFirstStored)
     storeDefault(L"first", variant_t(L"first"));
     storeDefault(L"second", variant_t(2));
     store(option, L"x", variant_t(L"x"), 4);
-    const OptionResult* const found = stored(L"n");
+    const StoredOption* const found = stored(L"n");
     ASSERT_NE(found, nullptr);
     EXPECT_EQ(found->defaultText, L"first");
     EXPECT_EQ(found->defaultValue, variant_t(L"first"));
@@ -153,8 +149,8 @@ TEST_F(StoringOptions, DefaultTextIsKept)
 TEST_F(StoringOptions, RecordStaysWhereItIs)
 {
     store(option, L"x", variant_t(L"x"), 0);
-    const OptionResult* const before = stored(L"name");
-    const std::wstring_view text = before->values[0].text;
+    const StoredOption* const before = stored(L"name");
+    const wchar_t* const text = before->values[0].text;
     for (std::int32_t number = 1; number < 2000; ++number)
     {
         OptionDescription other({L"", L""}, false, pool);
@@ -164,8 +160,8 @@ TEST_F(StoringOptions, RecordStaysWhereItIs)
     }
     EXPECT_EQ(stored(L"name"), before);
     EXPECT_EQ(before->values.size(), 2000U);
-    EXPECT_EQ(before->values[0].text.data(), text.data());
-    EXPECT_EQ(text, L"x");
+    EXPECT_EQ(before->values[0].text, text);
+    EXPECT_STREQ(text, L"x");
     EXPECT_EQ(stored(L"1999")->values.size(), 1U);
 }
 

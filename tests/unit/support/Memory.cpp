@@ -1,11 +1,13 @@
 // Memory given back all at once, memory for objects that may stay small, and room made ahead.
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <limits>
 #include <memory_resource>
 #include <new>
+#include <span>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -64,6 +66,18 @@ TEST(Arena, FirstBlockIsTakenOnFirstUseAndHoldsWhatItShould)
     EXPECT_EQ(allocationCount(), before + 1);
     static_cast<void>(arena.take(1, 1));
     EXPECT_EQ(allocationCount(), before + 2);
+}
+
+TEST(Arena, MemoryGivenToItIsUsedBeforeTheHeapIs)
+{
+    alignas(std::max_align_t) std::array<std::byte, 256> first = {};
+    const std::size_t before = allocationCount();
+    Arena arena(std::span<std::byte>{first});
+    void* const piece = arena.take(200, 8);
+    EXPECT_EQ(piece, first.data());
+    EXPECT_EQ(allocationCount(), before);
+    std::memset(arena.take(100, 8), 0xA5, 100); // does not fit any more
+    EXPECT_EQ(allocationCount(), before + 1);
 }
 
 TEST(Arena, LargePieceLeavesTheSharedBlockInUse)
