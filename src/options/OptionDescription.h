@@ -18,7 +18,7 @@
 #include "options/AllowedValueIndex.h"
 #include "options/NotCopied.h"
 #include "options/OptionIndex.h"
-#include "support/TextTable.h"
+#include "support/HashedText.h"
 
 namespace kexa_3_3
 {

@@ -34,8 +34,7 @@ public:
     // Declares an option.
     //
     // names:     split at ','; one to three, of which the third has at most two characters. None
-    // may
-    //            be a name of a declared option.
+    //            may be a name of a declared option.
     // keywords:  split at ','; may be null. The names of a switch are its keywords too.
     // groupText: the group, optionally followed by ':' and its text. The text of the first
     //            declaration of a group stays.

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <memory_resource>
 #include <string_view>
 #include <vector>
 
@@ -23,16 +22,9 @@ struct ValueEntry
 // One occurrence of an option, or its default, on the way to the result.
 struct OptionResult
 {
-    OptionResult() = default;
-
-    // memory: where positions and values are kept.
-    explicit OptionResult(std::pmr::memory_resource& memory) : positions(&memory), values(&memory)
-    {
-    }
-
-    std::pmr::vector<std::int32_t> positions; // in the order stored
-    std::pmr::vector<ValueEntry> values;      // in the order stored
-    std::wstring_view defaultText;            // empty: no default
+    std::vector<std::int32_t> positions; // in the order stored
+    std::vector<ValueEntry> values;      // in the order stored
+    std::wstring_view defaultText;       // empty: no default
     vexkit2::variant_t defaultValue;
     std::uint32_t defaultPosition = 0;
 };

@@ -10,9 +10,8 @@
 namespace kexa_3_3
 {
 
-// Takes small blocks from an arena, which costs next to nothing, and large
-// ones from the heap, to which they return. A vector that grows leaves behind at most as much as
-// the largest small block.
+// Takes small blocks from an arena, which costs next to nothing, and large ones from the heap, to
+// which they return. What a growing vector leaves behind is small blocks only.
 class SmallBlocks final : public std::pmr::memory_resource
 {
 public:
@@ -23,27 +22,17 @@ public:
     {
     }
 
-    // As the operations of a memory resource, known to the caller by their type.
-    [[nodiscard]] void* take(std::size_t size, std::size_t alignment)
+private:
+    void* do_allocate(std::size_t size, std::size_t alignment) override
     {
         return size <= m_largest ? m_small->take(size, alignment) : ::operator new(size);
     }
-    void giveBack(void* block, std::size_t size) const noexcept
+    void do_deallocate(void* block, std::size_t size, std::size_t /*alignment*/) override
     {
         if (size > m_largest)
         {
             ::operator delete(block);
         }
-    }
-
-private:
-    void* do_allocate(std::size_t size, std::size_t alignment) override
-    {
-        return take(size, alignment);
-    }
-    void do_deallocate(void* block, std::size_t size, std::size_t /*alignment*/) override
-    {
-        giveBack(block, size);
     }
     [[nodiscard]] bool do_is_equal(const std::pmr::memory_resource& other) const noexcept override
     {

@@ -22,12 +22,9 @@ public:
     // memory: lives longer than this.
     explicit TextSlots(std::pmr::memory_resource& memory) noexcept : m_slots(&memory) {}
 
-    // How many texts there is room for; at most half of the slots are used, so that a search for a
-    // text that is not there ends soon.
-    [[nodiscard]] std::size_t room() const noexcept { return m_slots.size() / 2; }
-
-    // Makes room for `count` texts, of which those numbered below `known` are put in. Throws
-    // std::bad_alloc, changing nothing.
+    // Makes room for `count` texts, of which those numbered below `known` are put in: twice as many
+    // slots, so that a search for a text that is not there ends soon. Throws std::bad_alloc,
+    // changing nothing.
     template <class TextOf>
     void rebuild(std::size_t count, std::size_t known, TextOf textOf)
     {
