@@ -53,6 +53,24 @@ TEST_F(OptionGroups, GroupIsCutAtItsFirstColon)
     EXPECT_EQ(options[7].groupText, L"Of no group");
 }
 
+TEST_F(OptionGroups, DeclarationsOfOneGroupMayStandTogetherOrApart)
+{
+    const std::vector<const wchar_t*> declared = {L"x", L"x",    L"y:Why", L"y:Why", L"x", L"y:Why",
+                                                  L"y", nullptr, L"",      L"z",     L"z"};
+    const Groups expected = {{L"x", L""}, {L"x", L""},    {L"y", L"Why"}, {L"y", L"Why"},
+                             {L"x", L""}, {L"y", L"Why"}, {L"y", L"Why"}, {L"", L""},
+                             {L"", L""},  {L"z", L""},    {L"z", L""}};
+    Groups found;
+    for (const wchar_t* const groupText : declared)
+    {
+        add(std::to_wstring(found.size()).c_str(), groupText);
+        const OptionDescription& option = options[found.size()];
+        found.emplace_back(option.group, option.groupText);
+    }
+    EXPECT_EQ(found, expected);
+    EXPECT_EQ(options.groups(), (Groups{{L"x", L""}, {L"y", L"Why"}, {L"", L""}, {L"z", L""}}));
+}
+
 TEST_F(OptionGroups, ManyGroupsAreEachListedOnce)
 {
     for (int number = 0; number < 300; ++number)
