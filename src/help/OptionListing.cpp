@@ -1,6 +1,9 @@
 #include "help/OptionListing.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <iterator>
+#include <limits>
 #include <map>
 #include <numeric>
 
@@ -21,18 +24,6 @@ namespace
 constexpr std::size_t description_column = 30;
 constexpr std::size_t line_width = 80;
 
-// A paragraph whose lead is written even where there is no text for it.
-void appendEntry(std::wstring& out, std::wstring_view lead, std::wstring_view text,
-                 std::size_t indent)
-{
-    if (text.empty() && !lead.empty())
-    {
-        out.append(lead).push_back(L'\n');
-        return;
-    }
-    appendParagraph(out, lead, text, indent, line_width);
-}
-
 [[nodiscard]] bool isTrue(const vexkit2::variant_t& value)
 {
     return value.can_get<bool>() ? value.get<bool>()
@@ -52,18 +43,18 @@ void appendValueForm(std::wstring& column, const OptionDescription& option)
 {
     if (option.allowedValues.empty())
     {
-        column += concatenate({L"=<", typeName(option), L">"});
+        column.append(L"=<").append(typeName(option)).push_back(L'>');
     }
     std::wstring_view before = L"=";
     for (const vexkit2::variant_t& value : option.allowedValues)
     {
-        column += concatenate({before, valueText(value)});
+        column.append(before).append(valueText(value));
         before = L" | ";
     }
     const std::wstring text = option.hasDefault ? valueText(option.defaultValue) : std::wstring();
     if (!text.empty())
     {
-        column += concatenate({L" (", text, L")"});
+        column.append(L" (").append(text).push_back(L')');
     }
 }
 
@@ -75,15 +66,80 @@ void appendValueForm(std::wstring& column, const OptionDescription& option)
                            { return length + line_width + 2 * entry->description.size(); });
 }
 
+void appendNames(std::wstring& out, const OptionDescription& option)
+{
+    // The further names stand before the primary one, the last declared first.
+    for (std::size_t position = option.names.size(); position > 1; --position)
+    {
+        out.append(L"-").append(option.names[position - 1]).append(L", ");
+    }
+    out.append(L"-").append(option.primaryName());
+    if (option.valueType == value_type_boolean)
+    {
+        appendBooleanForms(out, option);
+    }
+    else if (option.valueType != value_type_none)
+    {
+        appendValueForm(out, option);
+    }
+}
+
 void appendOption(std::wstring& out, const OptionDescription& option)
 {
-    std::wstring column = formatNames(option);
-    if (column.size() >= description_column)
+    const std::size_t begin = out.size();
+    appendNames(out, option);
+    std::size_t column = out.size() - begin;
+    if (column >= description_column)
     {
-        out.append(column).push_back(L'\n');
-        column.clear();
+        out.push_back(L'\n');
+        column = 0;
     }
-    appendEntry(out, column, option.description, description_column);
+    if (!option.description.empty())
+    {
+        continueParagraph(out, column, option.description, description_column, line_width);
+    }
+    else if (column != 0)
+    {
+        out.push_back(L'\n');
+    }
+}
+
+// Sorts by primary name; what has one name stays in its order. The first characters decide nearly
+// always and are compared as one number.
+void sortByName(std::vector<const OptionDescription*>& entries)
+{
+    constexpr std::size_t leading = sizeof(std::uint64_t) / sizeof(wchar_t);
+    struct Key
+    {
+        std::uint64_t beginning;
+        const OptionDescription* entry;
+    };
+    const auto keyOf = [](const OptionDescription* entry) -> Key
+    {
+        // A text that ends early has zeros there, which are not larger than any character.
+        constexpr auto lowest = static_cast<std::uint32_t>(std::numeric_limits<wchar_t>::min());
+        const std::wstring_view name = entry->primaryName();
+        std::uint64_t beginning = 0;
+        for (std::size_t position = 0; position < leading; ++position)
+        {
+            const std::uint32_t character =
+                position < name.size() ? static_cast<std::uint32_t>(name[position]) - lowest : 0;
+            beginning = beginning << (8 * sizeof(wchar_t)) | character;
+        }
+        return {beginning, entry};
+    };
+    std::vector<Key> keys;
+    keys.reserve(entries.size());
+    std::transform(entries.begin(), entries.end(), std::back_inserter(keys), keyOf);
+    std::stable_sort(keys.begin(), keys.end(),
+                     [](const Key& left, const Key& right)
+                     {
+                         return left.beginning != right.beginning
+                                    ? left.beginning < right.beginning
+                                    : left.entry->primaryName() < right.entry->primaryName();
+                     });
+    std::transform(keys.begin(), keys.end(), entries.begin(),
+                   [](const Key& key) { return key.entry; });
 }
 
 } // namespace
@@ -95,21 +151,8 @@ bool passesHiddenTest(std::wstring_view group, bool hidden) noexcept
 
 std::wstring formatNames(const OptionDescription& option)
 {
-    // The further names stand before the primary one, the last declared first.
     std::wstring column;
-    for (std::size_t position = option.names.size(); position > 1; --position)
-    {
-        column += concatenate({L"-", option.names[position - 1], L", "});
-    }
-    column += concatenate({L"-", option.primaryName()});
-    if (option.valueType == value_type_boolean)
-    {
-        appendBooleanForms(column, option);
-    }
-    else if (option.valueType != value_type_none)
-    {
-        appendValueForm(column, option);
-    }
+    appendNames(column, option);
     return column;
 }
 
@@ -117,9 +160,7 @@ std::wstring
 formatOptionHelp(const std::vector<std::pair<std::wstring_view, std::wstring_view>>& groups,
                  std::vector<const OptionDescription*> entries, bool hidden)
 {
-    std::stable_sort(entries.begin(), entries.end(),
-                     [](const OptionDescription* left, const OptionDescription* right)
-                     { return left->primaryName() < right->primaryName(); });
+    sortByName(entries);
     std::map<std::wstring_view, std::vector<const OptionDescription*>> byGroup;
     for (const OptionDescription* const entry : entries)
     {
@@ -142,7 +183,7 @@ formatOptionHelp(const std::vector<std::pair<std::wstring_view, std::wstring_vie
         }
         if (!groupText.empty())
         {
-            appendEntry(out, {}, groupText, 0);
+            appendParagraph(out, {}, groupText, 0, line_width);
             out.push_back(L'\n');
         }
         for (const OptionDescription* const entry : byGroup[group])

@@ -54,6 +54,16 @@ namespace
 void appendParagraph(std::wstring& out, std::wstring_view lead, std::wstring_view text,
                      std::size_t indent, std::size_t lineWidth)
 {
+    if (!text.empty())
+    {
+        out.append(lead);
+        continueParagraph(out, lead.size(), text, indent, lineWidth);
+    }
+}
+
+void continueParagraph(std::wstring& out, std::size_t leadLength, std::wstring_view text,
+                       std::size_t indent, std::size_t lineWidth)
+{
     if (text.empty())
     {
         return;
@@ -63,8 +73,7 @@ void appendParagraph(std::wstring& out, std::wstring_view lead, std::wstring_vie
         failForWantOfRoom();
     }
     const std::size_t width = lineWidth - indent;
-    std::size_t lineLength = lead.size();
-    out.append(lead);
+    std::size_t lineLength = leadLength;
     while (!text.empty())
     {
         if (text.front() == L' ' || text.front() == L'\n')

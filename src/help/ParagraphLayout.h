@@ -19,4 +19,9 @@ namespace kexa_3_3
 void appendParagraph(std::wstring& out, std::wstring_view lead, std::wstring_view text,
                      std::size_t indent, std::size_t lineWidth);
 
+// The same behind a lead that `out` ends with. leadLength: its length. An empty text leaves the
+// lead as it is.
+void continueParagraph(std::wstring& out, std::size_t leadLength, std::wstring_view text,
+                       std::size_t indent, std::size_t lineWidth);
+
 } // namespace kexa_3_3

@@ -208,7 +208,7 @@ const wchar_t* BasicParser::help(MakeHelp makeHelp)
 {
     try
     {
-        return m_strings.internText(makeHelp()).data();
+        return m_strings.adoptText(makeHelp()).data();
     }
     catch (const std::exception&)
     {

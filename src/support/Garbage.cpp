@@ -1,5 +1,7 @@
 #include "support/Garbage.h"
 
+#include <utility>
+
 namespace kexa_3_3
 {
 
@@ -21,6 +23,19 @@ std::wstring_view Garbage::internText(std::wstring_view text)
         m_last = found != m_interned.end() ? *found : *m_interned.insert(keep(text)).first;
     }
     return m_last;
+}
+
+std::wstring_view Garbage::adoptText(std::wstring&& text)
+{
+    constexpr std::size_t long_text = 4096;
+    const std::wstring_view whole(text.c_str());
+    if (whole.size() < long_text || m_interned.find(whole) != m_interned.end())
+    {
+        return internText(whole);
+    }
+    // A text that long lies in memory of its own, which moves with the string.
+    m_taken.push_front(std::move(text));
+    return m_last = *m_interned.insert(whole).first;
 }
 
 } // namespace kexa_3_3

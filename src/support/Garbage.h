@@ -3,8 +3,10 @@
 
 #include <cstddef>
 #include <cstring>
+#include <forward_list>
 #include <set>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "support/Arena.h"
@@ -34,6 +36,9 @@ public:
     // As intern. The text ends at its first zero character, as it does for who reads it.
     std::wstring_view internText(std::wstring_view text);
 
+    // As internText, of a text that is not needed any more. A long one is taken over, not copied.
+    std::wstring_view adoptText(std::wstring&& text);
+
     // A copy of the text, terminated by a zero, not shared with equal texts.
     std::wstring_view keep(std::wstring_view text) { return copyInto(roomFor(text.size()), text); }
 
@@ -60,6 +65,7 @@ public:
 
 private:
     Arena m_memory;
+    std::forward_list<std::wstring> m_taken;
     std::pmr::set<std::wstring_view> m_interned;
     std::wstring_view m_last; // interned last: the events of one argument ask for one name
 };

@@ -2,6 +2,7 @@
 #include "support/Garbage.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "AllocationCount.h"
@@ -158,6 +159,38 @@ TEST(Garbage, MemoryLivesBesideTheTexts)
     }
     EXPECT_EQ(before, L"before");
     EXPECT_EQ(after, L"after");
+}
+
+TEST(Garbage, AdoptedTextIsInternedLikeAnyOther)
+{
+    for (const std::size_t length : {std::size_t{3}, std::size_t{100000}})
+    {
+        Garbage pool(first_block);
+        const std::wstring text(length, L'x');
+        const std::wstring_view adopted = pool.adoptText(std::wstring(text));
+        EXPECT_EQ(adopted, text);
+        EXPECT_EQ(adopted.data()[length], L'\0');
+        EXPECT_EQ(pool.internText(text).data(), adopted.data());
+        EXPECT_EQ(pool.adoptText(std::wstring(text)).data(), adopted.data());
+        static_cast<void>(pool.adoptText(L"another"));
+        EXPECT_EQ(pool.intern(text.c_str()), adopted.data());
+    }
+}
+
+TEST(Garbage, LongAdoptedTextIsNotCopied)
+{
+    Garbage pool(first_block);
+    std::wstring text(100000, L'x');
+    const wchar_t* const characters = text.data();
+    EXPECT_EQ(pool.adoptText(std::move(text)).data(), characters);
+}
+
+TEST(Garbage, AdoptedTextEndsAtItsFirstZero)
+{
+    Garbage pool(first_block);
+    std::wstring text(10000, L'x');
+    text[5000] = L'\0';
+    EXPECT_EQ(pool.adoptText(std::move(text)), std::wstring(5000, L'x'));
 }
 
 } // namespace
