@@ -194,54 +194,62 @@ void OptionResultTable::storeNew(const OptionDescription& option, Fill fill)
 {
     RecordPointer stored = makeRecord(Names(option.names));
     StoredOption& target = *stored;
-    reserveFor(target);
+    reserveFor(target.names.size(), 1);
     remember(option.tableIndex(), nullptr); // makes room for it
     fill(target);
     m_recalled[option.tableIndex()] = &bind(std::move(stored));
 }
 
 // Stores where the names do not share exactly one record: another declaration stored some of them.
+// All that may throw comes before the first change that can be seen.
 void OptionResultTable::storeApart(Names names, OptionResult& record)
 {
-    const std::vector<StoredOption*> targets = takeRecords(names);
-    for (StoredOption* const target : targets)
+    std::vector<Part> parts = partsOf(names);
+    for (Part& part : parts)
     {
-        makeRoom(*target, record.positions.size(), record.values.size());
+        if (!part.isWhole)
+        {
+            part.copy = copyRecord(*part.record, part.names);
+            part.record = part.copy.get();
+        }
+        makeRoom(*part.record, record.positions.size(), record.values.size());
     }
+    reserveFor(names.size(), parts.size());
     keepTexts(record);
-    for (StoredOption* const target : targets)
+    for (Part& part : parts)
     {
-        appendCopies(*target, record);
+        appendCopies(part.copy == nullptr ? *part.record : bind(std::move(part.copy)), record);
     }
 }
 
-std::vector<StoredOption*> OptionResultTable::takeRecords(Names names)
+std::vector<OptionResultTable::Part> OptionResultTable::partsOf(Names names)
 {
-    std::vector<StoredOption*> targets;
+    std::vector<Part> parts;
+    std::size_t absent = 0;
     for (const HashedText& name : names)
     {
-        StoredOption* target = find(name);
-        if (target == nullptr)
+        StoredOption* const known = find(name);
+        StoredOption* const record = known != nullptr ? known : find(names.front());
+        auto part = std::find_if(parts.begin(), parts.end(),
+                                 [record](const Part& other) { return other.record == record; });
+        if (part == parts.end())
         {
-            StoredOption& first = *find(names.front());
-            std::vector<HashedText> together(first.names.begin(), first.names.end());
-            together.push_back(name);
-            targets.erase(std::remove(targets.begin(), targets.end(), &first), targets.end());
-            target = &bindCopy(first, together);
+            part = parts.insert(parts.end(), Part());
+            part->record = record;
         }
-        std::vector<HashedText> own;
-        std::copy_if(target->names.begin(), target->names.end(), std::back_inserter(own),
-                     [names](const HashedText& other) { return contains(names, other); });
-        if (own.size() != target->names.size())
+        if (!contains(part->names, name))
         {
-            target = &bindCopy(*target, own);
-        }
-        if (std::find(targets.begin(), targets.end(), target) == targets.end())
-        {
-            targets.push_back(target);
+            part->names.push_back(name);
+            absent += known == nullptr ? 1 : 0;
         }
     }
-    return targets;
+    for (Part& part : parts)
+    {
+        // Absent names join the record of the first one, whose part is the first as well.
+        const std::size_t joining = &part == parts.data() ? absent : 0;
+        part.isWhole = joining == 0 && part.names.size() == part.record->names.size();
+    }
+    return parts;
 }
 
 OptionResultTable::RecordPointer OptionResultTable::makeRecord(Names names)
@@ -261,38 +269,36 @@ OptionResultTable::RecordPointer OptionResultTable::makeRecord(Names names)
     return stored;
 }
 
-StoredOption& OptionResultTable::bindCopy(const StoredOption& from, Names names)
+OptionResultTable::RecordPointer OptionResultTable::copyRecord(const StoredOption& from,
+                                                               Names names)
 {
-    RecordPointer stored = makeRecord(names);
-    reserveFor(*stored);
-    StoredOption& copy = *stored;
-    makeRoom(copy, from.positions.size(), from.values.size());
+    RecordPointer copy = makeRecord(names);
+    makeRoom(*copy, from.positions.size(), from.values.size());
     for (const std::int32_t position : from.positions)
     {
-        copy.positions.push_back(position);
+        copy->positions.push_back(position);
     }
     for (const StoredValue& value : from.values)
     {
-        copy.values.push_back(value);
+        copy->values.push_back(value);
     }
-    copy.defaultText = from.defaultText;
-    copy.defaultValue = from.defaultValue;
-    copy.defaultPosition = from.defaultPosition;
-    return bind(std::move(stored));
+    copy->defaultText = from.defaultText;
+    copy->defaultValue = from.defaultValue;
+    copy->defaultPosition = from.defaultPosition;
+    return copy;
 }
 
-// Makes room in the tables for a record and its names.
-void OptionResultTable::reserveFor(const StoredOption& stored)
+// Makes room in the tables.
+void OptionResultTable::reserveFor(std::size_t names, std::size_t records)
 {
-    const std::size_t count = stored.names.size();
-    if (m_names.size() + count > m_room)
+    if (m_names.size() + names > m_room)
     {
-        const std::size_t room = std::max({m_names.size() + count, 2 * m_room, expected_names});
+        const std::size_t room = std::max({m_names.size() + names, 2 * m_room, expected_names});
         m_names.reserve(room);
         m_slots.rebuild(room, m_names.size(), textOf());
         m_room = room;
     }
-    reserveMore(m_records, 1, expected_names);
+    reserveMore(m_records, records, expected_names);
 }
 
 StoredOption& OptionResultTable::bind(RecordPointer stored) noexcept

@@ -98,16 +98,23 @@ private:
     void storeNew(const OptionDescription& option, Fill fill);
     void storeApart(Names names, OptionResult& record);
 
-    // The records of the names, each once and cut loose from names that are not among them. Absent
-    // names join the record of the first.
-    [[nodiscard]] std::vector<StoredOption*> takeRecords(Names names);
+    // Names of one option that share a record: the whole of it, or some of its names, which a copy
+    // cuts loose from the others.
+    struct Part
+    {
+        StoredOption* record = nullptr;
+        std::vector<HashedText> names;
+        bool isWhole = false;
+        RecordPointer copy;
+    };
+    [[nodiscard]] std::vector<Part> partsOf(Names names);
 
     // A record for names, which find it once it is bound to them. `reserveFor` makes the room that
     // binding needs.
     [[nodiscard]] RecordPointer makeRecord(Names names);
-    void reserveFor(const StoredOption& stored);
+    [[nodiscard]] RecordPointer copyRecord(const StoredOption& from, Names names);
+    void reserveFor(std::size_t names, std::size_t records);
     StoredOption& bind(RecordPointer stored) noexcept;
-    StoredOption& bindCopy(const StoredOption& from, Names names);
 
     void makeRoom(StoredOption& target, std::size_t positions, std::size_t values);
     void keepTexts(OptionResult& record);
