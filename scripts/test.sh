@@ -4,8 +4,8 @@
 # sanitizer, then the whole suite under the address and undefined-behaviour sanitizers, natively, and
 # on Windows under Wine.
 #
-#   scripts/test.sh [STEP ...]    run only these steps: format, lint, fuzz, tsan, or the name of a
-#                                 preset
+#   scripts/test.sh [STEP ...]    run only these steps: format, lint, fuzz, tsan, memcheck (not among
+#                                 those run otherwise), or the name of a preset
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -34,6 +34,20 @@ run_fuzzers()
     scripts/fuzz.sh 20
 }
 
+# The unit and interface tests under valgrind. Those that replace the allocation functions keep them.
+run_memcheck()
+{
+    headline "memcheck: the unit and interface tests"
+    local programs=(unit_help unit_options unit_parser unit_recognition unit_result unit_support
+        interface_tests)
+    cmake --preset release >build/release.configure.log
+    cmake --build --preset release -j "$jobs" --target "${programs[@]}" >build/release.build.log
+    printf '%s\n' "${programs[@]}" | xargs -P "$jobs" -I '{}' valgrind --quiet \
+        --leak-check=full --errors-for-leak-kinds=definite,indirect,possible --error-exitcode=1 \
+        --suppressions=tests/valgrind.supp --soname-synonyms=somalloc=nouserintercepts \
+        'build/release/tests/{}' --gtest_brief=1
+}
+
 check_format()
 {
     headline "formatting"
@@ -53,6 +67,7 @@ for step in "${steps[@]}"; do
     lint) headline "static analysis" && scripts/lint.sh ;;
     fuzz) run_fuzzers ;;
     tsan) run_preset tsan faults_threads ;;
+    memcheck) run_memcheck ;;
     *) run_preset "$step" ;;
     esac
 done
