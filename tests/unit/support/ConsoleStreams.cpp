@@ -95,10 +95,11 @@ TEST(ConsoleStreams, ZeroCharactersAreWritten)
 // Streams tell that they end by a character that is none; as a text it has nothing to write.
 TEST(ConsoleStreams, MarkOfTheEndWritesNothingAndEndsNothing)
 {
-    const auto mark = std::char_traits<wchar_t>::to_char_type(std::char_traits<wchar_t>::eof());
     EXPECT_EQ(captureOutput(
-                  [mark]
+                  []
                   {
+                      using Traits = std::char_traits<wchar_t>;
+                      const wchar_t mark = Traits::to_char_type(Traits::eof());
                       std::wostream& out = ucout();
                       out.put(L'a').put(mark).put(L'b');
                       EXPECT_TRUE(out.good());
