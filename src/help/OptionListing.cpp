@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cstdint>
 #include <iterator>
-#include <limits>
 #include <map>
 #include <numeric>
+#include <type_traits>
 
 #include "kexa/option.h"
 
@@ -117,14 +117,14 @@ void sortByName(std::vector<const OptionDescription*>& entries)
     const auto keyOf = [](const OptionDescription* entry) -> Key
     {
         // A text that ends early has zeros there, which are not larger than any character.
-        constexpr auto lowest = static_cast<std::uint32_t>(std::numeric_limits<wchar_t>::min());
+        constexpr std::int64_t lowest =
+            std::is_signed_v<wchar_t> ? -(std::int64_t{1} << (8 * sizeof(wchar_t) - 1)) : 0;
         const std::wstring_view name = entry->primaryName();
         std::uint64_t beginning = 0;
         for (std::size_t position = 0; position < leading; ++position)
         {
-            const std::uint32_t character =
-                position < name.size() ? static_cast<std::uint32_t>(name[position]) - lowest : 0;
-            beginning = beginning << (8 * sizeof(wchar_t)) | character;
+            const std::int64_t above = position < name.size() ? name[position] - lowest : 0;
+            beginning = beginning << (8 * sizeof(wchar_t)) | static_cast<std::uint64_t>(above);
         }
         return {beginning, entry};
     };
