@@ -64,10 +64,6 @@ void appendParagraph(std::wstring& out, std::wstring_view lead, std::wstring_vie
 void continueParagraph(std::wstring& out, std::size_t leadLength, std::wstring_view text,
                        std::size_t indent, std::size_t lineWidth)
 {
-    if (text.empty())
-    {
-        return;
-    }
     if (lineWidth <= indent)
     {
         failForWantOfRoom();

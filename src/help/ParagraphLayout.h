@@ -19,8 +19,8 @@ namespace kexa_3_3
 void appendParagraph(std::wstring& out, std::wstring_view lead, std::wstring_view text,
                      std::size_t indent, std::size_t lineWidth);
 
-// The same behind a lead that `out` ends with. leadLength: its length. An empty text leaves the
-// lead as it is.
+// The same behind a lead that `out` ends with, for a text that is not empty. leadLength: the length
+// of the lead.
 void continueParagraph(std::wstring& out, std::size_t leadLength, std::wstring_view text,
                        std::size_t indent, std::size_t lineWidth);
 
