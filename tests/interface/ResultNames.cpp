@@ -49,8 +49,8 @@ TEST(ResultNames, NameListedTwiceIsOneEntry)
 {
     Host host;
     host.addOption(L"name,name");
-    ASSERT_EQ(host.parse({L"--name=1"}), 0);
-    EXPECT_EQ(host.texts(L"name"), Texts{L"1"});
+    ASSERT_EQ(host.parse({L"--name=1", L"--name=2"}), 0);
+    EXPECT_EQ(host.texts(L"name"), (Texts{L"1", L"2"}));
 }
 
 TEST(ResultNames, DefaultIsKnownByEveryName)
