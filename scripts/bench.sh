@@ -12,9 +12,8 @@ results=build/bench/results
 
 headline() { printf '\n== %s\n' "$*" >&2; }
 
-scripts/install-packages.sh \
-    cmake ninja-build g++ python3 valgrind binutils libbenchmark-dev \
-    libcli11-dev libcxxopts-dev libboost-program-options-dev libtclap-dev libargs-dev libpopt-dev
+mapfile -t peers <benchmarks/packages.txt
+scripts/install-packages.sh cmake ninja-build g++ python3 valgrind binutils "${peers[@]}"
 
 headline "building"
 mkdir -p build

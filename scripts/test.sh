@@ -1,16 +1,16 @@
 #!/usr/bin/env bash
 # Installs what is missing (Debian packages), then builds and tests everything: checks the formatting,
-# looks for mistakes, runs the fuzz targets for some seconds and what has threads under the thread
-# sanitizer, then the whole suite under the address and undefined-behaviour sanitizers, natively, and
-# on Windows under Wine.
+# looks for mistakes, runs the fuzz targets for some seconds, every benchmark for a moment and what has
+# threads under the thread sanitizer, then the whole suite under the address and undefined-behaviour
+# sanitizers, natively, and on Windows under Wine.
 #
-#   scripts/test.sh [STEP ...]    run only these steps: format, lint, fuzz, tsan, memcheck (not among
-#                                 those run otherwise), or the name of a preset
+#   scripts/test.sh [STEP ...]    run only these steps: format, lint, fuzz, bench, tsan, memcheck (not
+#                                 among those run otherwise), or the name of a preset
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 jobs=$(nproc)
-all_steps=(format lint fuzz tsan asan release mingw)
+all_steps=(format lint fuzz bench tsan asan release mingw)
 steps=("$@")
 [ ${#steps[@]} -gt 0 ] || steps=("${all_steps[@]}")
 
@@ -55,10 +55,14 @@ check_format()
     echo "formatted as .clang-format asks"
 }
 
-scripts/install-packages.sh \
-    cmake ninja-build g++ clang clang-format libclang-rt-dev llvm git python3 binutils diffutils \
-    valgrind libgtest-dev libgmock-dev googletest zlib1g-dev \
-    g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64
+packages=(
+    cmake ninja-build g++ clang clang-format libclang-rt-dev llvm git python3 binutils diffutils
+    valgrind libgtest-dev libgmock-dev googletest zlib1g-dev
+    g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64)
+if [[ " ${steps[*]} " == *" bench"* ]]; then
+    mapfile -t -O "${#packages[@]}" packages <benchmarks/packages.txt
+fi
+scripts/install-packages.sh "${packages[@]}"
 mkdir -p build
 
 for step in "${steps[@]}"; do
@@ -66,6 +70,7 @@ for step in "${steps[@]}"; do
     format) check_format ;;
     lint) headline "static analysis" && scripts/lint.sh ;;
     fuzz) run_fuzzers ;;
+    bench) run_preset bench-smoke ;;
     tsan) run_preset tsan faults_threads ;;
     memcheck) run_memcheck ;;
     *) run_preset "$step" ;;
