@@ -11,19 +11,6 @@
 namespace kexa_3_3
 {
 
-namespace
-{
-
-// The calls of one event still hold when a handler adds or removes handlers, itself too: the next
-// handler to call is found by address each time.
-EventHandler* handlerBehind(const std::set<EventHandler*>& handlers, EventHandler* last)
-{
-    const auto next = last == nullptr ? handlers.begin() : handlers.upper_bound(last);
-    return next == handlers.end() ? nullptr : *next;
-}
-
-} // namespace
-
 result_t createParser(IParser** out, int flags)
 {
     try
@@ -69,56 +56,36 @@ result_t BasicParser::createParseResult(IParseResult** out)
 
 bool BasicParser::onOptionParsed(const wchar_t* name)
 {
-    if (!m_handlers.empty())
-    {
-        const wchar_t* const interned = m_strings.intern(name);
-        for (EventHandler* handler = nullptr;
-             (handler = handlerBehind(m_handlers, handler)) != nullptr;)
-        {
-            static_cast<void>(handler->onOptionParsed(interned));
-        }
-    }
-    return true;
+    return m_events.empty() || m_events.onOptionParsed(textForHandlers(viewOf(name)));
 }
 
 bool BasicParser::onValueParsed(const wchar_t* name, const ValueRecord* value)
 {
-    bool accepted = true;
-    if (!m_handlers.empty())
-    {
-        const wchar_t* const interned = m_strings.intern(name);
-        for (EventHandler* handler = nullptr;
-             accepted && (handler = handlerBehind(m_handlers, handler)) != nullptr;)
-        {
-            accepted = handler->onValueParsed(interned, value);
-        }
-    }
-    return accepted;
+    return m_events.empty() || m_events.onValueParsed(textForHandlers(viewOf(name)), value);
 }
 
 bool BasicParser::onUnknownArgument(const wchar_t* argument)
 {
-    bool unknown = true;
-    if (!m_handlers.empty())
-    {
-        const wchar_t* const interned = m_strings.intern(argument);
-        for (EventHandler* handler = nullptr;
-             (handler = handlerBehind(m_handlers, handler)) != nullptr;)
-        {
-            unknown = handler->onUnknownArgument(interned) && unknown;
-        }
-    }
-    return unknown;
+    return m_events.empty() || m_events.onUnknownArgument(textForHandlers(viewOf(argument)));
+}
+
+// A copy of the text that lives as long as the parser, the same for equal texts. Of an option's
+// name that is the one declared, which a parse hands on as it is.
+const wchar_t* BasicParser::textForHandlers(std::wstring_view text)
+{
+    const OptionDescription* const option = m_options.find(text);
+    return option != nullptr && option->primaryName() == text ? option->primaryName().data()
+                                                              : m_strings.internText(text).data();
 }
 
 bool BasicParser::addEventHandler(EventHandler* handler)
 {
-    return handler != nullptr && m_handlers.insert(handler).second;
+    return m_events.add(handler);
 }
 
 bool BasicParser::removeEventHandler(EventHandler* handler)
 {
-    return m_handlers.erase(handler) != 0;
+    return m_events.remove(handler);
 }
 
 // Declares an option; running out of memory is a failed declaration like any other.

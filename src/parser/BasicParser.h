@@ -11,6 +11,7 @@
 
 #include "options/RegisteredOptionStorage.h"
 #include "parser/ActionCheck.h"
+#include "parser/EventForwarding.h"
 #include "recognition/ArgumentQueue.h"
 #include "support/Garbage.h"
 #include "support/InlineBlock.h"
@@ -28,7 +29,8 @@ public:
     BasicParser(const BasicParser&) = delete;
     BasicParser& operator=(const BasicParser&) = delete;
 
-    // Events are forwarded to the registered handlers, by ascending address.
+    // Forwarded to the registered handlers, the texts being copied first: these are told by others
+    // than the parse, such as a parser of which this one is a handler.
     bool onOptionParsed(const wchar_t* name) override;
     bool onValueParsed(const wchar_t* name, const ValueRecord* value) override;
     bool onUnknownArgument(const wchar_t* argument) override;
@@ -76,6 +78,7 @@ private:
                                                       Arguments& arguments, IParseResult* result,
                                                       ParseResult* leftOver, std::wstring& message);
     [[nodiscard]] bool takesUnknown(std::wstring_view argument);
+    [[nodiscard]] const wchar_t* textForHandlers(std::wstring_view text);
     void storeDefaults(IParseResult& result) const;
 
     template <class Declare>
@@ -88,7 +91,7 @@ private:
     RegisteredOptionStorage m_options;
     std::wstring m_errorMessage;
     std::int32_t m_flags;
-    std::set<EventHandler*> m_handlers; // not owned
+    EventForwarding m_events; // told of a parse; its texts lie in m_strings already
     bool m_optionFilesEnabled = false;
     ActionGroups m_compatibleActions;
 };

@@ -156,8 +156,8 @@ result_t BasicParser::parseVector(std::wstring_view endMarker, Arguments& argume
 {
     switchTraceBy(arguments);
     const auto flags = static_cast<std::uint32_t>(m_flags);
-    PositionalOptionsParser positional(*this, m_strings, flags);
-    AbbreviationParser abbreviation(*this, m_strings, flags);
+    PositionalOptionsParser positional(m_events, m_strings, flags);
+    AbbreviationParser abbreviation(m_events, m_strings, flags);
     const std::array<IArgumentParser*, 2> chain = {&positional, &abbreviation};
     IResultCollector* const collector = fillable(result);
 
@@ -193,8 +193,7 @@ bool BasicParser::takesUnknown(std::wstring_view argument)
 {
     const bool isError = (m_flags & flag_unknown_is_error) != 0;
     // An argument is terminated only where the host's is: the handlers get a text of the pool.
-    const bool unknown =
-        m_handlers.empty() || onUnknownArgument(m_strings.internText(argument).data());
+    const bool unknown = m_events.empty() || m_events.onUnknownArgument(textForHandlers(argument));
     return !(isError && unknown);
 }
 
@@ -209,7 +208,7 @@ result_t BasicParser::collectNonparsingArguments(std::wstring_view endMarker, Ar
     {
         flags &= ~static_cast<std::uint32_t>(flag_no_hyphen_positional);
     }
-    PositionalOptionsParser positional(*this, m_strings, flags);
+    PositionalOptionsParser positional(m_events, m_strings, flags);
     IResultCollector* const collector = fillable(result);
 
     ArgumentQueue queue(arguments);

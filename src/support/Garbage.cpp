@@ -17,12 +17,8 @@ const wchar_t* Garbage::intern(const wchar_t* text)
 std::wstring_view Garbage::internText(std::wstring_view text)
 {
     text = text.substr(0, text.find(L'\0'));
-    if (text != m_last || m_last.data() == nullptr)
-    {
-        const auto found = m_interned.find(text);
-        m_last = found != m_interned.end() ? *found : *m_interned.insert(keep(text)).first;
-    }
-    return m_last;
+    const auto found = m_interned.find(text);
+    return found != m_interned.end() ? *found : *m_interned.insert(keep(text)).first;
 }
 
 std::wstring_view Garbage::adoptText(std::wstring&& text)
@@ -35,7 +31,7 @@ std::wstring_view Garbage::adoptText(std::wstring&& text)
     }
     // A text that long lies in memory of its own, which moves with the string.
     m_taken.push_front(std::move(text));
-    return m_last = *m_interned.insert(whole).first;
+    return *m_interned.insert(whole).first;
 }
 
 } // namespace kexa_3_3

@@ -67,7 +67,6 @@ private:
     Arena m_memory;
     std::forward_list<std::wstring> m_taken;
     std::pmr::set<std::wstring_view> m_interned;
-    std::wstring_view m_last; // interned last: the events of one argument ask for one name
 };
 
 } // namespace kexa_3_3

@@ -66,6 +66,57 @@ TEST_F(ParseEvents, ARecordCarriesThePositionThatTheResultReports)
                                                             {L"b", value_type_string, base + 1}}));
 }
 
+TEST_F(ParseEvents, AnOptionIsNamedByOneTextInAllEvents)
+{
+    std::vector<const wchar_t*> texts;
+    handler.answerOption = [&](const wchar_t* name)
+    {
+        texts.push_back(name);
+        return true;
+    };
+    handler.answerValue = [&](const wchar_t* name, const ValueRecord& value)
+    {
+        texts.push_back(name);
+        texts.push_back(value.optionName);
+        return true;
+    };
+    EXPECT_EQ(host.parse({L"-n", L"a"}), 0);
+    EXPECT_EQ(host.parse({L"--count=7", L"--name=b"}), 0);
+    host.parser().onOptionParsed(std::wstring(L"name").c_str());
+    host.parser().onOptionParsed(std::wstring(L"count").c_str());
+
+    ASSERT_EQ(texts.size(), 11U);
+    const wchar_t* const name = texts[0];
+    const wchar_t* const count = texts[3];
+    EXPECT_STREQ(name, L"name");
+    EXPECT_STREQ(count, L"count");
+    EXPECT_EQ(texts, (std::vector<const wchar_t*>{name, name, name, count, count, count, name, name,
+                                                  name, name, count}));
+}
+
+TEST_F(ParseEvents, NamesOutliveManyParsesAndDeclarations)
+{
+    std::vector<const wchar_t*> names;
+    handler.answerOption = [&](const wchar_t* name)
+    {
+        names.push_back(name);
+        return true;
+    };
+    for (int number = 0; number < 500; ++number)
+    {
+        const std::wstring later = L"later" + std::to_wstring(number);
+        host.addOption(later.c_str());
+        EXPECT_EQ(host.parse({L"--name=a", (L"--" + later + L"=b").c_str()}), 0);
+    }
+    ASSERT_EQ(names.size(), 1000U);
+    for (int number = 0; number < 500; ++number)
+    {
+        const auto index = static_cast<std::size_t>(number) * 2;
+        EXPECT_STREQ(names[index], L"name");
+        EXPECT_EQ(names[index + 1], L"later" + std::to_wstring(number));
+    }
+}
+
 TEST_F(ParseEvents, AFailedConversionSendsNoValue)
 {
     EXPECT_EQ(host.parse({L"--count=x"}), 2);
