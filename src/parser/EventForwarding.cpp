@@ -25,47 +25,39 @@ bool EventForwarding::remove(EventHandler* handler)
 
 bool EventForwarding::onOptionParsed(const wchar_t* name)
 {
-    tellEach(
-        [name](EventHandler& handler)
-        {
-            static_cast<void>(handler.onOptionParsed(name));
-            return true;
-        });
+    for (std::size_t place = 0; place < m_handlers.size();)
+    {
+        EventHandler* const handler = m_handlers[place];
+        static_cast<void>(handler->onOptionParsed(name));
+        place = placeBehind(place, handler);
+    }
     return true;
 }
 
 bool EventForwarding::onValueParsed(const wchar_t* name, const ValueRecord* value)
 {
-    bool accepted = true;
-    tellEach([&](EventHandler& handler) { return accepted = handler.onValueParsed(name, value); });
-    return accepted;
+    for (std::size_t place = 0; place < m_handlers.size();)
+    {
+        EventHandler* const handler = m_handlers[place];
+        if (!handler->onValueParsed(name, value))
+        {
+            return false;
+        }
+        place = placeBehind(place, handler);
+    }
+    return true;
 }
 
 bool EventForwarding::onUnknownArgument(const wchar_t* argument)
 {
     bool unknown = true;
-    tellEach(
-        [&](EventHandler& handler)
-        {
-            unknown = handler.onUnknownArgument(argument) && unknown;
-            return true;
-        });
-    return unknown;
-}
-
-// Goes on as long as `tell` answers true.
-template <class Tell>
-void EventForwarding::tellEach(Tell tell)
-{
     for (std::size_t place = 0; place < m_handlers.size();)
     {
         EventHandler* const handler = m_handlers[place];
-        if (!tell(*handler))
-        {
-            return;
-        }
-        place = isAt(place, handler) ? place + 1 : placeAbove(handler);
+        unknown = handler->onUnknownArgument(argument) && unknown;
+        place = placeBehind(place, handler);
     }
+    return unknown;
 }
 
 // The place of the first handler with a higher address.

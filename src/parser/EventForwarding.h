@@ -36,14 +36,12 @@ public:
     bool onUnknownArgument(const wchar_t* argument) override;
 
 private:
-    template <class Tell>
-    void tellEach(Tell tell);
-
-    // The handler that was called may have added and removed handlers, and may be gone itself;
-    // where it stands as before, so do those behind it.
-    [[nodiscard]] bool isAt(std::size_t place, const EventHandler* handler) const noexcept
+    // Where to go on behind the handler that was called. It may have added and removed handlers,
+    // and may be gone itself; where it stands as before, so do those behind it.
+    [[nodiscard]] std::size_t placeBehind(std::size_t place, EventHandler* handler) const
     {
-        return place < m_handlers.size() && m_handlers[place] == handler;
+        const bool stands = place < m_handlers.size() && m_handlers[place] == handler;
+        return stands ? place + 1 : placeAbove(handler);
     }
     [[nodiscard]] std::size_t placeAbove(EventHandler* handler) const;
 
