@@ -13,51 +13,59 @@ namespace kexa_3_3
 // and not to withstand an enemy who chooses what is stored.
 [[nodiscard]] inline std::uint64_t hashOf(std::wstring_view text) noexcept
 {
-    // Words of eight bytes are multiplied by odd numbers and folded. One is the golden ratio's,
-    // which spreads small differences over the upper bits (D. E. Knuth, The Art of Computer
-    // Programming, 6.4), the other has no pattern. The last words overlap those before them, which
-    // spares a loop over what is left.
+    // Two words of eight bytes at a time are multiplied by odd numbers and folded. One is the
+    // golden ratio's, which spreads small differences over the upper bits (D. E. Knuth, The Art of
+    // Computer Programming, 6.4), the other has no pattern. The last words overlap those before
+    // them, which spares a loop over what is left.
     constexpr std::uint64_t first_multiplier = 0x9E3779B97F4A7C15;
     constexpr std::uint64_t second_multiplier = 0xC2B2AE3D27D4EB4F;
     constexpr std::size_t characters = sizeof(std::uint64_t) / sizeof(wchar_t); // in a word
-    const auto wordAt = [text](std::size_t position)
+    const wchar_t* front = text.data();
+    const std::size_t length = text.size();
+    const auto wordAt = [](const wchar_t* position)
     {
         std::uint64_t value = 0;
-        std::memcpy(&value, text.data() + position, sizeof(value));
+        std::memcpy(&value, position, sizeof(value));
         return value;
     };
-    const std::size_t length = text.size();
+    const auto mix = [](std::uint64_t hash, std::uint64_t first, std::uint64_t second)
+    {
+        hash = (hash ^ (first * second_multiplier) ^ second) * first_multiplier;
+        return hash ^ (hash >> 32);
+    };
+    const auto mixLast = [mix](std::uint64_t hash, std::uint64_t first, std::uint64_t second)
+    {
+        hash = mix(hash, first, second) * second_multiplier;
+        return hash ^ (hash >> 32);
+    };
     std::uint64_t hash = length * first_multiplier;
-    std::uint64_t front = 0;
-    std::uint64_t back = 0;
+    if (length >= 2 * characters)
+    {
+        const wchar_t* const back = front + (length - 2 * characters);
+        for (; front < back; front += 2 * characters)
+        {
+            hash = mix(hash, wordAt(front), wordAt(front + characters));
+        }
+        return mixLast(hash, wordAt(back), wordAt(back + characters));
+    }
     if (length >= characters)
     {
-        std::size_t position = 0;
-        for (; length - position > 2 * characters; position += 2 * characters)
-        {
-            hash = (hash ^ (wordAt(position) * second_multiplier) ^ wordAt(position + characters)) *
-                   first_multiplier;
-            hash ^= hash >> 32;
-        }
-        back = wordAt(length - characters);
-        front = length - position > characters ? wordAt(position) : back;
+        return mixLast(hash, wordAt(front), wordAt(front + (length - characters)));
     }
-    else
+    std::uint64_t word = 0;
+    for (const wchar_t character : text)
     {
-        for (const wchar_t character : text)
-        {
-            front = front << 16 ^ static_cast<std::uint64_t>(character);
-        }
+        word = word << 16 ^ static_cast<std::uint64_t>(character);
     }
-    hash = (hash ^ (front * second_multiplier)) * first_multiplier;
-    hash = ((hash ^ (hash >> 32)) ^ back) * second_multiplier;
-    return hash ^ (hash >> 32);
+    return mixLast(hash, word, 0);
 }
 
 // For texts that are looked for again and again.
 class HashedText : public std::wstring_view
 {
 public:
+    HashedText() noexcept = default; // empty
+
     explicit HashedText(std::wstring_view text) noexcept
         : std::wstring_view(text), m_hash(hashOf(text))
     {
@@ -78,7 +86,7 @@ public:
     }
 
 private:
-    std::uint64_t m_hash;
+    std::uint64_t m_hash = 0; // which is that of an empty text
 };
 
 } // namespace kexa_3_3
