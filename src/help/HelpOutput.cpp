@@ -92,8 +92,10 @@ std::wstring formatRelatedHelp(const RegisteredOptionStorage& options, const wch
         return notAvailable(options, topic, hidden);
     }
     return listMatching(options, hidden,
-                        [found](const OptionDescription& option)
-                        { return &option != found && shareKeyword(option, *found); });
+                        [found](const OptionDescription& option) {
+                            return &option != found &&
+                                   shareKeyword(option.keywords, found->keywords);
+                        });
 }
 
 std::wstring formatFullHelp(const RegisteredOptionStorage& options, bool hidden)

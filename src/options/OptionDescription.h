@@ -5,8 +5,6 @@
 #include <cstdint>
 #include <map>
 #include <memory>
-#include <memory_resource>
-#include <set>
 #include <span>
 #include <string>
 #include <string_view>
@@ -16,9 +14,11 @@
 #include "kexa/option.h"
 
 #include "options/AllowedValueIndex.h"
+#include "options/KeywordSet.h"
+#include "options/Lazy.h"
 #include "options/NotCopied.h"
 #include "options/OptionIndex.h"
-#include "support/HashedText.h"
+#include "options/OptionNames.h"
 
 namespace kexa_3_3
 {
@@ -29,6 +29,16 @@ inline constexpr std::int32_t no_value_type = vexkit2::kind_null;
 inline constexpr std::wstring_view hidden_group = L"kexa_hidden";
 inline constexpr std::wstring_view positional_keyword = L"kexa_positional_option";
 
+// Which values an option accepts, where it does not accept all of its type.
+struct ValueRestriction
+{
+    std::vector<vexkit2::variant_t> allowedValues;
+    std::map<vexkit2::variant_t, vexkit2::variant_t> deprecatedValues;
+
+    // The candidates for a typed value. Made on first use after a change of them.
+    mutable NotCopied<std::unique_ptr<AllowedValueIndex>> index;
+};
+
 // Changed by the host through IOption; the rest of the library reads the members. Texts live in the
 // owner's pool, so as long as the parser, and are terminated by a zero.
 class OptionDescription final : public IOption
@@ -37,8 +47,13 @@ public:
     // group:    the option's group and the text of that group.
     // isSwitch: whether the option is an action, which takes no value.
     // owner:    keeps the texts; lives longer than the option.
-    OptionDescription(const std::pair<std::wstring_view, std::wstring_view>& group, bool isSwitch,
-                      Garbage& owner);
+    // names:    lie in the memory of the owner.
+    OptionDescription(const std::pair<std::wstring_view, std::wstring_view>& group_, bool isSwitch,
+                      Garbage& owner_, std::span<HashedText> names_ = {}) noexcept
+        : names(names_), group(group_.first), groupText(group_.second), valueMode(isSwitch ? 0 : 1),
+          owner(&owner_)
+    {
+    }
     ~OptionDescription() override = default;
 
     // A copy is a description by itself: no table of options learns of its names.
@@ -67,28 +82,45 @@ public:
         return takesValue() && (marked || hasPositionalKeyword());
     }
 
-    // Sets the names of a new option. Their texts lie in the owner's pool already.
-    void setNames(std::span<const OptionIndex::NewName> newNames);
-
     // Makes the option known to an index, which from then on learns of further names and of the
     // option becoming positional. table index: the option's place in the table of options, which
     // no other has. Throws std::bad_alloc, and the index is unchanged then.
     void enterInto(OptionIndex& index, std::size_t tableIndex);
 
-    // The same for names that the index has made room for, which are those set.
+    // The same where the index has made room.
+    //
+    // slots: of the names, as the index tells them.
     void enterInto(OptionIndex& index, std::size_t tableIndex,
-                   std::span<const OptionIndex::NewName> newNames) noexcept;
+                   std::span<const std::size_t> slots) noexcept;
 
     // The index that it was entered into, or null, and its place in the table beside that.
     [[nodiscard]] const OptionIndex* index() const noexcept { return m_place.held.index; }
     [[nodiscard]] std::size_t tableIndex() const noexcept { return m_place.held.tableIndex; }
 
-    // The candidates for a typed value. Made on first use after a change of them.
+    // Null where no allowed and no deprecated value was declared.
+    [[nodiscard]] const ValueRestriction* restriction() const noexcept
+    {
+        return m_restriction.get();
+    }
+    [[nodiscard]] std::span<const vexkit2::variant_t> allowedValues() const noexcept
+    {
+        using Values = std::span<const vexkit2::variant_t>;
+        return restriction() == nullptr ? Values() : Values(restriction()->allowedValues);
+    }
+
+    // The candidates for a typed value of an option that has a restriction.
     [[nodiscard]] const AllowedValueIndex& allowedValueIndex() const;
 
+    // Whether it holds anything beside what lies in the owner's memory. Where it does not, nothing
+    // is lost when it is never destroyed.
+    [[nodiscard]] bool holdsValues() const noexcept
+    {
+        return hasDefault || restriction() != nullptr;
+    }
+
     std::int32_t kind = 0;
-    std::pmr::vector<HashedText> names;
-    std::pmr::set<std::wstring_view> keywords;
+    OptionNames names;
+    KeywordSet keywords;
     std::wstring_view group;
     std::wstring_view groupText;
     std::wstring_view description;
@@ -98,8 +130,6 @@ public:
     wchar_t separator = L',';
     std::int32_t valueType = no_value_type;
     vexkit2::variant_t defaultValue;
-    std::vector<vexkit2::variant_t> allowedValues;
-    std::map<vexkit2::variant_t, vexkit2::variant_t> deprecatedValues;
     Garbage* owner;
 
 private:
@@ -109,14 +139,14 @@ private:
         std::size_t tableIndex = 0;
     };
 
-    [[nodiscard]] bool hasPositionalKeyword() const;
+    [[nodiscard]] bool hasPositionalKeyword() const
+    {
+        return !keywords.empty() && keywords.contains(positional_keyword);
+    }
     void notePositional();
 
     NotCopied<Place> m_place;
-    mutable NotCopied<std::unique_ptr<AllowedValueIndex>> m_allowedValueIndex;
+    Lazy<ValueRestriction> m_restriction;
 };
-
-// Whether two options have a keyword in common.
-[[nodiscard]] bool shareKeyword(const OptionDescription& left, const OptionDescription& right);
 
 } // namespace kexa_3_3

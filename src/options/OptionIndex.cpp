@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <atomic>
 #include <iterator>
+#include <memory>
+#include <new>
 #include <tuple>
 
 #include "support/Text.h"
@@ -34,38 +36,40 @@ std::uint64_t newIdentity() noexcept
 } // namespace
 
 OptionIndex::OptionIndex(std::pmr::memory_resource& memory) noexcept
-    : m_identity(newIdentity()), m_names(&memory), m_slots(memory)
+    : m_identity(newIdentity()), m_memory(&memory), m_slots(memory)
 {
 }
 
 void OptionIndex::grow(std::size_t count)
 {
-    const std::size_t room = std::max({m_names.size() + count, 2 * m_names.size(), expected_names});
-    m_names.reserve(room);
-    m_slots.rebuild(room, m_names.size(), textOf());
-    m_room = room;
+    const std::size_t room = std::max({m_count + count, std::size_t{2} * m_room, expected_names});
+    if (room > no_option)
+    {
+        throw std::bad_alloc();
+    }
+    m_slots.reserve(room);
+    void* const memory = m_memory->allocate(room * sizeof(Name), alignof(Name));
+    Name* const names = static_cast<Name*>(memory);
+    std::uninitialized_copy_n(m_names, m_count, names);
+    free();
+    m_names = names;
+    m_room = static_cast<std::uint32_t>(room);
 }
 
-void OptionIndex::add(const HashedText& name, std::size_t option, std::size_t position,
-                      bool boolean, std::size_t slot) noexcept
+void OptionIndex::free() noexcept
 {
-    slot = m_slots.slotFrom(slot, name, textOf());
-    const auto index = static_cast<std::uint32_t>(option);
-    const std::uint32_t known = m_slots.numberAt(slot);
-    if (known == TextSlots::absent)
+    if (m_names != nullptr)
     {
-        m_slots.put(slot, static_cast<std::uint32_t>(m_count), name);
+        m_memory->deallocate(m_names, m_room * sizeof(Name), alignof(Name));
     }
-    else
-    {
-        Name& first = m_names[known];
-        first.first = std::min(first.first, index);
-        first.firstBoolean = std::min(first.firstBoolean, boolean ? index : no_option);
-        m_sharesNames = true;
-    }
-    m_names.push_back({name, index, static_cast<std::uint32_t>(position & 0x7FFFFFFF),
-                       boolean ? 1U : 0U, index, boolean ? index : no_option});
-    ++m_count;
+}
+
+// Notes that a further option has a name that is known.
+void OptionIndex::share(Name& known, std::uint32_t option, bool boolean) noexcept
+{
+    known.first = std::min(known.first, option);
+    known.firstBoolean = std::min(known.firstBoolean, boolean ? option : no_option);
+    m_sharesNames = true;
 }
 
 const OptionIndex::Name* OptionIndex::find(const HashedText& text) const noexcept
@@ -100,7 +104,7 @@ std::int64_t OptionIndex::findAnswering(std::wstring_view text) const noexcept
 
 void OptionIndex::sortNames() const
 {
-    if (m_sorted.size() == m_names.size())
+    if (m_sorted.size() == m_count)
     {
         return;
     }
@@ -111,11 +115,12 @@ void OptionIndex::sortNames() const
     };
     const auto known = static_cast<std::ptrdiff_t>(m_sorted.size());
     std::vector<SortedName> sorted(m_sorted);
-    sorted.reserve(m_names.size());
-    std::transform(m_names.begin() + known, m_names.end(), std::back_inserter(sorted),
-                   [](const Name& name) -> SortedName {
-                       return {name.text, name.option, name.position, name.boolean};
-                   });
+    sorted.reserve(m_count);
+    for (auto number = static_cast<std::uint32_t>(m_sorted.size()); number < m_count; ++number)
+    {
+        const Name& name = m_names[number];
+        sorted.push_back({*name.text, name.option, name.boolean, number});
+    }
     std::sort(sorted.begin() + known, sorted.end(), before);
     std::inplace_merge(sorted.begin(), sorted.begin() + known, sorted.end(), before);
     std::vector<SortedName> booleans;
@@ -177,7 +182,7 @@ std::vector<std::wstring> OptionIndex::listPrefix(std::wstring_view beginning) c
     {
         for (const SortedName* name = range.begin; name != range.end; ++name)
         {
-            matches.emplace_back(name->option, name->position, negated, name->text);
+            matches.emplace_back(name->option, name->number, negated, name->text);
         }
     };
     sortNames();
@@ -187,7 +192,7 @@ std::vector<std::wstring> OptionIndex::listPrefix(std::wstring_view beginning) c
 
     std::vector<std::wstring> texts;
     texts.reserve(matches.size());
-    for (const auto& [option, position, negated, text] : matches)
+    for (const auto& [option, number, negated, text] : matches)
     {
         texts.push_back(concatenate({negated ? negation : std::wstring_view(), text}));
     }

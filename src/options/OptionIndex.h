@@ -36,30 +36,29 @@ class OptionIndex
 
     struct Name
     {
-        HashedText text;
-        std::uint32_t option = 0;
-        std::uint32_t position : 31 = 0;
-        std::uint32_t boolean : 1 = 0;
+        const HashedText* text;
+        std::uint32_t option : 31;
+        std::uint32_t boolean : 1;
 
         // The first options with this text as a name, and the first boolean one. Kept in the name
         // that was added first where several have one text.
-        std::uint32_t first = no_option;
-        std::uint32_t firstBoolean = no_option;
+        std::uint32_t first;
+        std::uint32_t firstBoolean;
     };
 
     struct SortedName
     {
         std::wstring_view text;
-        std::uint32_t option;
-        std::uint32_t position : 31;
+        std::uint32_t option : 31;
         std::uint32_t boolean : 1;
+        std::uint32_t number; // of m_names
     };
 
     [[nodiscard]] auto textOf() const noexcept
     {
         return [this](std::uint32_t number) -> const HashedText&
         {
-            return m_names[number].text;
+            return *m_names[number].text;
         };
     }
     [[nodiscard]] static std::int64_t indexOf(std::uint32_t option) noexcept
@@ -85,7 +84,7 @@ public:
     // memory: lives longer than the index.
     explicit OptionIndex(
         std::pmr::memory_resource& memory = *std::pmr::get_default_resource()) noexcept;
-    ~OptionIndex() = default;
+    ~OptionIndex() { free(); }
     OptionIndex(const OptionIndex&) = delete;
     OptionIndex& operator=(const OptionIndex&) = delete;
 
@@ -94,13 +93,6 @@ public:
 
     // Whether some name was added twice, of one option or of two.
     [[nodiscard]] bool sharesNames() const noexcept { return m_sharesNames; }
-
-    // A text that is to become a name, and its place found by `slotOf`.
-    struct NewName
-    {
-        HashedText text;
-        std::size_t slot = 0;
-    };
 
     // Makes room for `count` names more, which adding them needs. Throws std::bad_alloc.
     void reserve(std::size_t count)
@@ -111,12 +103,11 @@ public:
         }
     }
 
-    // Adds a name. name: kept alive and unchanged by the caller. option: its index. position: the
-    // name's place among those of the option.
-    void add(const HashedText& name, std::size_t option, std::size_t position,
-             bool boolean) noexcept
+    // Adds a name, behind those that the option has already. name: stays where it is, unchanged, as
+    // long as the index lives. option: its index.
+    void add(const HashedText& name, std::size_t option, bool boolean) noexcept
     {
-        add(name, option, position, boolean, slotOf(name));
+        add(name, option, boolean, slotOf(name));
     }
 
     // Where a name is or would be. Needs room made by `reserve`, and is good until more is made.
@@ -125,11 +116,25 @@ public:
     {
         return m_slots.slotOf(name, textOf());
     }
-    void add(const HashedText& name, std::size_t option, std::size_t position, bool boolean,
-             std::size_t slot) noexcept;
-    [[nodiscard]] bool isTaken(const NewName& name) const noexcept
+    [[nodiscard]] bool isTaken(std::size_t slot) const noexcept
     {
-        return m_slots.numberAt(name.slot) != TextSlots::absent;
+        return m_slots.numberAt(slot) != TextSlots::absent;
+    }
+    void add(const HashedText& name, std::size_t option, bool boolean, std::size_t slot) noexcept
+    {
+        const auto index = static_cast<std::uint32_t>(option);
+        slot = m_slots.slotFrom(slot, name, textOf());
+        if (isTaken(slot))
+        {
+            share(m_names[m_slots.numberAt(slot)], index, boolean);
+        }
+        else
+        {
+            m_slots.put(slot, m_count, name);
+        }
+        m_names[m_count] = {&name, index & 0x7FFFFFFF, boolean ? 1U : 0U, index,
+                            boolean ? index : no_option};
+        ++m_count;
     }
 
     // The first option, in table order, with exactly this name.
@@ -152,6 +157,8 @@ public:
 
 private:
     void grow(std::size_t count);
+    void free() noexcept;
+    void share(Name& known, std::uint32_t option, bool boolean) noexcept;
     [[nodiscard]] const Name* find(const HashedText& text) const noexcept;
 
     // Names that begin with a text, as a range of a sorted list.
@@ -173,9 +180,10 @@ private:
 
     std::uint64_t m_identity;
     bool m_sharesNames = false;
-    std::size_t m_room = 0;                           // for names, in both of the following
-    std::size_t m_count = 0;                          // of names
-    std::pmr::vector<Name> m_names;                   // as they were added
+    std::uint32_t m_room = 0;  // for names, in both of the following
+    std::uint32_t m_count = 0; // of names
+    std::pmr::memory_resource* m_memory;
+    Name* m_names = nullptr;                          // as they were added
     TextSlots m_slots;                                // of the first name with each text
     mutable std::vector<SortedName> m_sorted;         // the first of m_names, by text
     mutable std::vector<SortedName> m_sortedBooleans; // those of boolean options

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cwchar>
+#include <memory>
 #include <new>
+#include <span>
 
 #include "support/ConsoleStreams.h"
 #include "support/Garbage.h"
@@ -17,25 +19,40 @@ namespace
 
 constexpr std::int32_t registered = 3;
 constexpr std::int32_t refused = 1;
-constexpr std::size_t most_names = 3;
 constexpr std::size_t longest_short_form = 2;
 constexpr std::size_t expected_options = 32; // room taken at once, for programs of usual size
 constexpr std::size_t largest_table_in_pool = 2048; // bytes; larger ones are freed as they grow
+
+// Whether what is declared, a group with or without a text, is of the group with the name.
+[[nodiscard]] bool namesGroup(const wchar_t* declared, std::wstring_view name) noexcept
+{
+    return std::wcsncmp(declared, name.data(), name.size()) == 0 &&
+           (declared[name.size()] == L':' || declared[name.size()] == L'\0');
+}
+
+template <class T>
+[[nodiscard]] T* placeAt(std::byte* bytes) noexcept
+{
+    return static_cast<T*>(static_cast<void*>(bytes));
+}
 
 } // namespace
 
 RegisteredOptionStorage::RegisteredOptionStorage(Garbage& owner, wchar_t defaultSeparator)
     : m_defaultSeparator(defaultSeparator), m_owner(owner),
       m_memory(owner.memory(), largest_table_in_pool), m_options(&m_memory), m_groupNames(m_memory),
-      m_index(m_memory), m_names(&m_memory)
+      m_index(m_memory)
 {
 }
 
 RegisteredOptionStorage::~RegisteredOptionStorage()
 {
-    for (OptionPointer& option : m_options)
+    for (OptionDescription* const option : m_options) // in the order of declaration
     {
-        option.reset(); // in the order of declaration
+        if (option->holdsValues())
+        {
+            std::destroy_at(option);
+        }
     }
 }
 
@@ -48,26 +65,28 @@ const Registration& RegisteredOptionStorage::registerOption(const wchar_t* names
     m_lastRegistration = {nullptr, refused};
     const Group& group = groupOf(groupText == nullptr ? L"" : groupText);
     const std::wstring_view allNames = viewOf(names);
-    if (!acceptNames(allNames))
+    const std::size_t nameCount = acceptNames(allNames);
+    if (nameCount == 0)
     {
         return m_lastRegistration;
     }
 
-    OptionPointer option = makeOption(group, isSwitch);
-    keepTexts(*option, allNames, viewOf(description));
-    option->valueType = valueType;
-    option->addKeywords(keywords);
+    reserveMore(m_options, 1, expected_options);
+    // What a failure leaves behind lies in the owner's memory, and is nothing to be destroyed.
+    OptionDescription& option =
+        makeOption(group, isSwitch, allNames, nameCount, viewOf(description));
+    option.valueType = valueType;
+    option.addKeywords(keywords);
     if (isSwitch)
     {
-        option->addKeywords(names);
+        option.addKeywords(names);
     }
-    option->separator = m_defaultSeparator;
+    option.separator = m_defaultSeparator;
 
-    reserveMore(m_options, 1, expected_options);
-    option->enterInto(m_index, m_options.size(), m_names);
-    m_lastRegistration = {option.get(), registered};
-    m_options.push_back(std::move(option));
+    option.enterInto(m_index, m_options.size(), std::span(m_slots).first(nameCount));
+    m_options.push_back(&option);
     m_actionCount += isSwitch ? 1 : 0;
+    m_lastRegistration = {&option, registered};
     return m_lastRegistration;
 }
 
@@ -91,14 +110,14 @@ const Registration& RegisteredOptionStorage::registerValueOption(const wchar_t* 
 const OptionDescription* RegisteredOptionStorage::find(const HashedText& name) const noexcept
 {
     const std::int64_t found = m_index.findNamed(name);
-    return found == OptionIndex::none ? nullptr : m_options[static_cast<std::size_t>(found)].get();
+    return found == OptionIndex::none ? nullptr : m_options[static_cast<std::size_t>(found)];
 }
 
 // The group that a declaration names, added to the list where it is new.
 const RegisteredOptionStorage::Group& RegisteredOptionStorage::groupOf(const wchar_t* declared)
 {
     // Declarations of a group usually stand together.
-    if (m_lastGroupText != nullptr && std::wcscmp(m_lastGroupText, declared) == 0)
+    if (m_lastGroup < m_groups.size() && namesGroup(declared, m_groups[m_lastGroup].first))
     {
         return m_groups[m_lastGroup];
     }
@@ -114,30 +133,35 @@ const RegisteredOptionStorage::Group& RegisteredOptionStorage::groupOf(const wch
         m_groups.emplace_back(m_owner.keep(name), m_owner.keep(text));
         number = m_groupNames.insert(HashedText(hashedName, m_groups.back().first));
     }
-    m_lastGroupText = m_owner.internText(groupText).data();
     m_lastGroup = number;
     return m_groups[number];
 }
 
-// Splits the names text into m_names and applies the rules for names.
-bool RegisteredOptionStorage::acceptNames(std::wstring_view names)
+// Splits the names text into m_names and applies the rules for names. Answers how many there are, 0
+// where they are refused.
+std::size_t RegisteredOptionStorage::acceptNames(std::wstring_view names)
 {
-    m_index.reserve(most_names); // so that what is found out about their places stays true
-    m_names.clear();
+    std::size_t count = 0;
     forEachPiece(names, L',',
-                 [this](std::wstring_view name)
+                 [this, &count](std::wstring_view name)
                  {
-                     const HashedText text(name);
-                     m_names.push_back({text, m_index.slotOf(text)});
+                     if (count < most_names)
+                     {
+                         m_names[count] = HashedText(name);
+                     }
+                     ++count;
                  });
-    if (m_names.empty() || m_names.size() > most_names ||
-        (m_names.size() == most_names && m_names.back().text.size() > longest_short_form))
+    if (count > most_names || (count == most_names && m_names.back().size() > longest_short_form))
     {
-        return false;
+        return 0;
     }
-    const bool taken =
-        std::any_of(m_names.begin(), m_names.end(),
-                    [this](const OptionIndex::NewName& name) { return m_index.isTaken(name); });
+    m_index.reserve(count);
+    bool taken = false;
+    for (std::size_t position = 0; position < count; ++position)
+    {
+        m_slots[position] = m_index.slotOf(m_names[position]);
+        taken = taken || m_index.isTaken(m_slots[position]);
+    }
     if (taken)
     {
         // Past the stream: parsers in several threads may be declaring at the same time.
@@ -146,37 +170,39 @@ bool RegisteredOptionStorage::acceptNames(std::wstring_view names)
                          names, L"\n"});
         static_cast<void>(internal::writeConsole(internal::ConsoleTarget::output, line));
     }
-    return !taken;
+    return taken ? 0 : count;
 }
 
-// Copies all names of the declaration at work at once, and the description behind them. Those in
-// m_names then refer to the copies, in which a zero takes the place of every separator.
-void RegisteredOptionStorage::keepTexts(OptionDescription& option, std::wstring_view names,
-                                        std::wstring_view description)
+// Makes an option in one piece of memory: behind the object come its names, then the texts of all
+// names, copied at once, and the description. In the copy a zero takes the place of every
+// separator.
+OptionDescription& RegisteredOptionStorage::makeOption(const Group& group, bool isSwitch,
+                                                       std::wstring_view names,
+                                                       std::size_t nameCount,
+                                                       std::wstring_view description)
 {
-    wchar_t* const copy = m_owner.roomFor(names.size() + 1 + description.size());
-    Garbage::copyInto(copy, names);
-    for (OptionIndex::NewName& name : m_names)
-    {
-        wchar_t* const text = copy + (name.text.data() - names.data());
-        text[name.text.size()] = L'\0';
-        name.text = HashedText(name.text, std::wstring_view(text, name.text.size()));
-    }
-    option.description = Garbage::copyInto(copy + names.size() + 1, description);
-    option.setNames(m_names);
-}
-
-RegisteredOptionStorage::OptionPointer RegisteredOptionStorage::makeOption(const Group& group,
-                                                                           bool isSwitch)
-{
+    static_assert(sizeof(OptionDescription) % alignof(HashedText) == 0 &&
+                  sizeof(HashedText) % alignof(wchar_t) == 0);
+    const std::size_t textStart = sizeof(OptionDescription) + nameCount * sizeof(HashedText);
+    const std::size_t characters = names.size() + 1 + description.size() + 1;
     void* const memory =
-        m_owner.memory().take(sizeof(OptionDescription), alignof(OptionDescription));
-    return OptionPointer(new (memory) OptionDescription(group, isSwitch, m_owner));
-}
+        m_owner.memory().take(textStart + characters * sizeof(wchar_t), alignof(OptionDescription));
+    std::byte* const bytes = static_cast<std::byte*>(memory);
+    auto* const ownNames = placeAt<HashedText>(bytes + sizeof(OptionDescription));
+    auto* const text = placeAt<wchar_t>(bytes + textStart);
 
-void RegisteredOptionStorage::Destroy::operator()(OptionDescription* option) const noexcept
-{
-    option->~OptionDescription();
+    Garbage::copyInto(text, names);
+    for (std::size_t position = 0; position < nameCount; ++position)
+    {
+        const HashedText& name = m_names[position];
+        wchar_t* const own = text + (name.data() - names.data());
+        own[name.size()] = L'\0';
+        std::construct_at(ownNames + position, name, std::wstring_view(own, name.size()));
+    }
+    OptionDescription* const option = new (memory)
+        OptionDescription(group, isSwitch, m_owner, std::span<HashedText>(ownNames, nameCount));
+    option->description = Garbage::copyInto(text + names.size() + 1, description);
+    return *option;
 }
 
 } // namespace kexa_3_3

@@ -1,9 +1,9 @@
 // The registry of all declared options.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <memory_resource>
 #include <string_view>
 #include <utility>
@@ -13,6 +13,7 @@
 
 #include "options/OptionDescription.h"
 #include "options/OptionIndex.h"
+#include "support/HashedText.h"
 #include "support/SmallBlocks.h"
 #include "support/TextTable.h"
 
@@ -87,32 +88,29 @@ public:
     [[nodiscard]] const std::vector<Group>& groups() const noexcept { return m_groups; }
 
 private:
-    // The memory belongs to the owner of texts; only the object is destroyed.
-    struct Destroy
-    {
-        void operator()(OptionDescription* option) const noexcept;
-    };
-    using OptionPointer = std::unique_ptr<OptionDescription, Destroy>;
+    static constexpr std::size_t most_names = 3;
 
     [[nodiscard]] const Group& groupOf(const wchar_t* declared);
-    [[nodiscard]] bool acceptNames(std::wstring_view names);
-    void keepTexts(OptionDescription& option, std::wstring_view names,
-                   std::wstring_view description);
-    [[nodiscard]] OptionPointer makeOption(const Group& group, bool isSwitch);
+    [[nodiscard]] std::size_t acceptNames(std::wstring_view names);
+    [[nodiscard]] OptionDescription& makeOption(const Group& group, bool isSwitch,
+                                                std::wstring_view names, std::size_t nameCount,
+                                                std::wstring_view description);
 
     wchar_t m_defaultSeparator;
     Garbage& m_owner;
-    SmallBlocks m_memory; // of the tables
-    std::pmr::vector<OptionPointer> m_options;
+    SmallBlocks m_memory;                           // of the tables
+    std::pmr::vector<OptionDescription*> m_options; // in memory of m_owner
     std::vector<Group> m_groups;
     Registration m_lastRegistration = {nullptr, 1};
 
-    TextTable m_groupNames;                   // numbers are indices of m_groups
-    const wchar_t* m_lastGroupText = nullptr; // as declared last, and the group's index
-    std::size_t m_lastGroup = 0;
+    TextTable m_groupNames;      // numbers are indices of m_groups
+    std::size_t m_lastGroup = 0; // index of the group declared last
     OptionIndex m_index;
     std::size_t m_actionCount = 0;
-    std::pmr::vector<OptionIndex::NewName> m_names; // of the declaration at work
+
+    // The names of the declaration at work, and their places in the index.
+    std::array<HashedText, most_names> m_names;
+    std::array<std::size_t, most_names> m_slots = {};
 };
 
 } // namespace kexa_3_3

@@ -28,7 +28,7 @@ std::wstring conversionMessage(const OptionDescription& option, std::wstring_vie
 std::wstring possibleValues(const OptionDescription& option)
 {
     std::wstring list;
-    for (const variant_t& value : option.allowedValues)
+    for (const variant_t& value : option.allowedValues())
     {
         list += concatenate({list.empty() ? L"'" : L", '", valueText(value), L"'"});
     }
@@ -68,7 +68,7 @@ ValueVerdict checkValue(const OptionDescription& option, std::wstring_view text,
         error = conversionMessage(option, text);
         return ValueVerdict::rejected;
     }
-    if (option.allowedValues.empty())
+    if (option.allowedValues().empty())
     {
         return ValueVerdict::accepted;
     }
@@ -97,8 +97,9 @@ ValueVerdict checkValue(const OptionDescription& option, std::wstring_view text,
         return ValueVerdict::rejected;
     }
 
-    const auto deprecated = option.deprecatedValues.find(*match);
-    if (deprecated != option.deprecatedValues.end())
+    const auto& deprecatedValues = option.restriction()->deprecatedValues;
+    const auto deprecated = deprecatedValues.find(*match);
+    if (deprecated != deprecatedValues.end())
     {
         warnOfDeprecation(option, deprecated->first, deprecated->second);
         value = deprecated->second;

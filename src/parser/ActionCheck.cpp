@@ -102,7 +102,8 @@ const Given* findUnaccepted(const std::vector<Given>& restricted, const OptionDe
     const Given* first = nullptr;
     for (const Given& given : restricted)
     {
-        if ((first == nullptr || given.name < first->name) && !shareKeyword(*given.option, action))
+        if ((first == nullptr || given.name < first->name) &&
+            !shareKeyword(given.option->keywords, action.keywords))
         {
             first = &given;
         }

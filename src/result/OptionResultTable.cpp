@@ -295,7 +295,7 @@ void OptionResultTable::reserveFor(std::size_t names, std::size_t records)
     {
         const std::size_t room = std::max({m_names.size() + names, 2 * m_room, expected_names});
         m_names.reserve(room);
-        m_slots.rebuild(room, m_names.size(), textOf());
+        m_slots.reserve(room);
         m_room = room;
     }
     reserveMore(m_records, records, expected_names);

@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory_resource>
-#include <vector>
 
 #include "support/HashedText.h"
 
@@ -20,33 +19,21 @@ public:
     static constexpr std::uint32_t absent = 0xFFFFFFFF;
 
     // memory: lives longer than this.
-    explicit TextSlots(std::pmr::memory_resource& memory) noexcept : m_slots(&memory) {}
+    explicit TextSlots(std::pmr::memory_resource& memory) noexcept : m_memory(&memory) {}
+    ~TextSlots() { free(); }
+    TextSlots(const TextSlots&) = delete;
+    TextSlots& operator=(const TextSlots&) = delete;
 
-    // Makes room for `count` texts, of which those numbered below `known` are put in: twice as many
-    // slots, so that a search for a text that is not there ends soon. Throws std::bad_alloc,
-    // changing nothing.
-    template <class TextOf>
-    void rebuild(std::size_t count, std::size_t known, TextOf textOf)
-    {
-        std::pmr::vector<Slot> slots = emptySlots(count);
-        m_slots.swap(slots);
-        for (std::size_t number = 0; number < known; ++number)
-        {
-            const HashedText& text = textOf(static_cast<std::uint32_t>(number));
-            std::size_t slot = homeOf(text.hash());
-            while (m_slots[slot].number != absent)
-            {
-                slot = (slot + 1) & (m_slots.size() - 1);
-            }
-            put(slot, static_cast<std::uint32_t>(number), text);
-        }
-    }
+    // Makes room for `count` texts in all: twice as many slots, so that a search for a text that is
+    // not there ends soon. Slots found before are good no more. Throws std::bad_alloc, changing
+    // nothing.
+    void reserve(std::size_t count);
 
     // The slot of the text, or the free one where it belongs. Needs room.
     template <class TextOf>
     [[nodiscard]] std::size_t slotOf(const HashedText& text, TextOf textOf) const
     {
-        return slotFrom(homeOf(text.hash()), text, textOf);
+        return slotFrom(markOf(text) & m_mask, text, textOf);
     }
 
     // The same, of a text that is in no slot from its home up to `slot`.
@@ -54,8 +41,8 @@ public:
     [[nodiscard]] std::size_t slotFrom(std::size_t slot, const HashedText& text,
                                        TextOf textOf) const
     {
-        const Slot* const slots = m_slots.data();
-        const std::size_t mask = m_slots.size() - 1;
+        const Slot* const slots = m_slots;
+        const std::size_t mask = m_mask;
         const std::uint32_t mark = markOf(text);
         while (slots[slot].number != absent &&
                (slots[slot].mark != mark || !(textOf(slots[slot].number) == text)))
@@ -77,20 +64,21 @@ private:
     struct Slot
     {
         std::uint32_t number;
-        std::uint32_t mark; // a part of the text's hash: most other texts differ in it
+
+        // A part of the text's hash: most other texts differ in it. Its lowest bits are the slot
+        // where a search begins, so the texts are not needed when slots are added.
+        std::uint32_t mark;
     };
 
     [[nodiscard]] static std::uint32_t markOf(const HashedText& text) noexcept
     {
-        return static_cast<std::uint32_t>(text.hash() >> 32);
+        return static_cast<std::uint32_t>(text.hash());
     }
-    [[nodiscard]] std::size_t homeOf(std::uint64_t hash) const noexcept
-    {
-        return hash & (m_slots.size() - 1);
-    }
-    [[nodiscard]] std::pmr::vector<Slot> emptySlots(std::size_t texts) const;
+    void free() noexcept;
 
-    std::pmr::vector<Slot> m_slots; // none, or a power of two of them
+    std::pmr::memory_resource* m_memory;
+    Slot* m_slots = nullptr; // none, or a power of two of them
+    std::size_t m_mask = 0;  // their number less one
 };
 
 } // namespace kexa_3_3

@@ -42,19 +42,15 @@ public:
     }
     [[nodiscard]] std::uint32_t find(const HashedText& text) const noexcept
     {
-        return m_texts.empty() ? absent : m_slots.numberAt(m_slots.slotOf(text, textOf()));
+        return m_texts.size() > most_walked ? m_slots.numberAt(m_slots.slotOf(text, textOf()))
+                                            : walk(text);
     }
 
     // The number of the text, which is inserted where it is new. Needs room made by `reserve`.
     std::uint32_t insert(const HashedText& text) noexcept
     {
-        const std::size_t slot = m_slots.slotOf(text, textOf());
-        if (m_slots.numberAt(slot) == absent)
-        {
-            m_slots.put(slot, static_cast<std::uint32_t>(m_texts.size()), text);
-            m_texts.push_back(text);
-        }
-        return m_slots.numberAt(slot);
+        const std::uint32_t known = find(text);
+        return known == absent ? append(text) : known;
     }
     std::uint32_t insert(std::wstring_view text) noexcept { return insert(HashedText(text)); }
 
@@ -71,11 +67,16 @@ public:
     [[nodiscard]] const HashedText& text(std::uint32_t number) const { return m_texts[number]; }
 
 private:
+    // Slots for no more texts than these would cost more than walking over the texts does.
+    static constexpr std::size_t most_walked = 8;
+
     void grow(std::size_t needed);
+    [[nodiscard]] std::uint32_t walk(const HashedText& text) const noexcept;
+    std::uint32_t append(const HashedText& text) noexcept;
 
     std::size_t m_room = 0;
     std::pmr::vector<HashedText> m_texts;
-    TextSlots m_slots;
+    TextSlots m_slots; // once there are more than most_walked
 };
 
 } // namespace kexa_3_3

@@ -54,8 +54,9 @@ TEST_F(OptionDescriptionConstruction, SetsEveryMember)
     EXPECT_EQ(option.separator, L',');
     EXPECT_EQ(option.valueType, 17);
     EXPECT_EQ(option.defaultValue.kind(), 17);
-    EXPECT_TRUE(option.allowedValues.empty());
-    EXPECT_TRUE(option.deprecatedValues.empty());
+    EXPECT_TRUE(option.allowedValues().empty());
+    EXPECT_EQ(option.restriction(), nullptr);
+    EXPECT_FALSE(option.holdsValues());
     EXPECT_EQ(option.owner, &pool);
     EXPECT_EQ(option.primaryName(), L"");
     EXPECT_FALSE(option.answersTo(L""));
@@ -104,10 +105,10 @@ TEST_F(OptionDescriptionBuilder, AllowedValuesAreKeptInOrder)
     option.addAllowedValue(variant_t(L"b"))
         .addAllowedValue(variant_t(1))
         .addAllowedValue(variant_t(L"b"));
-    ASSERT_EQ(option.allowedValues.size(), 3U);
-    EXPECT_EQ(option.allowedValues[0], variant_t(L"b"));
-    EXPECT_EQ(option.allowedValues[1], variant_t(1));
-    EXPECT_EQ(option.allowedValues[2], variant_t(L"b"));
+    ASSERT_EQ(option.allowedValues().size(), 3U);
+    EXPECT_EQ(option.allowedValues()[0], variant_t(L"b"));
+    EXPECT_EQ(option.allowedValues()[1], variant_t(1));
+    EXPECT_EQ(option.allowedValues()[2], variant_t(L"b"));
 }
 
 TEST_F(OptionDescriptionBuilder, AllowedValueRestoresAMissingSeparatorOnly)
@@ -127,9 +128,9 @@ TEST_F(OptionDescriptionBuilder, FirstReplacementOfADeprecatedValueStays)
     option.addDeprecatedValue(variant_t(L"old"), variant_t(L"first"))
         .addDeprecatedValue(variant_t(L"old"), variant_t(L"second"))
         .addDeprecatedValue(variant_t(1), variant_t(L"third"));
-    ASSERT_EQ(option.deprecatedValues.size(), 2U);
-    EXPECT_EQ(option.deprecatedValues.at(variant_t(L"old")), variant_t(L"first"));
-    EXPECT_EQ(option.deprecatedValues.at(variant_t(1)), variant_t(L"third"));
+    ASSERT_EQ(option.restriction()->deprecatedValues.size(), 2U);
+    EXPECT_EQ(option.restriction()->deprecatedValues.at(variant_t(L"old")), variant_t(L"first"));
+    EXPECT_EQ(option.restriction()->deprecatedValues.at(variant_t(1)), variant_t(L"third"));
 }
 
 // Tells when it is destroyed.
@@ -187,16 +188,16 @@ TEST_F(OptionDescriptionBuilder, MarkedOrKeywordedOptionIsPositional)
 TEST_F(OptionDescriptionBuilder, KeywordIsSharedWhereBothHaveIt)
 {
     OptionDescription other({L"", L""}, true, pool);
-    EXPECT_FALSE(shareKeyword(option, other));
+    EXPECT_FALSE(shareKeyword(option.keywords, other.keywords));
     option.addKeywords(L"b,d,f");
-    EXPECT_FALSE(shareKeyword(option, other));
+    EXPECT_FALSE(shareKeyword(option.keywords, other.keywords));
     other.addKeywords(L"a,c,e,g,dd");
-    EXPECT_FALSE(shareKeyword(option, other));
-    EXPECT_FALSE(shareKeyword(other, option));
+    EXPECT_FALSE(shareKeyword(option.keywords, other.keywords));
+    EXPECT_FALSE(shareKeyword(other.keywords, option.keywords));
     other.addKeywords(L"f");
-    EXPECT_TRUE(shareKeyword(option, other));
-    EXPECT_TRUE(shareKeyword(other, option));
-    EXPECT_TRUE(shareKeyword(option, option));
+    EXPECT_TRUE(shareKeyword(option.keywords, other.keywords));
+    EXPECT_TRUE(shareKeyword(other.keywords, option.keywords));
+    EXPECT_TRUE(shareKeyword(option.keywords, option.keywords));
 }
 
 TEST_F(OptionDescriptionCopy, HasEveryMember)
@@ -222,8 +223,8 @@ TEST_F(OptionDescriptionCopy, HasEveryMember)
     EXPECT_EQ(copy.separator, L';');
     EXPECT_EQ(copy.valueType, 13);
     EXPECT_EQ(copy.defaultValue, variant_t(L"a"));
-    EXPECT_EQ(copy.allowedValues, option.allowedValues);
-    EXPECT_EQ(copy.deprecatedValues, option.deprecatedValues);
+    EXPECT_EQ(copy.restriction()->allowedValues, option.restriction()->allowedValues);
+    EXPECT_EQ(copy.restriction()->deprecatedValues, option.restriction()->deprecatedValues);
     EXPECT_EQ(copy.owner, &pool);
 }
 
@@ -253,6 +254,49 @@ TEST_F(OptionDescriptionCopy, IsADescriptionByItself)
     EXPECT_EQ(index.firstPositional(), OptionIndex::none);
 }
 
+TEST_F(OptionDescriptionCopy, AddsNamesApartFromItsOriginal)
+{
+    option.addName(L"a").addName(L"b");
+    OptionDescription copy(option);
+    for (const wchar_t* const name : {L"c", L"d", L"e", L"f"})
+    {
+        option.addName(name);
+        copy.addName((std::wstring(L"copied-") + name).c_str());
+    }
+    EXPECT_EQ(textsOf(option.names), (Texts{L"a", L"b", L"c", L"d", L"e", L"f"}));
+    EXPECT_EQ(textsOf(copy.names),
+              (Texts{L"a", L"b", L"copied-c", L"copied-d", L"copied-e", L"copied-f"}));
+}
+
+TEST_F(OptionDescriptionCopy, HasKeywordsOfItsOwn)
+{
+    option.addKeywords(L"b,d");
+    OptionDescription copy(option);
+    option.addKeywords(L"a");
+    copy.addKeywords(L"c,b");
+    EXPECT_EQ(textsOf(option.keywords), (Texts{L"a", L"b", L"d"}));
+    EXPECT_EQ(textsOf(copy.keywords), (Texts{L"b", L"c", L"d"}));
+}
+
+// The index refers to the names where the option keeps them.
+TEST_F(OptionDescriptionBuilder, IndexKnowsAllOfManyLaterNames)
+{
+    option.addName(L"name");
+    OptionIndex index;
+    option.enterInto(index, 3);
+    const std::size_t count = 100;
+    while (option.names.size() < count)
+    {
+        option.addName((L"name-" + std::to_wstring(option.names.size())).c_str());
+    }
+    EXPECT_EQ(index.findAnswering(L"name"), 3);
+    for (std::size_t number = 1; number < count; ++number)
+    {
+        EXPECT_EQ(index.findAnswering(L"name-" + std::to_wstring(number)), 3) << number;
+    }
+    EXPECT_EQ(index.matchPrefix(L"name").count, count);
+}
+
 TEST_F(OptionDescriptionBuilder, IndexLearnsOfLaterChanges)
 {
     option.addName(L"name");
@@ -276,10 +320,10 @@ TEST_F(OptionDescriptionBuilder, CandidatesFollowLaterChanges)
     EXPECT_NE(option.allowedValueIndex().findEqual(variant_t(1)), nullptr);
     EXPECT_EQ(option.allowedValueIndex().findEqual(variant_t(2)), nullptr);
     option.addAllowedValue(variant_t(2));
-    EXPECT_EQ(option.allowedValueIndex().findEqual(variant_t(2)), &option.allowedValues[1]);
+    EXPECT_EQ(option.allowedValueIndex().findEqual(variant_t(2)), &option.allowedValues()[1]);
     option.addDeprecatedValue(variant_t(3), variant_t(1));
     EXPECT_EQ(option.allowedValueIndex().findEqual(variant_t(3)),
-              &option.deprecatedValues.begin()->first);
+              &option.restriction()->deprecatedValues.begin()->first);
 }
 
 } // namespace

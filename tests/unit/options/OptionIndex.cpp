@@ -21,6 +21,7 @@ struct Option
 {
     bool boolean;
     std::deque<std::wstring> names; // a name stays where it is when others come
+    std::deque<HashedText> hashedNames = {};
 };
 
 bool beginsWith(const std::wstring& text, const std::wstring& beginning)
@@ -104,7 +105,7 @@ void addName(OptionIndex& index, NaiveTable& table, std::size_t option, const st
     Option& target = table.options[option];
     target.names.push_back(name);
     index.reserve(1);
-    index.add(HashedText(target.names.back()), option, target.names.size() - 1, target.boolean);
+    index.add(target.hashedNames.emplace_back(target.names.back()), option, target.boolean);
 }
 
 // Short texts over few characters, so that names meet, begin each other and look like negations.

@@ -269,20 +269,38 @@ private:
     int m_number;
 };
 
+// Whatever kind of value it is that an option holds.
 TEST(RegisteredOptionsLife, OptionsAreFreedInTheOrderOfRegistration)
 {
     std::vector<int> destroyed;
     {
         Garbage pool(4096);
         RegisteredOptionStorage options(pool, L',');
-        for (int number = 0; number < 5; ++number)
+        for (int number = 0; number < 8; ++number)
         {
-            options.registerValueOption(std::to_wstring(number).c_str(), nullptr, L"", 13, L"")
-                .option->setDefaultValue(variant_t::object(new Watched(destroyed, number)));
+            IOption& option =
+                *options.registerValueOption(std::to_wstring(number).c_str(), nullptr, L"", 13, L"")
+                     .option;
+            const variant_t value = variant_t::object(new Watched(destroyed, number));
+            switch (number % 4)
+            {
+            case 0:
+                option.setDefaultValue(value);
+                break;
+            case 1:
+                option.addAllowedValue(value);
+                break;
+            case 2:
+                option.addDeprecatedValue(variant_t(L"old"), value);
+                break;
+            default: // it has none
+                break;
+            }
         }
-        EXPECT_EQ(destroyed, std::vector<int>());
+        EXPECT_EQ(destroyed, (std::vector<int>{3, 7}));
+        destroyed.clear();
     }
-    EXPECT_EQ(destroyed, (std::vector<int>{0, 1, 2, 3, 4}));
+    EXPECT_EQ(destroyed, (std::vector<int>{0, 1, 2, 4, 5, 6}));
 }
 
 } // namespace

@@ -95,9 +95,12 @@ TEST_F(ValueCheck, ExactMatchIsTakenBeforeAnAbbreviation)
 
 TEST_F(ValueCheck, CompletedTextIsOwnedByTheValue)
 {
-    option.addAllowedValue(variant_t(L"fast"));
-    expectChanged(L"f", variant_t(L"fast"), "");
-    option.allowedValues.clear();
+    {
+        OptionDescription shortLived({L"", L""}, false, pool);
+        shortLived.valueType = value_type_string;
+        shortLived.addAllowedValue(variant_t(L"fast"));
+        EXPECT_EQ(checkValue(shortLived, L"f", value, error), ValueVerdict::changed);
+    }
     EXPECT_EQ(value, variant_t(L"fast"));
 }
 

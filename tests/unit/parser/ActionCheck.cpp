@@ -253,11 +253,10 @@ std::wstring walk(const std::vector<std::wstring>& entries, const RegisteredOpti
     for (const std::wstring& name : entries)
     {
         const OptionDescription* const option = options.find(name);
-        const bool accepted =
-            option->valueMode == 0 || option->keywords.empty() ||
-            std::any_of(option->keywords.begin(), option->keywords.end(),
-                        [chosen](std::wstring_view keyword)
-                        { return chosen->keywords.find(keyword) != chosen->keywords.end(); });
+        const bool accepted = option->valueMode == 0 || option->keywords.empty() ||
+                              std::any_of(option->keywords.begin(), option->keywords.end(),
+                                          [chosen](std::wstring_view keyword)
+                                          { return chosen->keywords.contains(keyword); });
         if (!accepted)
         {
             return answer(2, L"Action '-" + std::wstring(chosen->primaryName()) +

@@ -100,6 +100,36 @@ TEST(TextTable, HashDependsOnTheTextOnly)
     EXPECT_NE(hashOf(text), hashOf(std::wstring_view(text).substr(0, text.size() - 1)));
 }
 
+TEST(TextTable, TextMadeFromNothingIsTheEmptyOne)
+{
+    EXPECT_EQ(kexa_3_3::HashedText(), kexa_3_3::HashedText(L""));
+    EXPECT_EQ(kexa_3_3::HashedText().hash(), hashOf(L""));
+}
+
+// Names that differ in few characters, at different places, share out the slots of a table as
+// texts without any order would: a search passes less than one text that is not looked for.
+TEST(TextTable, HashesOfSimilarTextsShareOutTheSlots)
+{
+    constexpr std::uint64_t slots = 32768;
+    constexpr unsigned count = 10000;
+    for (const std::size_t gap : {0U, 1U, 2U, 3U, 4U, 5U, 7U, 8U, 11U})
+    {
+        std::vector<unsigned> used(slots);
+        unsigned passed = 0;
+        for (unsigned number = 0; number < count; ++number)
+        {
+            std::wstring text = L"option-";
+            for (unsigned rest = number + count; rest != 0; rest /= 10)
+            {
+                text += static_cast<wchar_t>(L'0' + rest % 10);
+                text.append(gap, L'_');
+            }
+            passed += used[hashOf(text) % slots]++;
+        }
+        EXPECT_LT(passed, count / 4) << gap; // 0.15 for each is what chance gives
+    }
+}
+
 // The first slot and the last one, behind which a search goes on at the beginning.
 TEST(TextTable, TextsMeetingInOneSlotAreAllFound)
 {

@@ -1,0 +1,39 @@
+// A member that is made when it is first needed.
+#pragma once
+
+#include <memory>
+
+namespace kexa_3_3
+{
+
+// For what few objects of a kind have: the others pay for a pointer. A copy has what was made.
+template <class T>
+class Lazy
+{
+public:
+    Lazy() noexcept = default;
+    ~Lazy() = default;
+    Lazy(const Lazy& other)
+        : m_made(other.m_made == nullptr ? nullptr : std::make_unique<T>(*other.m_made))
+    {
+    }
+    Lazy& operator=(const Lazy&) = delete;
+
+    // Null before it is made.
+    [[nodiscard]] const T* get() const noexcept { return m_made.get(); }
+
+    // Throws what making it throws, changing nothing.
+    T& make()
+    {
+        if (m_made == nullptr)
+        {
+            m_made = std::make_unique<T>();
+        }
+        return *m_made;
+    }
+
+private:
+    std::unique_ptr<T> m_made;
+};
+
+} // namespace kexa_3_3
