@@ -43,7 +43,9 @@ enum variant_kind_t : s32_t
 //
 // Copies of a text, blob or object share one block, freed with the last of them; its reference
 // count is atomic, so copies may be used and destroyed on different threads, while one variant is
-// used by one thread at a time. What allocates throws std::bad_alloc and changes nothing then.
+// used by one thread at a time. The texts that a parse result holds lie together in larger pieces
+// of memory, of which one is freed when no text in it is shared any more. What allocates throws
+// std::bad_alloc and changes nothing then.
 class variant_t
 {
 public:
@@ -146,6 +148,16 @@ public:
     }
 
     s32_t kind() const noexcept { return m_type; }
+
+    // Whether both hold a wide text and these lie in one piece of memory, so that they could trade
+    // their shares.
+    bool lies_beside(const variant_t& other) const noexcept;
+
+    // Answers the data word and becomes null. The share of a block goes to the caller with it.
+    u64_t detach() noexcept;
+
+    // A variant of a kind and a data word that `detach` answered, which takes the share over.
+    static variant_t attach(s32_t kind, u64_t word) noexcept;
 
     // Whether get<T>() gives a value, for T one of bool (kind 0), s32_t, u32_t, s64_t, u64_t (the
     // integer kinds, where T can hold the value), double (every number) and const wchar_t* (kinds

@@ -44,12 +44,19 @@ inline bool sync_dec(reference_count_t& count) noexcept
            count.fetch_sub(1, std::memory_order_acq_rel) == 1;
 }
 
+// Stands at the front of memory that blocks lie in: one block, or many that are freed together.
+struct shared_memory_t
+{
+    reference_count_t count;     // of the shares in all its blocks
+    const void* owner = nullptr; // who makes blocks in it; null where it holds a single one
+
+    explicit shared_memory_t(std::size_t shares) noexcept : count(shares) {}
+};
+
 // Stands ahead of the data in a block.
 struct block_header_t
 {
-    explicit block_header_t(std::size_t data_length) noexcept : count(1), length(data_length) {}
-
-    reference_count_t count;
+    shared_memory_t* memory;
     std::size_t length; // of the data, in bytes
 };
 
@@ -69,14 +76,14 @@ inline const block_header_t* header_of(const void* data) noexcept
 // whatever length it was given. Answers its data.
 inline void* allocate_block(std::size_t length)
 {
-    constexpr std::size_t extra = sizeof(block_header_t) + 2 * sizeof(wchar_t);
+    constexpr std::size_t extra =
+        sizeof(shared_memory_t) + sizeof(block_header_t) + 2 * sizeof(wchar_t);
     if (length > std::numeric_limits<std::size_t>::max() - extra)
     {
         throw std::bad_alloc();
     }
-    void* const memory = ::operator new(length + extra);
-    auto* const header = new (memory) block_header_t(length);
-    void* const data = header + 1;
+    auto* const memory = new (::operator new(length + extra)) shared_memory_t(1);
+    void* const data = new (memory + 1) block_header_t{memory, length} + 1;
     std::memset(static_cast<char*>(data) + length, 0, 2 * sizeof(wchar_t));
     return data;
 }
@@ -105,13 +112,13 @@ inline void share(void* data)
     {
         kexa_3_3::raiseAssertion("h != NULL", __FILE__, __LINE__, __func__);
     }
-    sync_inc(h->count);
+    sync_inc(h->memory->count);
 }
 
 inline void release(void* data, bool holds_object) noexcept
 {
-    block_header_t* const h = header_of(data);
-    if (!sync_dec(h->count))
+    shared_memory_t* const memory = header_of(data)->memory;
+    if (!sync_dec(memory->count))
     {
         return;
     }
@@ -122,8 +129,8 @@ inline void release(void* data, bool holds_object) noexcept
         std::memset(data, 0, object_length);
         delete object;
     }
-    h->~block_header_t();
-    ::operator delete(h);
+    memory->~shared_memory_t();
+    ::operator delete(memory);
 }
 
 } // namespace detail

@@ -60,9 +60,9 @@ void warnOfDeprecation(const OptionDescription& option, const variant_t& oldValu
 } // namespace
 
 ValueVerdict checkValue(const OptionDescription& option, std::wstring_view text, variant_t& value,
-                        std::wstring& error)
+                        std::wstring& error, SharedTexts* texts)
 {
-    value = convertValue(option.valueType, text);
+    value = convertValue(option.valueType, text, texts);
     if (value.kind() == vexkit2::kind_null)
     {
         error = conversionMessage(option, text);
@@ -87,7 +87,7 @@ ValueVerdict checkValue(const OptionDescription& option, std::wstring_view text,
         if (matches.count == 1)
         {
             match = matches.candidate;
-            value = variant_t(matches.text.data(), matches.text.size());
+            value = makeText(matches.text, texts);
             verdict = ValueVerdict::changed;
         }
     }

@@ -10,6 +10,7 @@ namespace kexa_3_3
 {
 
 class OptionDescription;
+class SharedTexts;
 
 enum class ValueVerdict
 {
@@ -21,8 +22,10 @@ enum class ValueVerdict
 // text:  what was given for the option.
 // value: receives the final value, unless rejected.
 // error: receives the message where rejected.
+// texts: where a string value is made; null for a block of its own.
 // The replacement of a deprecated value is announced on standard error.
 [[nodiscard]] ValueVerdict checkValue(const OptionDescription& option, std::wstring_view text,
-                                      vexkit2::variant_t& value, std::wstring& error);
+                                      vexkit2::variant_t& value, std::wstring& error,
+                                      SharedTexts* texts = nullptr);
 
 } // namespace kexa_3_3

@@ -10,6 +10,7 @@
 
 #include "kexa/option.h"
 
+#include "support/SharedTexts.h"
 #include "support/Text.h"
 
 namespace kexa_3_3
@@ -218,7 +219,12 @@ template <class Integer>
 
 } // namespace
 
-variant_t convertValue(std::int32_t valueType, std::wstring_view text)
+variant_t makeText(std::wstring_view text, SharedTexts* texts)
+{
+    return texts == nullptr ? variant_t(text.data(), text.size()) : texts->add(text);
+}
+
+variant_t convertValue(std::int32_t valueType, std::wstring_view text, SharedTexts* texts)
 {
     switch (valueType)
     {
@@ -235,7 +241,7 @@ variant_t convertValue(std::int32_t valueType, std::wstring_view text)
     case value_type_double:
         return convertDouble(text);
     case value_type_string:
-        return variant_t(text.data(), text.size());
+        return makeText(text, texts);
     default:
         return variant_t();
     }

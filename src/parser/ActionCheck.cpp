@@ -35,7 +35,7 @@ Overview survey(const OptionResultTable& result, const RegisteredOptionStorage& 
     Overview overview;
     for (std::size_t number = 0; number < result.size(); ++number)
     {
-        if (result.record(number).positions.empty())
+        if (!result.record(number).occurrences.hasPositions())
         {
             continue;
         }

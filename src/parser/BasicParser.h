@@ -60,23 +60,24 @@ public:
 
     // Parses arguments without a program name: the arguments, what is left of them, the option
     // files, and the action check. Standard exceptions are passed on, any other becomes code 4.
-    virtual result_t parseArguments(Arguments& arguments, IParseResult* result);
+    virtual result_t parseArguments(ArgumentQueue& arguments, IParseResult* result);
 
     // Parses up to the end marker, which stays in front of the arguments left.
-    virtual result_t parseVector(std::wstring_view endMarker, Arguments& arguments,
+    virtual result_t parseVector(std::wstring_view endMarker, ArgumentQueue& arguments,
                                  IParseResult* result, std::wstring& message);
 
     // The action check over what the result holds; the arguments are not looked at.
-    virtual result_t checkActions(const Arguments& arguments, IParseResult* result,
+    virtual result_t checkActions(const ArgumentQueue& arguments, IParseResult* result,
                                   std::wstring& message);
 
 private:
-    [[nodiscard]] result_t parseAll(Arguments& arguments, IParseResult* result);
-    [[nodiscard]] result_t parseOnce(Arguments& arguments, IParseResult* result,
+    [[nodiscard]] result_t parseAll(ArgumentQueue& arguments, IParseResult* result);
+    [[nodiscard]] result_t parseOnce(ArgumentQueue& arguments, IParseResult* result,
                                      ParseResult* leftOver);
     [[nodiscard]] result_t collectNonparsingArguments(std::wstring_view endMarker,
-                                                      Arguments& arguments, IParseResult* result,
-                                                      ParseResult* leftOver, std::wstring& message);
+                                                      ArgumentQueue& arguments,
+                                                      IParseResult* result, ParseResult* leftOver,
+                                                      std::wstring& message);
     [[nodiscard]] bool takesUnknown(std::wstring_view argument);
     [[nodiscard]] const wchar_t* textForHandlers(std::wstring_view text);
     void storeDefaults(IParseResult& result) const;

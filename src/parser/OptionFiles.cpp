@@ -1,9 +1,8 @@
 #include "parser/OptionFiles.h"
 
-#include "parser/ArgumentSplitter.h"
+#include "parser/ArgumentLines.h"
 #include "support/FileLoading.h"
 #include "support/Text.h"
-#include "support/Utf8.h"
 
 namespace kexa_3_3
 {
@@ -28,31 +27,13 @@ std::wstring_view reasonOf(FileProblem problem) noexcept
     }
 }
 
-// The text of a file without a leading byte order mark. The bytes are freed before the text is
-// used.
-FileProblem loadText(const std::wstring& name, std::wstring& text)
-{
-    constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
-    std::string bytes;
-    const FileProblem problem = loadFile(name, bytes);
-    if (problem == FileProblem::none)
-    {
-        std::string_view content(bytes);
-        if (content.substr(0, byte_order_mark.size()) == byte_order_mark)
-        {
-            content.remove_prefix(byte_order_mark.size());
-        }
-        text = wideFromUtf8(content);
-    }
-    return problem;
-}
-
 // The whole text of a value, zero characters included: a name that holds one names no file.
-std::wstring wholeText(const StoredValue& stored)
+std::wstring wholeText(const Occurrence& stored)
 {
-    const std::size_t units = stored.value.kind() == vexkit2::kind_wide_text
-                                  ? stored.value.byte_length() / sizeof(wchar_t)
-                                  : 0;
+    vexkit2::variant_t value;
+    stored.copyValueTo(value);
+    const std::size_t units =
+        value.kind() == vexkit2::kind_wide_text ? value.byte_length() / sizeof(wchar_t) : 0;
     return units == 0 ? std::wstring(stored.text) : std::wstring(stored.text, units - 1);
 }
 
@@ -64,15 +45,21 @@ const StoredOption* resultOf(OptionResultTable& options) noexcept
 result_t readFile(const std::wstring& name, const OptionFiles::ParseFile& parseFile,
                   std::wstring& message)
 {
-    std::wstring text;
-    const FileProblem problem = loadText(name, text);
+    constexpr std::string_view byte_order_mark = "\xEF\xBB\xBF";
+    std::string bytes;
+    const FileProblem problem = loadFile(name, bytes);
     if (problem != FileProblem::none)
     {
         message = concatenate({L"Error reading option file '", name, L"': ", reasonOf(problem)});
         return result_unreadable_option_file;
     }
-    Arguments arguments = splitArguments(text);
-    return parseFile(arguments);
+    std::string_view text(bytes);
+    if (text.substr(0, byte_order_mark.size()) == byte_order_mark)
+    {
+        text.remove_prefix(byte_order_mark.size());
+    }
+    Utf8Lines lines(text);
+    return parseFile(lines);
 }
 
 } // namespace
@@ -80,7 +67,7 @@ result_t readFile(const std::wstring& name, const OptionFiles::ParseFile& parseF
 OptionFiles::OptionFiles(OptionResultTable& options) : m_options(options), m_next(0)
 {
     const StoredOption* const result = resultOf(options);
-    m_next = result == nullptr ? 0 : result->values.size();
+    m_next = result == nullptr ? 0 : result->occurrences.size();
 }
 
 result_t OptionFiles::readAll(const ParseFile& parseFile, std::wstring& message)
@@ -89,11 +76,17 @@ result_t OptionFiles::readAll(const ParseFile& parseFile, std::wstring& message)
     for (;;)
     {
         const StoredOption* const result = resultOf(m_options);
-        if (result == nullptr || m_next >= result->values.size())
+        if (result == nullptr || m_next == result->occurrences.size())
         {
             return result_success;
         }
-        const std::wstring name = wholeText(result->values[m_next++]);
+        Occurrences::Place place = result->occurrences.placeOf(m_next++);
+        const Occurrence& occurrence = *result->occurrences.next(place);
+        if (!occurrence.isValue)
+        {
+            continue;
+        }
+        const std::wstring name = wholeText(occurrence);
         if (!m_read.insert(canonicalPath(name)).second)
         {
             continue;

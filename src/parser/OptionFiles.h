@@ -23,7 +23,7 @@ class OptionFiles
 {
 public:
     // Parses the arguments of one file, which may store names of further files.
-    using ParseFile = std::function<result_t(Arguments&)>;
+    using ParseFile = std::function<result_t(ArgumentSource&)>;
 
     // Made before a parse stores anything: what the result holds then was read by earlier parses.
     explicit OptionFiles(OptionResultTable& options);
@@ -34,7 +34,7 @@ public:
 
 private:
     OptionResultTable& m_options;
-    std::size_t m_next; // index of the first value not looked at
+    std::size_t m_next; // index of the first occurrence not looked at
     std::set<std::wstring> m_read;
 };
 

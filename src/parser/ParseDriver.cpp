@@ -2,10 +2,11 @@
 
 #include <array>
 #include <exception>
+#include <span>
 #include <typeinfo>
 
 #include "options/ValueText.h"
-#include "parser/ArgumentSplitter.h"
+#include "parser/ArgumentLines.h"
 #include "parser/BasicParser.h"
 #include "parser/OptionFiles.h"
 #include "recognition/AbbreviationParser.h"
@@ -36,13 +37,13 @@ ParseResult* fillable(IParseResult* result)
 }
 
 // The keyword counts as the first argument only, and is never parsed.
-void switchTraceBy(Arguments& arguments)
+void switchTraceBy(ArgumentQueue& arguments)
 {
     switchTrace(false);
     if (!arguments.empty() && arguments.front() == trace_keyword)
     {
         switchTrace(true);
-        arguments.erase(arguments.begin());
+        arguments.removeFront();
     }
 }
 
@@ -75,15 +76,9 @@ result_t BasicParser::parse(std::int32_t argc, const wchar_t* const* argv, IPars
         {
             storeDefaults(*result);
         }
-        Arguments arguments;
-        if (argv != nullptr && argc > 1)
-        {
-            arguments.reserve(static_cast<std::size_t>(argc) - 1);
-            for (std::int32_t index = 1; index < argc; ++index)
-            {
-                arguments.push_back(viewOf(argv[index]));
-            }
-        }
+        const bool hasArguments = argv != nullptr && argc > 1;
+        const std::size_t count = hasArguments ? static_cast<std::size_t>(argc) - 1 : 0;
+        ArgumentQueue arguments(std::span(hasArguments ? argv + 1 : nullptr, count));
         return parseArguments(arguments, result);
     }
     catch (const std::exception&)
@@ -96,7 +91,8 @@ result_t BasicParser::parseCommandLine(const wchar_t* commandLine, IParseResult*
 {
     try
     {
-        Arguments arguments = splitArguments(viewOf(commandLine));
+        WideLines lines(viewOf(commandLine));
+        ArgumentQueue arguments(lines);
         return parseArguments(arguments, result);
     }
     catch (const std::exception&)
@@ -105,7 +101,7 @@ result_t BasicParser::parseCommandLine(const wchar_t* commandLine, IParseResult*
     }
 }
 
-result_t BasicParser::parseArguments(Arguments& arguments, IParseResult* result)
+result_t BasicParser::parseArguments(ArgumentQueue& arguments, IParseResult* result)
 {
     try
     {
@@ -122,7 +118,7 @@ result_t BasicParser::parseArguments(Arguments& arguments, IParseResult* result)
     }
 }
 
-result_t BasicParser::parseAll(Arguments& arguments, IParseResult* result)
+result_t BasicParser::parseAll(ArgumentQueue& arguments, IParseResult* result)
 {
     ParseResult* const filled = fillable(result);
     if (filled == nullptr)
@@ -135,15 +131,20 @@ result_t BasicParser::parseAll(Arguments& arguments, IParseResult* result)
     // Asked now: a handler may have enabled them meanwhile.
     if (code == result_success && m_optionFilesEnabled)
     {
-        code = files.readAll([&](Arguments& fileArguments)
-                             { return parseOnce(fileArguments, result, filled); },
-                             m_errorMessage);
+        code = files.readAll(
+            [&](ArgumentSource& lines)
+            {
+                ArgumentQueue fileArguments(lines);
+                return parseOnce(fileArguments, result, filled);
+            },
+            m_errorMessage);
     }
     return code != result_success ? code : checkActions(arguments, result, m_errorMessage);
 }
 
 // The arguments of the command line, or of one option file.
-result_t BasicParser::parseOnce(Arguments& arguments, IParseResult* result, ParseResult* leftOver)
+result_t BasicParser::parseOnce(ArgumentQueue& arguments, IParseResult* result,
+                                ParseResult* leftOver)
 {
     const result_t code = parseVector(end_marker, arguments, result, m_errorMessage);
     return code != result_success ? code
@@ -151,7 +152,7 @@ result_t BasicParser::parseOnce(Arguments& arguments, IParseResult* result, Pars
                                                                leftOver, m_errorMessage);
 }
 
-result_t BasicParser::parseVector(std::wstring_view endMarker, Arguments& arguments,
+result_t BasicParser::parseVector(std::wstring_view endMarker, ArgumentQueue& arguments,
                                   IParseResult* result, std::wstring& message)
 {
     switchTraceBy(arguments);
@@ -161,25 +162,24 @@ result_t BasicParser::parseVector(std::wstring_view endMarker, Arguments& argume
     const std::array<IArgumentParser*, 2> chain = {&positional, &abbreviation};
     IResultCollector* const collector = fillable(result);
 
-    ArgumentQueue queue(arguments);
-    while (!queue.empty() && queue.front() != endMarker)
+    while (!arguments.empty() && arguments.front() != endMarker)
     {
-        IArgumentParser* const parser = chooseParser(chain, queue, m_options, message);
+        IArgumentParser* const parser = chooseParser(chain, arguments, m_options, message);
         if (parser != nullptr)
         {
             std::int64_t optionIndex = -1;
-            const int code = parser->parse(queue, collector, m_options, optionIndex, message);
+            const int code = parser->parse(arguments, collector, m_options, optionIndex, message);
             if (code != 0)
             {
                 return static_cast<result_t>(code);
             }
             continue;
         }
-        const std::wstring_view argument = queue.front();
+        const std::wstring_view argument = arguments.front();
         if (takesUnknown(argument))
         {
             traceLine(L"ignoring ", argument);
-            queue.removeFront();
+            arguments.removeFront();
             continue;
         }
         message = concatenate({L"Unknown option: ", argument});
@@ -198,9 +198,9 @@ bool BasicParser::takesUnknown(std::wstring_view argument)
 }
 
 // Takes the arguments behind the marker: positional ones are parsed, the others kept as left over.
-result_t BasicParser::collectNonparsingArguments(std::wstring_view endMarker, Arguments& arguments,
-                                                 IParseResult* result, ParseResult* leftOver,
-                                                 std::wstring& message)
+result_t BasicParser::collectNonparsingArguments(std::wstring_view endMarker,
+                                                 ArgumentQueue& arguments, IParseResult* result,
+                                                 ParseResult* leftOver, std::wstring& message)
 {
     constexpr std::wstring_view prefix = L"collectNonparsingArguments: ";
     auto flags = static_cast<std::uint32_t>(m_flags);
@@ -211,28 +211,27 @@ result_t BasicParser::collectNonparsingArguments(std::wstring_view endMarker, Ar
     PositionalOptionsParser positional(m_events, m_strings, flags);
     IResultCollector* const collector = fillable(result);
 
-    ArgumentQueue queue(arguments);
-    if (!queue.empty() && queue.front() == endMarker)
+    if (!arguments.empty() && arguments.front() == endMarker)
     {
-        queue.removeFront();
+        arguments.removeFront();
     }
-    while (!queue.empty())
+    while (!arguments.empty())
     {
-        const int recognized = positional.recognize(queue, m_options, message);
+        const int recognized = positional.recognize(arguments, m_options, message);
         traceLine(prefix, L"recognize result: ", recognized, L", message: ", message);
         if (recognized != IArgumentParser::claimed)
         {
-            const std::wstring_view argument = queue.front();
+            const std::wstring_view argument = arguments.front();
             if (leftOver != nullptr)
             {
                 leftOver->addUnparsed(argument);
             }
             traceLine(prefix, L"stored argument: '", argument, L"'");
-            queue.removeFront();
+            arguments.removeFront();
             continue;
         }
         std::int64_t optionIndex = -1;
-        const int code = positional.parse(queue, collector, m_options, optionIndex, message);
+        const int code = positional.parse(arguments, collector, m_options, optionIndex, message);
         traceLine(prefix, L"parse result: ", code, L", message: ", message);
         if (code != 0)
         {
@@ -242,7 +241,7 @@ result_t BasicParser::collectNonparsingArguments(std::wstring_view endMarker, Ar
     return result_success;
 }
 
-result_t BasicParser::checkActions(const Arguments& /*arguments*/, IParseResult* result,
+result_t BasicParser::checkActions(const ArgumentQueue& /*arguments*/, IParseResult* result,
                                    std::wstring& message)
 {
     ParseResult* const filled = fillable(result);

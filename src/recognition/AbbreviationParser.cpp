@@ -108,7 +108,7 @@ int AbbreviationParser::parse(ArgumentQueue& arguments, IResultCollector* collec
     return parsed;
 }
 
-bool AbbreviationParser::takeValue(Given& given, const ArgumentQueue& arguments,
+bool AbbreviationParser::takeValue(Given& given, ArgumentQueue& arguments,
                                    const OptionDescription& option, std::wstring& error) const
 {
     const bool empty = m_split.value.empty();
@@ -137,17 +137,17 @@ bool AbbreviationParser::takeValue(Given& given, const ArgumentQueue& arguments,
     return !empty || takeNextArgument(given, arguments, option, error);
 }
 
-bool AbbreviationParser::takeNextArgument(Given& given, const ArgumentQueue& arguments,
+bool AbbreviationParser::takeNextArgument(Given& given, ArgumentQueue& arguments,
                                           const OptionDescription& option,
                                           std::wstring& error) const
 {
     traceLine(name(), L": no value in the same argument, looking next");
-    if (arguments.size() < 2)
+    if (!arguments.hasSecond())
     {
         error = valueMissing(option, arguments.front());
         return false;
     }
-    given = {arguments[1], 2};
+    given = {arguments.second(), 2};
     if (!given.value.empty() && given.value.front() == L'-')
     {
         error = concatenate({L"Option '", option.primaryName(),

@@ -38,9 +38,9 @@ private:
 
     void recognizeName(std::wstring_view argument, const RegisteredOptionStorage& options);
     // Answer whether an option is given what it needs; otherwise `error` receives the message.
-    [[nodiscard]] bool takeValue(Given& given, const ArgumentQueue& arguments,
+    [[nodiscard]] bool takeValue(Given& given, ArgumentQueue& arguments,
                                  const OptionDescription& option, std::wstring& error) const;
-    [[nodiscard]] bool takeNextArgument(Given& given, const ArgumentQueue& arguments,
+    [[nodiscard]] bool takeNextArgument(Given& given, ArgumentQueue& arguments,
                                         const OptionDescription& option, std::wstring& error) const;
     [[nodiscard]] std::wstring valueMissing(const OptionDescription& option,
                                             std::wstring_view argument) const;

@@ -2,45 +2,106 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string_view>
-#include <vector>
+
+#include "support/Text.h"
 
 namespace kexa_3_3
 {
 
-// The texts belong to whoever made the vector (the host's argument vector, a loaded file) and
-// outlive the parse.
-using Arguments = std::vector<std::wstring_view>;
+// Gives arguments one after the other.
+class ArgumentSource
+{
+public:
+    ArgumentSource() = default;
+    ArgumentSource(const ArgumentSource&) = delete;
+    ArgumentSource& operator=(const ArgumentSource&) = delete;
 
-// Consuming moves a cursor; the vector is shortened once, when the queue is destroyed.
+    // Answers whether there was one more. The text lives until the second call after this one.
+    [[nodiscard]] virtual bool next(std::wstring_view& argument) = 0;
+
+protected:
+    ~ArgumentSource() = default;
+};
+
+// The arguments are not looked at before their turn comes: what a million of them cost is mostly
+// that of fetching their texts from memory, which this does once.
 class ArgumentQueue
 {
 public:
-    explicit ArgumentQueue(Arguments& arguments) noexcept : m_arguments(arguments) {}
-    ~ArgumentQueue()
+    // pointers: an argument vector without the program's name; a null entry is an empty argument.
+    //           The texts outlive the queue.
+    explicit ArgumentQueue(std::span<const wchar_t* const> pointers)
+        : m_next(pointers.data()), m_left(pointers.size()), m_empty(!fetch(m_front))
     {
-        m_arguments.erase(m_arguments.begin(),
-                          m_arguments.begin() + static_cast<std::ptrdiff_t>(m_consumed));
     }
+
+    // source: outlives the queue.
+    explicit ArgumentQueue(ArgumentSource& source) : m_source(&source), m_empty(!fetch(m_front)) {}
     ArgumentQueue(const ArgumentQueue&) = delete;
     ArgumentQueue& operator=(const ArgumentQueue&) = delete;
 
-    [[nodiscard]] bool empty() const noexcept { return m_consumed == m_arguments.size(); }
-    [[nodiscard]] std::size_t size() const noexcept { return m_arguments.size() - m_consumed; }
+    [[nodiscard]] bool empty() const noexcept { return m_empty; }
 
-    // The argument at an offset from the front, which is below size().
-    [[nodiscard]] std::wstring_view operator[](std::size_t offset) const
+    // The front argument, which there must be. Its text lives until it is removed and the argument
+    // behind the next one is asked for.
+    [[nodiscard]] std::wstring_view front() const noexcept { return m_front; }
+
+    // Whether there is an argument behind the front one, and which.
+    [[nodiscard]] bool hasSecond()
     {
-        return m_arguments[m_consumed + offset];
+        if (m_second == Second::unknown)
+        {
+            m_second = fetch(m_behindFront) ? Second::present : Second::absent;
+        }
+        return m_second == Second::present;
     }
-    [[nodiscard]] std::wstring_view front() const { return (*this)[0]; }
+    [[nodiscard]] std::wstring_view second() const noexcept { return m_behindFront; }
 
     // Needs an argument.
-    void removeFront() noexcept { ++m_consumed; }
+    void removeFront()
+    {
+        if (m_second == Second::unknown)
+        {
+            m_empty = !fetch(m_front);
+            return;
+        }
+        m_front = m_behindFront;
+        m_empty = m_second == Second::absent;
+        m_second = Second::unknown;
+    }
 
 private:
-    Arguments& m_arguments;
-    std::size_t m_consumed = 0;
+    enum class Second
+    {
+        unknown,
+        present,
+        absent
+    };
+
+    [[nodiscard]] bool fetch(std::wstring_view& argument)
+    {
+        if (m_source != nullptr)
+        {
+            return m_source->next(argument);
+        }
+        if (m_left == 0)
+        {
+            return false;
+        }
+        --m_left;
+        argument = viewOf(*m_next++);
+        return true;
+    }
+
+    ArgumentSource* m_source = nullptr; // null: the pointers follow
+    const wchar_t* const* m_next = nullptr;
+    std::size_t m_left = 0;
+    std::wstring_view m_front;
+    std::wstring_view m_behindFront;
+    Second m_second = Second::unknown;
+    bool m_empty;
 };
 
 } // namespace kexa_3_3

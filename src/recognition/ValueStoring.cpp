@@ -11,6 +11,7 @@
 #include "recognition/IArgumentParser.h"
 #include "result/IResultCollector.h"
 #include "support/Garbage.h"
+#include "support/SharedTexts.h"
 #include "support/Text.h"
 #include "support/Trace.h"
 
@@ -159,7 +160,9 @@ int ValueStoring::accept(std::wstring_view piece, const Occurrence& occurrence, 
     const OptionDescription& option = occurrence.option;
     ValueRecord record = {option.primaryName().data(), vexkit2::variant_t(), 0};
     std::wstring reason;
-    const ValueVerdict verdict = checkValue(option, piece, record.value, reason);
+    SharedTexts* const texts =
+        occurrence.collector == nullptr ? nullptr : &occurrence.collector->texts();
+    const ValueVerdict verdict = checkValue(option, piece, record.value, reason, texts);
     if (verdict == ValueVerdict::rejected)
     {
         error = validationMessage(occurrence.argument, reason);

@@ -9,6 +9,7 @@ namespace kexa_3_3
 {
 
 class OptionDescription;
+class SharedTexts;
 
 class IResultCollector
 {
@@ -25,6 +26,9 @@ public:
 
     // The same for an occurrence with one value, which is moved away unless this throws.
     virtual result_t storeValue(const OptionDescription& option, ValueEntry& value) = 0;
+
+    // Where string values are best made: those are stored without a copy.
+    [[nodiscard]] virtual SharedTexts& texts() noexcept = 0;
 
 protected:
     ~IResultCollector() = default;

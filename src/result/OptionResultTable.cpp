@@ -1,9 +1,8 @@
 #include "result/OptionResultTable.h"
 
 #include <algorithm>
-#include <iterator>
+#include <memory>
 #include <new>
-#include <utility>
 
 #include "options/OptionDescription.h"
 #include "options/OptionIndex.h"
@@ -18,22 +17,38 @@ namespace
 constexpr std::size_t expected_names = 32; // room taken at once, for command lines of usual size
 constexpr std::size_t largest_table_in_pool = 2048; // bytes; larger ones are freed as they grow
 
-// These append into room made before, so without throwing.
-
-void appendPositions(StoredOption& target, const OptionResult& record) noexcept
+// Whether every value is that of an occurrence of its own, as those of a command line are.
+bool isPaired(const OptionResult& record) noexcept
 {
-    for (const std::int32_t position : record.positions)
-    {
-        target.positions.push_back(position);
-    }
+    return std::equal(record.positions.begin(), record.positions.end(), record.values.begin(),
+                      record.values.end(),
+                      [](std::int32_t position, const ValueEntry& entry)
+                      { return position == entry.position; });
 }
 
-void appendCopies(StoredOption& target, const OptionResult& record) noexcept
+// How many entries of a list the record takes.
+std::size_t entriesOf(const OptionResult& record) noexcept
 {
-    appendPositions(target, record);
-    for (const ValueEntry& entry : record.values)
+    return isPaired(record) ? record.values.size() : record.positions.size() + record.values.size();
+}
+
+// Hands the entries of the record to `append`, which does not throw.
+template <class Take, class Append>
+void forEachEntry(OptionResult& record, Take take, Append append) noexcept
+{
+    const bool paired = isPaired(record);
+    if (!paired)
     {
-        target.values.push_back({entry.text.data(), entry.value, entry.position});
+        for (const std::int32_t position : record.positions)
+        {
+            append(Occurrence{.position = position, .isPosition = true});
+        }
+    }
+    for (ValueEntry& entry : record.values)
+    {
+        Occurrence occurrence = take(entry);
+        occurrence.isPosition = paired;
+        append(occurrence);
     }
 }
 
@@ -52,7 +67,7 @@ bool contains(const Names& names, const HashedText& name) noexcept
 
 OptionResultTable::OptionResultTable(Garbage& strings)
     : m_strings(strings), m_memory(strings.memory(), largest_table_in_pool), m_recalled(&m_memory),
-      m_names(&m_memory), m_slots(m_memory), m_records(&m_memory)
+      m_names(&m_memory), m_slots(m_memory), m_shares(&m_memory)
 {
 }
 
@@ -72,13 +87,8 @@ void OptionResultTable::store(const OptionDescription& option, OptionResult& rec
         storeNew(option,
                  [this, &record](StoredOption& stored)
                  {
-                     if (!record.defaultText.empty())
-                     {
-                         stored.defaultText = keptText(record.defaultText, record.defaultValue);
-                     }
+                     stored.byDefault = makeDefault(record);
                      append(stored, record);
-                     stored.defaultValue = record.defaultValue;
-                     stored.defaultPosition = record.defaultPosition;
                  });
     }
 }
@@ -170,21 +180,20 @@ StoredOption* OptionResultTable::find(const HashedText& name) noexcept
 
 void OptionResultTable::append(StoredOption& target, ValueEntry& value)
 {
-    makeRoom(target, 1, 1);
-    const wchar_t* const text = keptText(value.text, value.value).data();
-    target.positions.push_back(value.position);
-    target.values.push_back({text, std::move(value.value), value.position});
+    target.occurrences.reserveMore(1, m_strings.memory());
+    keep(value);
+    Occurrence occurrence = take(value);
+    occurrence.isPosition = true;
+    target.occurrences.append(occurrence);
 }
 
 void OptionResultTable::append(StoredOption& target, OptionResult& record)
 {
-    makeRoom(target, record.positions.size(), record.values.size());
-    keepTexts(record);
-    appendPositions(target, record);
-    for (ValueEntry& entry : record.values)
-    {
-        target.values.push_back({entry.text.data(), std::move(entry.value), entry.position});
-    }
+    target.occurrences.reserveMore(entriesOf(record), m_strings.memory());
+    keep(record);
+    forEachEntry(
+        record, [this](ValueEntry& entry) { return take(entry); },
+        [&target](const Occurrence& occurrence) { target.occurrences.append(occurrence); });
 }
 
 // Makes a record for an option that was never stored. fill: stores into it; where that throws, the
@@ -192,33 +201,45 @@ void OptionResultTable::append(StoredOption& target, OptionResult& record)
 template <class Fill>
 void OptionResultTable::storeNew(const OptionDescription& option, Fill fill)
 {
-    RecordPointer stored = makeRecord(Names(option.names));
-    StoredOption& target = *stored;
-    reserveFor(target.names.size(), 1);
+    StoredOption& stored = makeRecord(Names(option.names));
+    reserveFor(stored.names.size());
     remember(option.tableIndex(), nullptr); // makes room for it
-    fill(target);
-    m_recalled[option.tableIndex()] = &bind(std::move(stored));
+    fill(stored);
+    bind(stored);
+    m_recalled[option.tableIndex()] = &stored;
 }
 
 // Stores where the names do not share exactly one record: another declaration stored some of them.
 // All that may throw comes before the first change that can be seen.
 void OptionResultTable::storeApart(Names names, OptionResult& record)
 {
+    const std::size_t count = entriesOf(record);
     std::vector<Part> parts = partsOf(names);
     for (Part& part : parts)
     {
         if (!part.isWhole)
         {
-            part.copy = copyRecord(*part.record, part.names);
-            part.record = part.copy.get();
+            part.record = &copyRecord(*part.record, part.names);
         }
-        makeRoom(*part.record, record.positions.size(), record.values.size());
+        part.record->occurrences.reserveMore(count, m_strings.memory());
     }
-    reserveFor(names.size(), parts.size());
-    keepTexts(record);
-    for (Part& part : parts)
+    reserveFor(names.size());
+    std::vector<Occurrence> occurrences;
+    occurrences.reserve(count);
+    keep(record);
+    forEachEntry(
+        record, [this](ValueEntry& entry) { return take(entry); },
+        [&occurrences](const Occurrence& occurrence) { occurrences.push_back(occurrence); });
+    for (const Part& part : parts)
     {
-        appendCopies(part.copy == nullptr ? *part.record : bind(std::move(part.copy)), record);
+        for (const Occurrence& occurrence : occurrences)
+        {
+            part.record->occurrences.append(occurrence);
+        }
+        if (!part.isWhole)
+        {
+            bind(*part.record);
+        }
     }
 }
 
@@ -252,44 +273,39 @@ std::vector<OptionResultTable::Part> OptionResultTable::partsOf(Names names)
     return parts;
 }
 
-OptionResultTable::RecordPointer OptionResultTable::makeRecord(Names names)
+StoredOption& OptionResultTable::makeRecord(Names names)
 {
     Arena& arena = m_strings.memory();
-    RecordPointer stored(new (arena.take(sizeof(StoredOption), alignof(StoredOption)))
-                             StoredOption());
-    stored->names.reserveMore(names.size(), arena);
+    auto& stored = *new (arena.take(sizeof(StoredOption), alignof(StoredOption))) StoredOption();
+    auto* const texts = static_cast<HashedText*>(
+        arena.take(names.size() * sizeof(HashedText), alignof(HashedText)));
     for (const HashedText& name : names)
     {
         // An option may list a name twice; it is one entry all the same.
-        if (stored->names.empty() || !contains(stored->names, name))
+        if (stored.names.empty() || !contains(stored.names, name))
         {
-            stored->names.push_back(HashedText(name, m_strings.keep(name)));
+            std::construct_at(texts + stored.names.size(), name, m_strings.keep(name));
+            stored.names = {texts, stored.names.size() + 1};
         }
     }
     return stored;
 }
 
-OptionResultTable::RecordPointer OptionResultTable::copyRecord(const StoredOption& from,
-                                                               Names names)
+StoredOption& OptionResultTable::copyRecord(const StoredOption& from, Names names)
 {
-    RecordPointer copy = makeRecord(names);
-    makeRoom(*copy, from.positions.size(), from.values.size());
-    for (const std::int32_t position : from.positions)
+    StoredOption& copy = makeRecord(names);
+    copy.occurrences.reserveMore(from.occurrences.size(), m_strings.memory());
+    Occurrences::Place place = from.occurrences.begin();
+    while (const Occurrence* const occurrence = from.occurrences.next(place))
     {
-        copy->positions.push_back(position);
+        copy.occurrences.append(*occurrence);
     }
-    for (const StoredValue& value : from.values)
-    {
-        copy->values.push_back(value);
-    }
-    copy->defaultText = from.defaultText;
-    copy->defaultValue = from.defaultValue;
-    copy->defaultPosition = from.defaultPosition;
+    copy.byDefault = from.byDefault;
     return copy;
 }
 
 // Makes room in the tables.
-void OptionResultTable::reserveFor(std::size_t names, std::size_t records)
+void OptionResultTable::reserveFor(std::size_t names)
 {
     if (m_names.size() + names > m_room)
     {
@@ -298,51 +314,91 @@ void OptionResultTable::reserveFor(std::size_t names, std::size_t records)
         m_slots.reserve(room);
         m_room = room;
     }
-    reserveMore(m_records, records, expected_names);
 }
 
-StoredOption& OptionResultTable::bind(RecordPointer stored) noexcept
+// Lets names find a record. They leave those that they found before.
+void OptionResultTable::bind(StoredOption& stored) noexcept
 {
-    for (const HashedText& name : stored->names)
+    for (const HashedText& name : stored.names)
     {
         const std::size_t slot = m_slots.slotOf(name, textOf());
         const std::uint32_t number = m_slots.numberAt(slot);
         if (number == TextSlots::absent)
         {
             m_slots.put(slot, static_cast<std::uint32_t>(m_names.size()), name);
-            m_names.push_back({name, stored.get()});
+            m_names.push_back({name, &stored});
             continue;
         }
-        m_names[number].record->names.removeIf([&name](const HashedText& other)
-                                               { return other == name; });
-        m_names[number].record = stored.get();
+        std::span<HashedText>& left = m_names[number].record->names;
+        const auto end = std::remove(left.begin(), left.end(), name);
+        left = {left.begin(), end};
+        m_names[number].record = &stored;
     }
-    m_records.push_back(std::move(stored));
-    return *m_records.back();
 }
 
-void OptionResultTable::makeRoom(StoredOption& target, std::size_t positions, std::size_t values)
+// The default to store with a new record, or null.
+const Occurrence* OptionResultTable::makeDefault(const OptionResult& record)
 {
-    target.positions.reserveMore(positions, m_strings.memory());
-    target.values.reserveMore(values, m_strings.memory());
+    if (record.defaultText.empty())
+    {
+        return nullptr;
+    }
+    ValueEntry entry = {record.defaultText, record.defaultValue,
+                        static_cast<std::int32_t>(record.defaultPosition)};
+    void* const memory = m_strings.memory().take(sizeof(Occurrence), alignof(Occurrence));
+    keep(entry);
+    return new (memory) Occurrence(take(entry));
 }
 
-// Gives the texts of a record's values the lifetime of the table.
-void OptionResultTable::keepTexts(OptionResult& record)
+// Gives what an entry refers to the lifetime of the table.
+void OptionResultTable::keep(ValueEntry& entry)
+{
+    switch (entry.value.kind())
+    {
+    case vexkit2::kind_wide_text:
+        // A string value holds its own text, in a block that stays where it is.
+        entry.text = {entry.value.get<const wchar_t*>(), entry.text.size()};
+        if (!m_texts.made(entry.value))
+        {
+            m_shares.push_front(entry.value);
+        }
+        break;
+    case vexkit2::kind_narrow_text:
+    case vexkit2::kind_blob:
+    case vexkit2::kind_object:
+        m_shares.push_front(entry.value);
+        [[fallthrough]];
+    default:
+        entry.text = m_strings.keep(entry.text);
+    }
+}
+
+void OptionResultTable::keep(OptionResult& record)
 {
     for (ValueEntry& entry : record.values)
     {
-        entry.text = keptText(entry.text, entry.value);
+        keep(entry);
     }
 }
 
-// A string value holds its own text, in a block that stays where it is.
-std::wstring_view OptionResultTable::keptText(std::wstring_view text,
-                                              const vexkit2::variant_t& value)
+// Takes the value out of an entry that is kept.
+Occurrence OptionResultTable::take(ValueEntry& entry) noexcept
 {
-    return value.kind() == vexkit2::kind_wide_text
-               ? std::wstring_view(value.get<const wchar_t*>(), text.size())
-               : m_strings.keep(text);
+    Occurrence occurrence = {.text = entry.text.data(),
+                             .position = entry.position,
+                             .kind = static_cast<std::uint16_t>(entry.value.kind()),
+                             .isValue = true};
+    if (occurrence.kind == vexkit2::kind_wide_text && m_texts.made(entry.value))
+    {
+        occurrence.word = m_texts.takeBack(entry.value);
+    }
+    else
+    {
+        occurrence.word = entry.value.detach();
+        // The share that came with it is given up here: m_shares has another one.
+        static_cast<void>(vexkit2::variant_t::attach(occurrence.kind, occurrence.word));
+    }
+    return occurrence;
 }
 
 } // namespace kexa_3_3

@@ -3,7 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
+#include <forward_list>
 #include <memory_resource>
 #include <span>
 #include <string_view>
@@ -13,6 +13,7 @@
 #include "result/StoredOption.h"
 #include "support/Garbage.h"
 #include "support/HashedText.h"
+#include "support/SharedTexts.h"
 #include "support/SmallBlocks.h"
 #include "support/TextSlots.h"
 
@@ -28,7 +29,7 @@ class OptionIndex;
 class OptionResultTable
 {
 public:
-    // strings: keeps the texts; lives longer than the table.
+    // strings: keeps texts and records; lives longer than the table.
     explicit OptionResultTable(Garbage& strings);
     ~OptionResultTable() = default;
     OptionResultTable(const OptionResultTable&) = delete;
@@ -39,6 +40,9 @@ public:
 
     // See IResultCollector::storeValue.
     void storeValue(const OptionDescription& option, ValueEntry& value);
+
+    // Where string values are to be made, which then are stored as they are.
+    [[nodiscard]] SharedTexts& texts() noexcept { return m_texts; }
 
     // The record of a name, or null. It stays where it is as long as the table lives.
     [[nodiscard]] StoredOption* find(const HashedText& name) noexcept;
@@ -74,13 +78,6 @@ private:
         };
     }
 
-    // The memory of a record belongs to m_strings; only the object is destroyed.
-    struct Destroy
-    {
-        void operator()(StoredOption* stored) const noexcept { stored->~StoredOption(); }
-    };
-    using RecordPointer = std::unique_ptr<StoredOption, Destroy>;
-
     [[nodiscard]] bool noteSource(const OptionIndex* index) noexcept;
     [[nodiscard]] StoredOption* recall(std::size_t tableIndex) const noexcept;
     void remember(std::size_t tableIndex, StoredOption* stored);
@@ -105,27 +102,27 @@ private:
         StoredOption* record = nullptr;
         std::vector<HashedText> names;
         bool isWhole = false;
-        RecordPointer copy;
     };
     [[nodiscard]] std::vector<Part> partsOf(Names names);
 
     // A record for names, which find it once it is bound to them. `reserveFor` makes the room that
     // binding needs.
-    [[nodiscard]] RecordPointer makeRecord(Names names);
-    [[nodiscard]] RecordPointer copyRecord(const StoredOption& from, Names names);
-    void reserveFor(std::size_t names, std::size_t records);
-    StoredOption& bind(RecordPointer stored) noexcept;
+    [[nodiscard]] StoredOption& makeRecord(Names names);
+    [[nodiscard]] StoredOption& copyRecord(const StoredOption& from, Names names);
+    void reserveFor(std::size_t names);
+    void bind(StoredOption& stored) noexcept;
 
-    void makeRoom(StoredOption& target, std::size_t positions, std::size_t values);
-    void keepTexts(OptionResult& record);
-    [[nodiscard]] std::wstring_view keptText(std::wstring_view text,
-                                             const vexkit2::variant_t& value);
+    [[nodiscard]] const Occurrence* makeDefault(const OptionResult& record);
+    void keep(ValueEntry& entry);
+    void keep(OptionResult& record);
+    [[nodiscard]] Occurrence take(ValueEntry& entry) noexcept;
 
     // The options that filled the result: an index's identity, or one of these.
     static constexpr std::uint64_t no_source = 0;
     static constexpr std::uint64_t several_sources = ~std::uint64_t{0};
 
     Garbage& m_strings;
+    SharedTexts m_texts;
     SmallBlocks m_memory; // of the tables
     std::uint64_t m_source = no_source;
 
@@ -136,7 +133,9 @@ private:
     std::size_t m_room = 0; // for names, in both of the following
     std::pmr::vector<Name> m_names;
     TextSlots m_slots; // of m_names
-    std::pmr::vector<RecordPointer> m_records;
+
+    // Values whose blocks were made elsewhere: shares that the records rely on.
+    std::pmr::forward_list<vexkit2::variant_t> m_shares;
 };
 
 } // namespace kexa_3_3

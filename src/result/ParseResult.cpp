@@ -43,36 +43,27 @@ std::int32_t ParseResult::isPresent(const wchar_t* name, std::int32_t from, std:
 result_t ParseResult::getFirstValue(Value* out, const wchar_t* name, std::int32_t from,
                                     std::int32_t to)
 {
-    Found found;
-    bool any = beginQuery(name, from, to);
-    if (any)
+    const Occurrence* found = nullptr;
+    if (beginQuery(name, from, to))
     {
-        if (walksOccurrences())
-        {
-            any = nextValue(found);
-        }
-        else
-        {
-            found = defaultOf(*m_currentOption);
-        }
+        found = walksOccurrences() ? nextValue() : m_currentOption->byDefault;
     }
-    return answer(out, any, found);
+    return answer(out, found);
 }
 
 result_t ParseResult::getNextValue(Value* out, const wchar_t* /*name*/)
 {
-    Found found;
-    const bool any = m_currentOption != nullptr && nextValue(found);
-    return answer(out, any, found);
+    return answer(out, m_currentOption == nullptr ? nullptr : nextValue());
 }
 
 std::int32_t ParseResult::getNextPosition()
 {
-    if (m_currentOption == nullptr || m_positionCursor >= m_currentOption->positions.size())
+    if (m_currentOption == nullptr)
     {
         return no_position;
     }
-    return m_currentOption->positions[m_positionCursor++];
+    const Occurrence* const next = m_currentOption->occurrences.nextPosition(m_positionCursor);
+    return next == nullptr ? no_position : next->position;
 }
 
 result_t ParseResult::getFirstUnparsed(const wchar_t** out)
@@ -117,7 +108,7 @@ void ParseResult::addUnparsed(std::wstring_view argument)
 // Whether the current option is walked by its occurrences; otherwise it has only a default.
 bool ParseResult::walksOccurrences() const noexcept
 {
-    return !m_currentOption->positions.empty() || m_currentOption->defaultText.empty();
+    return m_currentOption->occurrences.hasPositions() || m_currentOption->byDefault == nullptr;
 }
 
 // Moves the cursor to the start of an option. Answers whether there is something to give: an
@@ -131,77 +122,84 @@ bool ParseResult::beginQuery(const wchar_t* name, std::int32_t from, std::int32_
     {
         return false;
     }
-    m_valueCursor = 0;
-    m_positionCursor = 0;
+    const Occurrences& occurrences = m_currentOption->occurrences;
+    m_valueCursor = occurrences.begin();
+    m_positionCursor = occurrences.begin();
     if (!walksOccurrences())
     {
         return true;
     }
-    const auto& positions = m_currentOption->positions;
-    while (m_positionCursor < positions.size() &&
-           (positions[m_positionCursor] < from || positions[m_positionCursor] >= to))
+    for (;;)
     {
-        ++m_positionCursor;
+        const Occurrences::Place here = m_positionCursor;
+        const Occurrence* const next = occurrences.nextPosition(m_positionCursor);
+        if (next == nullptr)
+        {
+            return false;
+        }
+        if (next->position >= from && next->position < to)
+        {
+            m_positionCursor = here;
+            return true;
+        }
     }
-    return m_positionCursor < positions.size();
 }
 
-// The next value of the walk. Needs a current option.
-bool ParseResult::nextValue(Found& found) noexcept
+// The next value of the walk, or null. Needs a current option.
+const Occurrence* ParseResult::nextValue() noexcept
 {
-    const StoredOption& option = *m_currentOption;
-    if (!walksOccurrences())
+    if (walksOccurrences())
     {
-        if (m_rangeFrom != no_position || m_rangeTo != no_position)
-        {
-            return false;
-        }
-        found = defaultOf(option);
-        m_rangeFrom = 0; // which ends the walk
-        return true;
+        // Where there are no values no bound is tested: the range chose the first occurrence only.
+        return m_currentOption->occurrences.hasValues()
+                   ? nextInRange()
+                   : m_currentOption->occurrences.nextPosition(m_positionCursor);
     }
-    if (option.values.empty())
+    if (m_rangeFrom != no_position || m_rangeTo != no_position)
     {
-        // No bound is tested here: the range chose the first occurrence only.
-        if (m_positionCursor >= option.positions.size())
-        {
-            return false;
-        }
-        found.position = option.positions[m_positionCursor++];
-        return true;
+        return nullptr;
     }
-    while (m_valueCursor < option.values.size() &&
-           option.values[m_valueCursor].position < m_rangeFrom)
+    m_rangeFrom = 0; // which ends the walk
+    return m_currentOption->byDefault;
+}
+
+const Occurrence* ParseResult::nextInRange() noexcept
+{
+    const Occurrences& occurrences = m_currentOption->occurrences;
+    Occurrences::Place place = m_valueCursor;
+    const Occurrence* next = occurrences.nextValue(place);
+    while (next != nullptr && next->position < m_rangeFrom)
     {
-        ++m_valueCursor;
+        m_valueCursor = place;
+        next = occurrences.nextValue(place);
     }
     // The upper bound is inclusive for values, exclusive for the first occurrence: on purpose.
-    if (m_valueCursor >= option.values.size() || option.values[m_valueCursor].position > m_rangeTo)
+    if (next == nullptr || next->position > m_rangeTo)
     {
-        return false;
+        return nullptr;
     }
-    const StoredValue& entry = option.values[m_valueCursor++];
-    found = {entry.text, &entry.value, entry.position};
-    return true;
+    m_valueCursor = place;
+    return next;
 }
 
-ParseResult::Found ParseResult::defaultOf(const StoredOption& option) noexcept
+result_t ParseResult::answer(Value* out, const Occurrence* found) noexcept
 {
-    return {option.defaultText.data(), &option.defaultValue,
-            static_cast<std::int32_t>(option.defaultPosition)};
-}
-
-// NOLINTNEXTLINE(bugprone-exception-escape): the copy shares a block that is there.
-result_t ParseResult::answer(Value* out, bool found, const Found& what) noexcept
-{
-    const result_t code = found ? result_success : result_nothing;
-    if (out != nullptr)
+    const result_t code = found != nullptr ? result_success : result_nothing;
+    if (out == nullptr)
     {
-        out->data = what.text;
-        out->status = code;
-        out->position = what.position;
-        out->value = what.value == nullptr ? vexkit2::variant_t() : *what.value;
+        return code;
     }
+    out->status = code;
+    if (found == nullptr)
+    {
+        out->data = nullptr;
+        out->position = no_position;
+        out->value = vexkit2::variant_t();
+        return code;
+    }
+    out->data = found->text;
+    out->position = found->position;
+    found->copyValueTo(out->value);
     return code;
 }
 

@@ -36,6 +36,8 @@ public:
     result_t storeOption(const OptionDescription& option, OptionResult& record) override;
     result_t storeValue(const OptionDescription& option, ValueEntry& value) override;
 
+    [[nodiscard]] SharedTexts& texts() noexcept override { return m_options.texts(); }
+
     // Adds a left-over argument.
     void addUnparsed(std::wstring_view argument);
 
@@ -43,14 +45,6 @@ public:
     [[nodiscard]] OptionResultTable& options() noexcept { return m_options; }
 
 private:
-    // One value as a query gives it; the text is terminated by a zero.
-    struct Found
-    {
-        const wchar_t* text = nullptr;
-        const vexkit2::variant_t* value = nullptr;
-        std::int32_t position = no_position;
-    };
-
     struct Unparsed
     {
         std::wstring_view text;
@@ -59,17 +53,16 @@ private:
 
     [[nodiscard]] bool walksOccurrences() const noexcept;
     [[nodiscard]] bool beginQuery(const wchar_t* name, std::int32_t from, std::int32_t to) noexcept;
-    [[nodiscard]] bool nextValue(Found& found) noexcept;
-    [[nodiscard]] static Found defaultOf(const StoredOption& option) noexcept;
-    // NOLINTNEXTLINE(bugprone-exception-escape): as in the definition.
-    [[nodiscard]] static result_t answer(Value* out, bool found, const Found& what) noexcept;
+    [[nodiscard]] const Occurrence* nextValue() noexcept;
+    [[nodiscard]] const Occurrence* nextInRange() noexcept;
+    [[nodiscard]] static result_t answer(Value* out, const Occurrence* found) noexcept;
 
     InlineBlock<6144> m_firstBlock; // holds what a command line of usual size leaves
     Garbage m_strings; // keeps every text handed out, so it is destroyed after what refers to it
     OptionResultTable m_options;
 
-    std::size_t m_valueCursor = 0;
-    std::size_t m_positionCursor = 0;
+    Occurrences::Place m_valueCursor;
+    Occurrences::Place m_positionCursor;
     std::int32_t m_rangeFrom = 0;
     std::int32_t m_rangeTo = no_position;
     const StoredOption* m_currentOption = nullptr;

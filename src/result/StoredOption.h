@@ -2,35 +2,24 @@
 #pragma once
 
 #include <cstdint>
-#include <string_view>
+#include <span>
 
 #include "kexa/value.h"
 #include "kexa/variant.h"
 
-#include "support/GrowingArray.h"
+#include "result/Occurrences.h"
 #include "support/HashedText.h"
 
 namespace kexa_3_3
 {
 
-// One value. Many may be stored: kept small.
-struct StoredValue
-{
-    const wchar_t* text; // terminated by a zero; lives as long as the result
-    vexkit2::variant_t value;
-    std::int32_t position;
-};
-
 // The record that the names of an option share: its occurrences, and what to report when it never
-// occurred. Most options are given once at most.
+// occurred. Nothing of it needs to be destroyed: what it points at belongs to the result.
 struct StoredOption
 {
-    GrowingArray<HashedText, 2> names;
-    GrowingArray<std::int32_t, 1> positions; // in the order stored
-    GrowingArray<StoredValue, 1> values;     // in the order stored
-    std::wstring_view defaultText;           // empty: no default
-    vexkit2::variant_t defaultValue;
-    std::uint32_t defaultPosition = 0;
+    std::span<HashedText> names;
+    Occurrences occurrences;
+    const Occurrence* byDefault = nullptr; // null: no default, or one whose text is empty
 };
 
 } // namespace kexa_3_3

@@ -135,9 +135,20 @@ void appendUtf8(std::string& bytes, std::uint32_t codePoint)
 
 std::wstring wideFromUtf8(std::string_view bytes)
 {
+    std::wstring text;
+    const std::size_t length = wideFromUtf8(bytes, text).size();
+    text.resize(length);
+    return text;
+}
+
+std::wstring_view wideFromUtf8(std::string_view bytes, std::wstring& room)
+{
     // No sequence gives more units than it has bytes.
-    std::wstring text(bytes.size(), L'\0');
-    wchar_t* out = text.data();
+    if (room.size() < bytes.size())
+    {
+        room.resize(std::max(bytes.size(), 2 * room.size()));
+    }
+    wchar_t* out = room.data();
     while (!bytes.empty())
     {
         const std::size_t ascii = asciiGroups(bytes);
@@ -155,8 +166,7 @@ std::wstring wideFromUtf8(std::string_view bytes)
             rest -= std::min(rest, decoded.length);
         }
     }
-    text.resize(static_cast<std::size_t>(out - text.data()));
-    return text;
+    return {room.data(), static_cast<std::size_t>(out - room.data())};
 }
 
 std::string utf8FromWide(std::wstring_view text)

@@ -30,7 +30,7 @@ private:
 std::size_t sharersOf(const variant_t& text)
 {
     const void* const data = text.get<const wchar_t*>();
-    return vexkit2::detail::header_of(data)->count.load();
+    return vexkit2::detail::header_of(data)->memory->count.load();
 }
 
 TEST(VariantSharing, CopyOfAWideTextSharesTheBlock)

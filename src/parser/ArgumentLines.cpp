@@ -1,0 +1,61 @@
+#include "parser/ArgumentLines.h"
+
+#include <algorithm>
+
+#include "support/Text.h"
+#include "support/Utf8.h"
+
+namespace kexa_3_3
+{
+
+namespace
+{
+
+// Takes lines off the front of the text up to one that holds an argument. Answers whether there is
+// one. All characters that matter are of one unit in any encoding.
+template <class Character>
+bool takeArgument(std::basic_string_view<Character>& text,
+                  std::basic_string_view<Character>& argument)
+{
+    while (!text.empty())
+    {
+        const std::size_t end = std::min(text.find(Character{'\n'}), text.size());
+        argument = text.substr(0, end);
+        text.remove_prefix(std::min(end + 1, text.size()));
+        const auto first = std::find_if(
+            argument.begin(), argument.end(),
+            [](Character character) { return !isClassicSpace(static_cast<wchar_t>(character)); });
+        argument.remove_prefix(static_cast<std::size_t>(first - argument.begin()));
+        while (!argument.empty() && argument.back() == Character{'\r'})
+        {
+            argument.remove_suffix(1);
+        }
+        if (!argument.empty() && argument.front() != Character{';'} &&
+            argument.front() != Character{'#'})
+        {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+bool WideLines::next(std::wstring_view& argument)
+{
+    return takeArgument(m_rest, argument);
+}
+
+bool Utf8Lines::next(std::wstring_view& argument)
+{
+    std::string_view line;
+    if (!takeArgument(m_rest, line))
+    {
+        return false;
+    }
+    m_turn = 1 - m_turn;
+    argument = wideFromUtf8(line, m_decoded[m_turn]);
+    return true;
+}
+
+} // namespace kexa_3_3

@@ -1,0 +1,44 @@
+// Texts that hold an argument in each line.
+//
+// Leading white space (of the classic locale) is skipped, trailing carriage returns are dropped,
+// other trailing blanks stay. Blank lines and lines that begin with ';' or '#' give nothing. There
+// is no quoting.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "recognition/ArgumentQueue.h"
+
+namespace kexa_3_3
+{
+
+// The arguments are views into the text.
+class WideLines final : public ArgumentSource
+{
+public:
+    explicit WideLines(std::wstring_view text) noexcept : m_rest(text) {}
+    [[nodiscard]] bool next(std::wstring_view& argument) override;
+
+private:
+    std::wstring_view m_rest;
+};
+
+// Decodes each line when its turn comes: the whole text in wide characters, which may be four times
+// as long, is never needed. What is ill-formed becomes U+FFFD.
+class Utf8Lines final : public ArgumentSource
+{
+public:
+    // text: outlives this. Without a byte order mark.
+    explicit Utf8Lines(std::string_view text) noexcept : m_rest(text) {}
+    [[nodiscard]] bool next(std::wstring_view& argument) override;
+
+private:
+    std::string_view m_rest;
+    std::array<std::wstring, 2> m_decoded; // the line last given, and the one before it
+    std::size_t m_turn = 0;
+};
+
+} // namespace kexa_3_3

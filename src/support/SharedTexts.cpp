@@ -1,0 +1,48 @@
+#include "support/SharedTexts.h"
+
+#include <algorithm>
+
+namespace kexa_3_3
+{
+
+namespace
+{
+
+constexpr std::size_t largest_region = std::size_t{1} << 20;
+
+} // namespace
+
+SharedTexts::~SharedTexts()
+{
+    while (m_newest != nullptr)
+    {
+        Region* const region = m_newest;
+        m_newest = region->previous;
+        const std::size_t held = region->held;
+        region->owner = nullptr; // another object may come to live at this address
+        if (region->count.fetch_sub(held, std::memory_order_acq_rel) == held)
+        {
+            ::operator delete(region);
+        }
+    }
+}
+
+// Makes a region in which the text fits. What is left of the newest one is given up, which is
+// little beside a text that did not fit.
+void SharedTexts::makeRoom(std::wstring_view text)
+{
+    constexpr std::size_t longest =
+        (std::numeric_limits<std::size_t>::max() - sizeof(Region)) / sizeof(wchar_t) / 2;
+    if (text.size() > longest)
+    {
+        throw std::bad_alloc();
+    }
+    const std::size_t size = std::max(m_nextSize, sizeOf(text));
+    void* const memory = ::operator new(sizeof(Region) + size);
+    m_newest = new (memory) Region(this, m_newest);
+    m_free = static_cast<std::byte*>(memory) + sizeof(Region);
+    m_left = size;
+    m_nextSize = std::min(2 * m_nextSize, largest_region);
+}
+
+} // namespace kexa_3_3
