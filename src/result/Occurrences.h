@@ -11,6 +11,7 @@
 #include "kexa/variant.h"
 
 #include "support/Arena.h"
+#include "support/Prefetch.h"
 
 namespace kexa_3_3
 {
@@ -146,6 +147,12 @@ public:
     // The same, of those that hold a value or a position.
     [[nodiscard]] const Occurrence* nextValue(Place& place) const noexcept
     {
+        // Who walks over many values reads their texts, which lie far apart.
+        constexpr std::uint32_t ahead = 8;
+        if (place.m_index + ahead < place.m_piece->size)
+        {
+            prefetch(place.m_piece->entries[place.m_index + ahead].text);
+        }
         const Occurrence* occurrence = next(place);
         while (occurrence != nullptr && !occurrence->isValue)
         {

@@ -163,7 +163,7 @@ void OptionResultTable::remember(std::size_t tableIndex, StoredOption* stored)
     if (tableIndex >= m_recalled.size())
     {
         reserveMore(m_recalled, tableIndex + 1 - m_recalled.size(), expected_names);
-        m_recalled.resize(tableIndex + 1);
+        m_recalled.resize(m_recalled.capacity());
     }
     m_recalled[tableIndex] = stored;
 }
@@ -275,17 +275,26 @@ std::vector<OptionResultTable::Part> OptionResultTable::partsOf(Names names)
 
 StoredOption& OptionResultTable::makeRecord(Names names)
 {
-    Arena& arena = m_strings.memory();
-    auto& stored = *new (arena.take(sizeof(StoredOption), alignof(StoredOption))) StoredOption();
-    auto* const texts = static_cast<HashedText*>(
-        arena.take(names.size() * sizeof(HashedText), alignof(HashedText)));
+    static_assert(alignof(StoredOption) >= alignof(HashedText));
+    // The record, its names and their texts lie in one piece.
+    std::size_t size = sizeof(StoredOption) + names.size() * sizeof(HashedText);
+    for (const HashedText& name : names)
+    {
+        size += (name.size() + 1) * sizeof(wchar_t);
+    }
+    void* const memory = m_strings.memory().take(size, alignof(StoredOption));
+    auto& stored = *new (memory) StoredOption();
+    auto* const kept = static_cast<HashedText*>(static_cast<void*>(&stored + 1));
+    auto* text = static_cast<wchar_t*>(static_cast<void*>(kept + names.size()));
+    std::size_t count = 0;
     for (const HashedText& name : names)
     {
         // An option may list a name twice; it is one entry all the same.
-        if (stored.names.empty() || !contains(stored.names, name))
+        if (count == 0 || !contains(stored.names, name))
         {
-            std::construct_at(texts + stored.names.size(), name, m_strings.keep(name));
-            stored.names = {texts, stored.names.size() + 1};
+            std::construct_at(kept + count, name, Garbage::copyInto(text, name));
+            text += name.size() + 1;
+            stored.names = {kept, ++count};
         }
     }
     return stored;

@@ -10,7 +10,7 @@ namespace kexa_3_3
 namespace
 {
 
-constexpr std::size_t largest_shared_block = std::size_t{1} << 18;
+constexpr std::size_t largest_shared_block = std::size_t{1} << 20;
 
 } // namespace
 
