@@ -95,6 +95,11 @@ void OptionResultTable::store(const OptionDescription& option, OptionResult& rec
 
 void OptionResultTable::storeValue(const OptionDescription& option, ValueEntry& value)
 {
+    if (StoredOption* const known = ownRecord(option))
+    {
+        append(*known, value);
+        return;
+    }
     const Place place = locate(option);
     if (place.apart)
     {
@@ -113,6 +118,21 @@ void OptionResultTable::storeValue(const OptionDescription& option, ValueEntry& 
     }
 }
 
+// The record of an option where it is known at once, else null.
+StoredOption* OptionResultTable::ownRecord(const OptionDescription& option) const noexcept
+{
+    const OptionIndex* const index = option.index();
+    const std::size_t place = option.tableIndex();
+    if (index == nullptr || index->identity() != m_source || index->sharesNames() ||
+        place >= m_recalled.size())
+    {
+        return nullptr;
+    }
+    StoredOption* const known = m_recalled[place];
+    // Names are only ever added: as many are the same.
+    return known != nullptr && known->names.size() == option.names.size() ? known : nullptr;
+}
+
 // Where to store an occurrence of an option.
 OptionResultTable::Place OptionResultTable::locate(const OptionDescription& option)
 {
@@ -121,7 +141,7 @@ OptionResultTable::Place OptionResultTable::locate(const OptionDescription& opti
     StoredOption* known = recall(option.tableIndex());
     if (isOwnRecord && (known == nullptr || known->names.size() == names.size()))
     {
-        return {known, false}; // names are only ever added, so they are the same
+        return {known, false};
     }
     if (known == nullptr || !isSharedBy(*known, names))
     {

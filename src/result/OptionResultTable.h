@@ -78,6 +78,7 @@ private:
         };
     }
 
+    [[nodiscard]] StoredOption* ownRecord(const OptionDescription& option) const noexcept;
     [[nodiscard]] bool noteSource(const OptionIndex* index) noexcept;
     [[nodiscard]] StoredOption* recall(std::size_t tableIndex) const noexcept;
     void remember(std::size_t tableIndex, StoredOption* stored);
