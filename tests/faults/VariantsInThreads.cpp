@@ -120,6 +120,92 @@ TEST(VariantsInThreads, ValuesOutliveTheirResultInAnotherThread)
     }
 }
 
+// Values of several texts in one piece of memory, whose last share may be given up by any thread.
+TEST(VariantsInThreads, ValuesOfOneResultAreReleasedWhileItIs)
+{
+    constexpr std::size_t threadCount = 4;
+    std::wstring list = L"--name=";
+    for (int number = 0; number < 2000; ++number)
+    {
+        list += L"a value " + std::to_wstring(number) + L",";
+    }
+    Host host;
+    host.addOption(L"name");
+    for (int round = 0; round < 20; ++round)
+    {
+        host.renewResult();
+        ASSERT_EQ(host.parse({list.c_str()}), result_success);
+        std::vector<std::vector<variant_t>> values(threadCount);
+        std::size_t number = 0;
+        Value value;
+        for (result_t code = host.result().getFirstValue(&value, L"name", 0, no_position);
+             code == result_success; code = host.result().getNextValue(&value, L"name"))
+        {
+            values[number++ % threadCount].push_back(value.value);
+        }
+        ASSERT_EQ(number, 2000U);
+        value = Value();
+        std::atomic<bool> go{false};
+        std::vector<std::thread> threads;
+        for (std::size_t first = 0; first < threadCount; ++first)
+        {
+            threads.emplace_back(
+                [&go, first, mine = std::move(values[first])]() mutable
+                {
+                    while (!go)
+                    {
+                        std::this_thread::yield();
+                    }
+                    for (std::size_t index = 0; index < mine.size(); ++index)
+                    {
+                        const variant_t copy = mine[index];
+                        mine[index] = variant_t();
+                        const std::wstring text =
+                            L"a value " + std::to_wstring(index * threadCount + first);
+                        ASSERT_EQ(copy.get<const wchar_t*>(), text);
+                    }
+                });
+        }
+        go = true;
+        host.renewResult(); // releases the one before
+        for (std::thread& thread : threads)
+        {
+            thread.join();
+        }
+    }
+}
+
+// A value of one thread's result is declared in the parser of another.
+TEST(VariantsInThreads, ValueMayBeDeclaredWhileItsResultIsReleased)
+{
+    Host host;
+    host.addOption(L"name");
+    for (int round = 0; round < 200; ++round)
+    {
+        host.renewResult();
+        ASSERT_EQ(host.parse({L"--name=fallback"}), result_success);
+        Value value;
+        ASSERT_EQ(host.result().getFirstValue(&value, L"name", 0, no_position), result_success);
+        std::atomic<bool> ready{false};
+        std::thread other(
+            [&ready, mine = value.value]
+            {
+                Host another;
+                another.addOption(L"name").setDefaultValue(mine).addAllowedValue(mine);
+                ready = true;
+                EXPECT_EQ(another.parse({}), result_success);
+                EXPECT_EQ(another.texts(L"name"), std::vector<std::wstring>{L"fallback"});
+            });
+        value = Value();
+        while (!ready)
+        {
+            std::this_thread::yield();
+        }
+        host.renewResult();
+        other.join();
+    }
+}
+
 TEST(VariantsInThreads, ADeclaredValueIsSharedByTheParsersOfSeveralThreads)
 {
     const variant_t fallback(L"fallback");

@@ -10,6 +10,7 @@
 #include "result/ParseResult.h"
 #include "support/Garbage.h"
 
+#include "../recognition/GivenArguments.h"
 #include "TemporaryFolder.h"
 #include "TextPrinting.h"
 
@@ -38,9 +39,10 @@ protected:
     int readAll(OptionFiles& files)
     {
         return files.readAll(
-            [this](Arguments& arguments)
+            [this](ArgumentSource& lines)
             {
-                parsed.emplace_back(arguments.begin(), arguments.end());
+                ArgumentQueue arguments(lines);
+                parsed.push_back(unit::takeAll(arguments));
                 return whileParsing ? whileParsing(parsed.back()) : result_success;
             },
             message);

@@ -3,6 +3,7 @@
 #include "parser/BasicParser.h"
 
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -10,6 +11,7 @@
 #include "recognition/ValueStoring.h"
 #include "result/ParseResult.h"
 
+#include "../recognition/GivenArguments.h"
 #include "TemporaryFolder.h"
 #include "TextPrinting.h"
 
@@ -27,11 +29,22 @@ protected:
 
     int parseVector(const Texts& vector, std::wstring_view marker = L"--")
     {
-        given = vector;
-        arguments.assign(given.begin(), given.end());
-        return parser.parseVector(marker, arguments, &result, message);
+        give(vector);
+        return parser.parseVector(marker, *arguments, &result, message);
     }
-    Texts rest() const { return Texts(arguments.begin(), arguments.end()); }
+    void give(const Texts& vector)
+    {
+        arguments.reset();
+        given.emplace(vector);
+        arguments.emplace(*given);
+    }
+    // What the queue holds, which it holds then as before.
+    Texts rest()
+    {
+        const Texts left = unit::takeAll(*arguments);
+        give(left);
+        return left;
+    }
     Texts values(const wchar_t* name)
     {
         Texts texts;
@@ -47,8 +60,8 @@ protected:
 
     BasicParser parser{flag_unknown_is_error};
     ParseResult result;
-    Texts given; // what the arguments are views of
-    Arguments arguments;
+    std::optional<unit::GivenArguments> given;
+    std::optional<ArgumentQueue> arguments;
     std::wstring message = L"as before";
 };
 
@@ -91,18 +104,18 @@ TEST_F(ParserOperations, TraceKeywordIsRemovedFromTheFrontOnly)
 
 TEST_F(ParserOperations, ResultIsNotNeeded)
 {
-    arguments = {L"--name=a", L"--", L"x"};
-    EXPECT_EQ(parser.parseVector(L"--", arguments, nullptr, message), 0);
+    give({L"--name=a", L"--", L"x"});
+    EXPECT_EQ(parser.parseVector(L"--", *arguments, nullptr, message), 0);
     EXPECT_EQ(rest(), (Texts{L"--", L"x"}));
-    EXPECT_EQ(parser.parseArguments(arguments, nullptr), 0);
+    EXPECT_EQ(parser.parseArguments(*arguments, nullptr), 0);
     EXPECT_EQ(rest(), Texts());
-    EXPECT_EQ(parser.checkActions(arguments, nullptr, message), 0);
+    EXPECT_EQ(parser.checkActions(*arguments, nullptr, message), 0);
 }
 
 TEST_F(ParserOperations, ArgumentsAreParsedWithoutAProgramName)
 {
-    arguments = {L"--name=a", L"--", L"--name=b", L"x"};
-    EXPECT_EQ(parser.parseArguments(arguments, &result), 0);
+    give({L"--name=a", L"--", L"--name=b", L"x"});
+    EXPECT_EQ(parser.parseArguments(*arguments, &result), 0);
     EXPECT_EQ(rest(), Texts());
     EXPECT_EQ(values(L"name"), (Texts{L"a"}));
     const wchar_t* unparsed = nullptr;
@@ -115,8 +128,8 @@ TEST_F(ParserOperations, ArgumentsAreParsedWithoutAProgramName)
 
 TEST_F(ParserOperations, FailedArgumentsSetTheMessageOfTheParser)
 {
-    arguments = {L"--name"};
-    EXPECT_EQ(parser.parseArguments(arguments, &result), 2);
+    give({L"--name"});
+    EXPECT_EQ(parser.parseArguments(*arguments, &result), 2);
     EXPECT_EQ(parserMessage(), L"Option 'name' requires a value in argument: '--name'");
 }
 
@@ -124,14 +137,14 @@ TEST_F(ParserOperations, ActionCheckLooksAtTheResultOnly)
 {
     parser.addSwitch(L"pack", L"", value_type_boolean, L"");
     EXPECT_EQ(parseVector({L"--name=a"}), 0);
-    arguments = {L"--pack"};
-    EXPECT_EQ(parser.checkActions(arguments, &result, message), 2);
+    give({L"--pack"});
+    EXPECT_EQ(parser.checkActions(*arguments, &result, message), 2);
     EXPECT_EQ(message, L"No action defined.");
     EXPECT_EQ(parserMessage(), L"");
     EXPECT_EQ(rest(), (Texts{L"--pack"}));
     EXPECT_EQ(parseVector({L"--pack"}), 0);
     message = L"as before";
-    EXPECT_EQ(parser.checkActions(arguments, &result, message), 0);
+    EXPECT_EQ(parser.checkActions(*arguments, &result, message), 0);
     EXPECT_EQ(message, L"as before");
 }
 
@@ -152,15 +165,15 @@ TEST_F(ParserOperations, StandardExceptionPassesThroughAndAnyOtherIsACode)
 {
     Thrower<std::runtime_error> standard;
     parser.addEventHandler(&standard);
-    arguments = {L"--name=a"};
-    EXPECT_THROW(parser.parseArguments(arguments, &result), std::runtime_error);
+    give({L"--name=a"});
+    EXPECT_THROW(parser.parseArguments(*arguments, &result), std::runtime_error);
     EXPECT_EQ(parserMessage(), L"");
     EXPECT_EQ(rest(), (Texts{L"--name=a"}));
     parser.removeEventHandler(&standard);
 
     Thrower<OtherException> other;
     parser.addEventHandler(&other);
-    EXPECT_EQ(parser.parseArguments(arguments, &result), 4);
+    EXPECT_EQ(parser.parseArguments(*arguments, &result), 4);
     EXPECT_EQ(parserMessage(), L"Unidentified problem detected.");
     EXPECT_EQ(rest(), (Texts{L"--name=a"}));
     EXPECT_THROW(parseVector({L"--name=a"}), OtherException);
@@ -179,24 +192,31 @@ public:
                         std::to_wstring(valueType) + L" " + groupText);
         return refuses ? refused : BasicParser::addOption(names, description, valueType, groupText);
     }
-    result_t parseArguments(Arguments& arguments, IParseResult* result) override
+    // Arguments taken to look at them are passed on in a queue of its own.
+    result_t parseArguments(ArgumentQueue& arguments, IParseResult* result) override
     {
+        const Texts taken = unit::takeAll(arguments);
         std::wstring call = L"parseArguments";
-        for (const std::wstring_view argument : arguments)
+        for (const std::wstring& argument : taken)
         {
-            call += L" " + std::wstring(argument);
+            call += L" " + argument;
         }
         calls.push_back(call);
-        return BasicParser::parseArguments(arguments, result);
+        unit::GivenArguments given(taken);
+        ArgumentQueue again(given);
+        return BasicParser::parseArguments(again, result);
     }
-    result_t parseVector(std::wstring_view endMarker, Arguments& arguments, IParseResult* result,
-                         std::wstring& message) override
+    result_t parseVector(std::wstring_view endMarker, ArgumentQueue& arguments,
+                         IParseResult* result, std::wstring& message) override
     {
+        const Texts taken = unit::takeAll(arguments);
         calls.push_back(L"parseVector " + std::wstring(endMarker) + L" " +
-                        std::to_wstring(arguments.size()));
-        return BasicParser::parseVector(endMarker, arguments, result, message);
+                        std::to_wstring(taken.size()));
+        unit::GivenArguments given(taken);
+        ArgumentQueue again(given);
+        return BasicParser::parseVector(endMarker, again, result, message);
     }
-    result_t checkActions(const Arguments& arguments, IParseResult* result,
+    result_t checkActions(const ArgumentQueue& arguments, IParseResult* result,
                           std::wstring& message) override
     {
         calls.push_back(L"checkActions");

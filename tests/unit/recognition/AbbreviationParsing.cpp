@@ -181,17 +181,15 @@ TEST_F(AbbreviationParsing, ExceptionOfAHandlerLeavesTheArguments)
     {
         throw std::runtime_error("handler");
     };
-    Arguments arguments = {L"--name", L"v"};
+    unit::GivenArguments given({L"--name", L"v"});
     AbbreviationParser parser(handler, pool, 0);
-    {
-        ArgumentQueue queue(arguments);
-        std::wstring message;
-        std::int64_t optionIndex = -1;
-        ASSERT_EQ(parser.recognize(queue, options, message), 0);
-        EXPECT_THROW(parser.parse(queue, &collector, options, optionIndex, message),
-                     std::runtime_error);
-    }
-    EXPECT_EQ(arguments.size(), 2U);
+    ArgumentQueue queue(given);
+    std::wstring message;
+    std::int64_t optionIndex = -1;
+    ASSERT_EQ(parser.recognize(queue, options, message), 0);
+    EXPECT_THROW(parser.parse(queue, &collector, options, optionIndex, message),
+                 std::runtime_error);
+    EXPECT_EQ(unit::takeAll(queue), (Texts{L"--name", L"v"}));
     EXPECT_EQ(collector.stored, Texts());
 }
 
@@ -199,15 +197,13 @@ TEST_F(AbbreviationParsing, NothingNeedsToBeStored)
 {
     add(L"name");
     AbbreviationParser parser(handler, pool, 0);
-    Arguments arguments = {L"--name", L"v", L"next"};
-    {
-        ArgumentQueue queue(arguments);
-        std::wstring message;
-        std::int64_t optionIndex = -1;
-        ASSERT_EQ(parser.recognize(queue, options, message), 0);
-        EXPECT_EQ(parser.parse(queue, nullptr, options, optionIndex, message), 0);
-    }
-    EXPECT_EQ(arguments, (Arguments{L"next"}));
+    unit::GivenArguments given({L"--name", L"v", L"next"});
+    ArgumentQueue queue(given);
+    std::wstring message;
+    std::int64_t optionIndex = -1;
+    ASSERT_EQ(parser.recognize(queue, options, message), 0);
+    EXPECT_EQ(parser.parse(queue, nullptr, options, optionIndex, message), 0);
+    EXPECT_EQ(unit::takeAll(queue), (Texts{L"next"}));
     EXPECT_EQ(handler.events, (Texts{L"option name", L"value name v 0"}));
 }
 

@@ -17,12 +17,12 @@ class AbbreviationRecognition : public unit::RecognitionTest
 protected:
     int recognize(AbbreviationParser& parser, const std::wstring& argument)
     {
-        Arguments arguments = {argument, L"next"};
-        const ArgumentQueue queue(arguments);
+        unit::GivenArguments given({argument, L"next"});
+        ArgumentQueue queue(given);
         std::wstring message;
         const int answer = parser.recognize(queue, options, message);
         EXPECT_EQ(message, L"") << toUtf8(argument);
-        EXPECT_EQ(queue.size(), 2U) << toUtf8(argument);
+        EXPECT_EQ(unit::takeAll(queue), (Texts{argument, L"next"})) << toUtf8(argument);
         return answer;
     }
     int recognize(const std::wstring& argument)

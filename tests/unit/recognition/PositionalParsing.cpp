@@ -21,8 +21,8 @@ protected:
     int recognize(const std::wstring& argument, std::uint32_t flags = 0)
     {
         PositionalOptionsParser parser(handler, pool, flags);
-        Arguments arguments = {argument};
-        const ArgumentQueue queue(arguments);
+        unit::GivenArguments given({argument});
+        const ArgumentQueue queue(given);
         std::wstring message;
         return parser.recognize(queue, options, message);
     }

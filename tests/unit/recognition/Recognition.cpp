@@ -72,19 +72,18 @@ OptionDescription& RecognitionTest::add(const wchar_t* names, std::int32_t value
 RecognitionTest::Outcome RecognitionTest::run(IArgumentParser& parser, const Texts& arguments)
 {
     Outcome outcome;
-    Arguments views(arguments.begin(), arguments.end());
+    GivenArguments given(arguments);
+    ArgumentQueue queue(given);
+    outcome.recognized = parser.recognize(queue, options, outcome.message);
+    EXPECT_EQ(outcome.message, L"");
+    EXPECT_EQ(given.given(), 1U);
+    EXPECT_EQ(queue.front(), arguments.front());
+    if (outcome.recognized == IArgumentParser::claimed)
     {
-        ArgumentQueue queue(views);
-        outcome.recognized = parser.recognize(queue, options, outcome.message);
-        EXPECT_EQ(outcome.message, L"");
-        EXPECT_EQ(queue.size(), arguments.size());
-        if (outcome.recognized == IArgumentParser::claimed)
-        {
-            outcome.code =
-                parser.parse(queue, &collector, options, outcome.optionIndex, outcome.message);
-        }
+        outcome.code =
+            parser.parse(queue, &collector, options, outcome.optionIndex, outcome.message);
     }
-    outcome.rest.assign(views.begin(), views.end());
+    outcome.rest = takeAll(queue);
     return outcome;
 }
 

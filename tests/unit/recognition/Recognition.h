@@ -15,7 +15,9 @@
 #include "recognition/IArgumentParser.h"
 #include "result/IResultCollector.h"
 #include "support/Garbage.h"
+#include "support/SharedTexts.h"
 
+#include "GivenArguments.h"
 #include "TextPrinting.h"
 
 namespace unit
@@ -32,8 +34,12 @@ public:
                                    kexa_3_3::OptionResult& record) override;
     kexa_3_3::result_t storeValue(const kexa_3_3::OptionDescription& option,
                                   kexa_3_3::ValueEntry& value) override;
+    kexa_3_3::SharedTexts& texts() noexcept override { return m_texts; }
 
     Texts stored;
+
+private:
+    kexa_3_3::SharedTexts m_texts;
 };
 
 // Writes events down: "option NAME", "value NAME TEXT NUMBER", "unknown ARGUMENT".

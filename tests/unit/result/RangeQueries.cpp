@@ -166,6 +166,22 @@ public:
         return entry;
     }
 
+    // A record whose values need not be those of its positions.
+    OptionResult loose()
+    {
+        OptionResult record;
+        for (unsigned count = below(6); count != 0; --count)
+        {
+            record.positions.push_back(position());
+        }
+        for (unsigned count = below(6); count != 0; --count)
+        {
+            const std::int32_t at = position();
+            record.values.push_back({L"t", variant_t(at), at});
+        }
+        return record;
+    }
+
 private:
     std::mt19937_64 m_random;
 };
@@ -196,6 +212,35 @@ void expectAgreement(ParseResult& result, Walk& walk, RandomEntries& random)
             ASSERT_EQ(answerOf(result.getNextValue(&value, L"other"), value), walk.getNextValue());
             break;
         }
+    }
+}
+
+// What several records put into one list: some have values at positions of their own, some values
+// or positions only.
+TEST(RangeQueries, EveryWalkOverSeveralRecordsFollowsItsSteps)
+{
+    Garbage pool(1024);
+    OptionDescription option({L"", L""}, false, pool);
+    option.addName(L"name").addName(L"n");
+    for (unsigned seed = 0; seed < 1500; ++seed)
+    {
+        RandomEntries random(seed);
+        OptionResult all = random.entry();
+        ParseResult result;
+        OptionResult record = all;
+        ASSERT_EQ(result.storeOption(option, record), 0);
+        for (unsigned more = random.below(5); more != 0; --more)
+        {
+            record = random.loose();
+            all.positions.insert(all.positions.end(), record.positions.begin(),
+                                 record.positions.end());
+            all.values.insert(all.values.end(), record.values.begin(), record.values.end());
+            ASSERT_EQ(result.storeOption(option, record), 0);
+        }
+        Walk walk(all);
+        ASSERT_EQ(result.isPresent(L"name", lowest, no_position),
+                  walk.isPresent(lowest, no_position) ? 1 : 0);
+        ASSERT_NO_FATAL_FAILURE(expectAgreement(result, walk, random)) << "seed " << seed;
     }
 }
 

@@ -13,6 +13,7 @@
 #include "result/ParseResult.h"
 #include "support/Garbage.h"
 
+#include "StoredContents.h"
 #include "TextPrinting.h"
 
 namespace
@@ -22,23 +23,46 @@ using namespace kexa_3_3;
 using toolbox::toUtf8;
 using vexkit2::variant_t;
 
-// An entry as a line of text: "3 5 | 3 a=a, 5 7=7 | default x".
-template <class Result>
-std::wstring describe(const Result& result)
+// One value, of either kind of entry.
+template <class Entry>
+std::wstring describeValue(const Entry& entry)
+{
+    return std::to_wstring(entry.position) + L" " + std::wstring(entry.text) + L"=" +
+           valueText(entry.value);
+}
+
+// An entry as a line of text: "3 5 | 3 a=a 5 7=7 | 2147483647 x=x".
+template <class Values>
+std::wstring describe(const std::vector<std::int32_t>& positions, const Values& values)
 {
     std::wstring text;
-    for (const std::int32_t position : result.positions)
+    for (const std::int32_t position : positions)
     {
         text += std::to_wstring(position) + L" ";
     }
     text += L"|";
-    for (const auto& entry : result.values)
+    for (const auto& entry : values)
     {
-        text += L" " + std::to_wstring(entry.position) + L" " + std::wstring(entry.text) + L"=" +
-                valueText(entry.value);
+        text += L" " + describeValue(entry);
     }
-    return text + L" | " + std::wstring(result.defaultText) + L" " +
-           valueText(result.defaultValue) + L" " + std::to_wstring(result.defaultPosition);
+    return text + L" |";
+}
+std::wstring describe(const OptionResult& result)
+{
+    const std::wstring text = describe(result.positions, result.values);
+    // Without a text there is no default, whatever else is set.
+    return result.defaultText.empty()
+               ? text
+               : text + L" " +
+                     describeValue(ValueEntry{result.defaultText, result.defaultValue,
+                                         static_cast<std::int32_t>(result.defaultPosition)});
+}
+std::wstring describe(const StoredOption& stored)
+{
+    const std::wstring text = describe(unit::positionsOf(stored), unit::valuesOf(stored));
+    return stored.byDefault == nullptr
+               ? text
+               : text + L" " + describeValue(unit::storedValueOf(*stored.byDefault));
 }
 
 // The model: a map of copies.
@@ -218,9 +242,7 @@ protected:
     std::vector<std::int32_t> positions(const wchar_t* name)
     {
         const StoredOption* const stored = result.options().find(name);
-        return stored == nullptr
-                   ? std::vector<std::int32_t>{-1}
-                   : std::vector<std::int32_t>(stored->positions.begin(), stored->positions.end());
+        return stored == nullptr ? std::vector<std::int32_t>{-1} : unit::positionsOf(*stored);
     }
 
     using Positions = std::vector<std::int32_t>;

@@ -8,6 +8,7 @@
 #include "result/ParseResult.h"
 #include "support/Garbage.h"
 
+#include "StoredContents.h"
 #include "TextPrinting.h"
 
 namespace
@@ -70,12 +71,12 @@ TEST_F(StoringOptions, EveryNameFindsTheRecord)
     {
         const StoredOption* const found = stored(name);
         ASSERT_NE(found, nullptr);
-        ASSERT_EQ(found->values.size(), 1U);
-        EXPECT_STREQ(found->values[0].text, L"text");
-        EXPECT_EQ(found->values[0].value, variant_t(L"text"));
-        EXPECT_EQ(found->values[0].position, 3);
-        ASSERT_EQ(found->positions.size(), 1U);
-        EXPECT_EQ(found->positions[0], 3);
+        const std::vector<unit::StoredValue> values = unit::valuesOf(*found);
+        ASSERT_EQ(values.size(), 1U);
+        EXPECT_STREQ(values[0].text, L"text");
+        EXPECT_EQ(values[0].value, variant_t(L"text"));
+        EXPECT_EQ(values[0].position, 3);
+        EXPECT_EQ(unit::positionsOf(*found), std::vector<std::int32_t>{3});
     }
     EXPECT_EQ(stored(L"nam"), nullptr);
     EXPECT_EQ(stored(L""), nullptr);
@@ -119,20 +120,20 @@ TEST_F(StoringOptions, DefaultIsKeptAsFirstStored)
     store(option, L"x", variant_t(L"x"), 4);
     const StoredOption* const found = stored(L"n");
     ASSERT_NE(found, nullptr);
-    EXPECT_EQ(found->defaultText, L"first");
-    EXPECT_EQ(found->defaultValue, variant_t(L"first"));
-    EXPECT_EQ(found->defaultPosition, static_cast<std::uint32_t>(no_position));
-    EXPECT_EQ(found->positions.size(), 1U);
+    ASSERT_NE(found->byDefault, nullptr);
+    const unit::StoredValue kept = unit::storedValueOf(*found->byDefault);
+    EXPECT_STREQ(kept.text, L"first");
+    EXPECT_EQ(kept.value, variant_t(L"first"));
+    EXPECT_EQ(kept.position, no_position);
+    EXPECT_EQ(unit::positionsOf(*found).size(), 1U);
 }
 
 TEST_F(StoringOptions, DefaultAfterAnOccurrenceIsNotKept)
 {
     store(option, L"x", variant_t(L"x"), 4);
     storeDefault(L"late", variant_t(L"late"));
-    EXPECT_EQ(stored(L"name")->defaultText, L"");
-    EXPECT_EQ(stored(L"name")->defaultValue.kind(), 17);
-    EXPECT_EQ(stored(L"name")->defaultPosition, 0U);
-    EXPECT_EQ(stored(L"name")->values.size(), 1U);
+    EXPECT_EQ(stored(L"name")->byDefault, nullptr);
+    EXPECT_EQ(unit::valuesOf(*stored(L"name")).size(), 1U);
 }
 
 TEST_F(StoringOptions, DefaultTextIsKept)
@@ -150,7 +151,7 @@ TEST_F(StoringOptions, RecordStaysWhereItIs)
 {
     store(option, L"x", variant_t(L"x"), 0);
     const StoredOption* const before = stored(L"name");
-    const wchar_t* const text = before->values[0].text;
+    const wchar_t* const text = unit::valuesOf(*before)[0].text;
     for (std::int32_t number = 1; number < 2000; ++number)
     {
         OptionDescription other({L"", L""}, false, pool);
@@ -159,10 +160,10 @@ TEST_F(StoringOptions, RecordStaysWhereItIs)
         store(option, L"x", variant_t(number), number);
     }
     EXPECT_EQ(stored(L"name"), before);
-    EXPECT_EQ(before->values.size(), 2000U);
-    EXPECT_EQ(before->values[0].text, text);
+    EXPECT_EQ(unit::valuesOf(*before).size(), 2000U);
+    EXPECT_EQ(unit::valuesOf(*before)[0].text, text);
     EXPECT_STREQ(text, L"x");
-    EXPECT_EQ(stored(L"1999")->values.size(), 1U);
+    EXPECT_EQ(unit::valuesOf(*stored(L"1999")).size(), 1U);
 }
 
 TEST_F(StoringOptions, ReleaseDestroysTheResult)

@@ -222,4 +222,57 @@ TEST(Utf8Decoding, RowOfAsciiOfAnyLengthMayStandBeforeAndBehind)
     }
 }
 
+TEST(Utf8DecodingIntoRoom, AnswersWhatWasWrittenToItsFront)
+{
+    std::wstring room;
+    for (const char* const bytes :
+         {"a text that is rather long", "b", "", "\xC3\xA9", "\xF0\x9F\x98\x80\xFF",
+          "and another text, which is longer than all those that were there before it", "c"})
+    {
+        const std::wstring_view text = wideFromUtf8(bytes, room);
+        EXPECT_EQ(text, wideFromUtf8(bytes)) << bytes;
+        EXPECT_EQ(text.data(), room.data());
+    }
+}
+
+TEST(Utf8DecodingIntoRoom, RoomGrowsAndNeverShrinks)
+{
+    std::wstring room;
+    std::size_t before = 0;
+    for (const std::size_t length : {0U, 5U, 100U, 3U, 0U, 99U, 101U, 1000U, 1U})
+    {
+        EXPECT_EQ(wideFromUtf8(std::string(length, 'a'), room), std::wstring(length, L'a'));
+        EXPECT_GE(room.size(), before);
+        EXPECT_GE(room.size(), length);
+        before = room.size();
+    }
+}
+
+// Lines that grow by one character each would otherwise move it for every line.
+TEST(Utf8DecodingIntoRoom, RoomIsMadeSeldom)
+{
+    std::wstring room;
+    const wchar_t* where = nullptr;
+    std::size_t moves = 0;
+    std::string bytes;
+    for (int length = 1; length <= 10000; ++length)
+    {
+        bytes.push_back('a');
+        ASSERT_EQ(wideFromUtf8(bytes, room).size(), bytes.size());
+        moves += room.data() == where ? 0U : 1U;
+        where = room.data();
+    }
+    EXPECT_LE(moves, 20U);
+}
+
+TEST(Utf8DecodingIntoRoom, WhatStandsBehindIsNotPartOfIt)
+{
+    std::wstring room(50, L'?');
+    EXPECT_EQ(wideFromUtf8("ab", room), L"ab");
+    EXPECT_EQ(room.size(), 50U);
+    EXPECT_EQ(wideFromUtf8("\xE2\x82\xAC\xE2\x82", room), L"\u20AC\uFFFD");
+    EXPECT_EQ(wideFromUtf8("", room), L"");
+    EXPECT_EQ(room.size(), 50U);
+}
+
 } // namespace
