@@ -12,13 +12,13 @@
 #include "options/RegisteredOptionStorage.h"
 #include "parser/ActionCheck.h"
 #include "parser/EventForwarding.h"
-#include "recognition/ArgumentQueue.h"
 #include "support/Garbage.h"
 #include "support/InlineBlock.h"
 
 namespace kexa_3_3
 {
 
+class ArgumentQueue;
 class ParseResult;
 
 // See IParser for its operations; the three of its own come behind those in the slot order.

@@ -10,6 +10,7 @@
 #include "parser/BasicParser.h"
 #include "parser/OptionFiles.h"
 #include "recognition/AbbreviationParser.h"
+#include "recognition/ArgumentQueue.h"
 #include "recognition/PositionalOptionsParser.h"
 #include "result/ParseResult.h"
 #include "support/Text.h"
