@@ -102,6 +102,26 @@ TEST_P(GrowthWithArguments, ParsingIsLinear)
         }));
 }
 
+// Neither a value nor the text of one, nor a left-over argument, takes a block of its own.
+TEST_P(GrowthWithArguments, ParsingTakesFarFewerBlocksThanArguments)
+{
+    constexpr std::size_t arguments = 16 * smallest;
+    const CommandLine line(GetParam().style, options, arguments);
+    static_cast<void>(line.parse()); // what the first parse prepares is not counted
+    ResultPointer result;
+    EXPECT_LE(countAllocations([&] { result = line.parse(); }).blocks, arguments / 256);
+    EXPECT_EQ(line.countValues(*result), line.expectedValues());
+}
+
+TEST_P(GrowthWithArguments, ReadingTakesNoBlocks)
+{
+    const CommandLine line(GetParam().style, options, smallest);
+    const ResultPointer result = line.parse();
+    std::size_t count = 0;
+    EXPECT_EQ(countAllocations([&] { count = line.countValues(*result); }).blocks, 0U);
+    EXPECT_EQ(count, line.expectedValues());
+}
+
 TEST_P(GrowthWithArguments, ReadingIsLinear)
 {
     expectLinear(measureAt(

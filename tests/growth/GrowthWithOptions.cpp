@@ -29,15 +29,16 @@ AllocationCount countSecondParse(Style style, std::size_t options)
 }
 
 // With many options each is stored once and has a record of its own, with few it is one record that
-// grows; either way the cost of an argument has the same bound.
+// grows; either way the cost of an argument has the same bound. Blocks are taken for many arguments
+// together: one for each text among them would be a third of the arguments and more.
 void expectBounded(Style style)
 {
-    constexpr std::uint64_t blocksForEach = 4;
-    constexpr std::uint64_t bytesForEach = 1024;
+    constexpr std::uint64_t argumentsForEachBlock = 64;
+    constexpr std::uint64_t bytesForEach = 640;
     for (const std::size_t options : {few, many})
     {
         const AllocationCount count = countSecondParse(style, options);
-        EXPECT_LE(count.blocks, many * blocksForEach) << options << " options";
+        EXPECT_LE(count.blocks, many / argumentsForEachBlock) << options << " options";
         EXPECT_LE(count.bytes, many * bytesForEach) << options << " options";
     }
 }

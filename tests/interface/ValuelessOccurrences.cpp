@@ -77,7 +77,8 @@ TEST(ValuelessOccurrences, MayBeTheOnlyOnesInARange)
     EXPECT_EQ(readValues(host.result(), L"file", base + 2), Values());
     EXPECT_EQ(host.result().isPresent(L"file", base + 2, base + 3), 1);
     EXPECT_EQ(host.result().isPresent(L"file", base + 3, no_position), 0);
-    EXPECT_EQ(readValues(host.result(), L"file", base + 1, base + 2), (Values{{L"b", 13, base + 1}}));
+    EXPECT_EQ(readValues(host.result(), L"file", base + 1, base + 2),
+              (Values{{L"b", 13, base + 1}}));
     EXPECT_EQ(readValues(host.result(), L"file", base, base + 1),
               (Values{{L"a", 13, base}, {L"b", 13, base + 1}}));
 }

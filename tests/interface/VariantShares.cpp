@@ -38,10 +38,11 @@ TEST(VariantShares, DetachedWordBecomesTheSameVariantAgain)
     const wchar_t text[] = L"referred to";
     for (const variant_t& value :
          {variant_t(), variant_t(true), variant_t(false), variant_t(s32_t{-7}),
-          variant_t(vexkit2::u32_t{7}), variant_t(vexkit2::s64_t{-1} << 40), variant_t(u64_t{1} << 63),
-          variant_t(2.5F), variant_t(-2.5), variant_t("narrow"), variant_t(L"wide"), variant_t(L""),
-          variant_t::reference("referred to"), variant_t::reference(text),
-          variant_t::blob(bytes, sizeof(bytes)), variant_t::object(nullptr)})
+          variant_t(vexkit2::u32_t{7}), variant_t(vexkit2::s64_t{-1} << 40),
+          variant_t(u64_t{1} << 63), variant_t(2.5F), variant_t(-2.5), variant_t("narrow"),
+          variant_t(L"wide"), variant_t(L""), variant_t::reference("referred to"),
+          variant_t::reference(text), variant_t::blob(bytes, sizeof(bytes)),
+          variant_t::object(nullptr)})
     {
         variant_t taken = value;
         const u64_t word = taken.detach();

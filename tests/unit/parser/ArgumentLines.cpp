@@ -167,13 +167,13 @@ TEST(WideLines, EveryShortTextIsSplitAsAStreamReadsIt)
 // second byte is a blank in other encodings.
 TEST(Utf8Lines, EveryShortTextGivesTheLinesOfTheDecodedText)
 {
-    forEveryText<std::string>(
-        {"\n", "\r", " ", ";", "#", "\xC3\xA9", "\xC3", "\xFF", "\xC2\xA0"}, 5,
-        [](const std::string& bytes)
-        {
-            const std::wstring decoded = wideFromUtf8(bytes);
-            EXPECT_EQ(linesOf(bytes), linesOf(decoded)) << toUtf8(decoded);
-        });
+    forEveryText<std::string>({"\n", "\r", " ", ";", "#", "\xC3\xA9", "\xC3", "\xFF", "\xC2\xA0"},
+                              5,
+                              [](const std::string& bytes)
+                              {
+                                  const std::wstring decoded = wideFromUtf8(bytes);
+                                  EXPECT_EQ(linesOf(bytes), linesOf(decoded)) << toUtf8(decoded);
+                              });
 }
 
 TEST(Utf8Lines, LineBeforeTheLastOneIsStillThere)

@@ -196,7 +196,10 @@ TEST(Occurrences, PositionsAndValuesAreWalkedApart)
     {
         // Stretches of each kind that reach over whole pieces, and all kinds in turn.
         const std::int32_t kind = (number < 400 ? number : number / 100) % 3;
-        add(occurrences, kind == 0 ? position(number) : kind == 1 ? value(number) : both(number),
+        add(occurrences,
+            kind == 0   ? position(number)
+            : kind == 1 ? value(number)
+                        : both(number),
             arena);
         all.push_back(number);
         if (kind != 1)

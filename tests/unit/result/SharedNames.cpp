@@ -55,7 +55,7 @@ std::wstring describe(const OptionResult& result)
                ? text
                : text + L" " +
                      describeValue(ValueEntry{result.defaultText, result.defaultValue,
-                                         static_cast<std::int32_t>(result.defaultPosition)});
+                                              static_cast<std::int32_t>(result.defaultPosition)});
 }
 std::wstring describe(const StoredOption& stored)
 {
