@@ -47,10 +47,16 @@ inline bool sync_dec(reference_count_t& count) noexcept
 // Stands at the front of memory that blocks lie in: one block, or many that are freed together.
 struct shared_memory_t
 {
-    reference_count_t count;     // of the shares in all its blocks
-    const void* owner = nullptr; // who makes blocks in it; null where it holds a single one
+    reference_count_t count; // of the shares in all its blocks
 
-    explicit shared_memory_t(std::size_t shares) noexcept : count(shares) {}
+    // Who makes blocks in it; null where it holds a single one, and once its maker is gone. The
+    // maker may go while another thread asks whether it is one itself.
+    std::atomic<const void*> owner;
+
+    explicit shared_memory_t(std::size_t shares, const void* maker = nullptr) noexcept
+        : count(shares), owner(maker)
+    {
+    }
 };
 
 // Stands ahead of the data in a block.

@@ -19,7 +19,8 @@ SharedTexts::~SharedTexts()
         Region* const region = m_newest;
         m_newest = region->previous;
         const std::size_t held = region->held;
-        region->owner = nullptr; // another object may come to live at this address
+        // Another object may come to live at this address, once its memory was freed.
+        region->owner.store(nullptr, std::memory_order_relaxed);
         if (region->count.fetch_sub(held, std::memory_order_acq_rel) == held)
         {
             ::operator delete(region);

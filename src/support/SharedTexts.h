@@ -1,6 +1,7 @@
 // The texts of many variants, laid side by side.
 #pragma once
 
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -44,7 +45,8 @@ public:
     [[nodiscard]] bool made(const vexkit2::variant_t& text) const
     {
         const void* const data = text.get<const wchar_t*>();
-        return vexkit2::detail::header_of(data)->memory->owner == this;
+        const auto& owner = vexkit2::detail::header_of(data)->memory->owner;
+        return owner.load(std::memory_order_relaxed) == this;
     }
 
     // Takes the share of a variant back that was made here. Answers its data word, which stays
@@ -60,10 +62,9 @@ private:
     struct Region : vexkit2::detail::shared_memory_t
     {
         Region(const void* maker, Region* before) noexcept
-            : shared_memory_t(std::numeric_limits<std::size_t>::max() / 2), held(count),
+            : shared_memory_t(std::numeric_limits<std::size_t>::max() / 2, maker), held(count),
               previous(before)
         {
-            owner = maker;
         }
         std::size_t held; // of its shares by the maker
         Region* previous;
