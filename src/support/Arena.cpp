@@ -4,13 +4,15 @@
 #include <limits>
 #include <new>
 
+#include "support/LargePages.h"
+
 namespace kexa_3_3
 {
 
 namespace
 {
 
-constexpr std::size_t largest_shared_block = std::size_t{1} << 20;
+constexpr std::size_t largest_shared_block = std::size_t{1} << 23;
 
 } // namespace
 
@@ -45,6 +47,10 @@ std::byte* Arena::addBlock(std::size_t size)
         throw std::bad_alloc();
     }
     void* const memory = ::operator new(sizeof(Block) + size);
+    if (size >= large_block)
+    {
+        preferLargePages(memory, sizeof(Block) + size);
+    }
     m_blocks = new (memory) Block{m_blocks};
     return static_cast<std::byte*>(memory) + sizeof(Block);
 }

@@ -2,13 +2,15 @@
 
 #include <algorithm>
 
+#include "support/LargePages.h"
+
 namespace kexa_3_3
 {
 
 namespace
 {
 
-constexpr std::size_t largest_region = std::size_t{1} << 20;
+constexpr std::size_t largest_region = std::size_t{1} << 23;
 
 } // namespace
 
@@ -40,6 +42,10 @@ void SharedTexts::makeRoom(std::wstring_view text)
     }
     const std::size_t size = std::max(m_nextSize, sizeOf(text));
     void* const memory = ::operator new(sizeof(Region) + size);
+    if (size >= large_block)
+    {
+        preferLargePages(memory, sizeof(Region) + size);
+    }
     m_newest = new (memory) Region(this, m_newest);
     m_free = static_cast<std::byte*>(memory) + sizeof(Region);
     m_left = size;
