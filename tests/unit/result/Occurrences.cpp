@@ -92,7 +92,7 @@ TEST(Occurrences, NewListIsEmpty)
     EXPECT_EQ(from(occurrences, occurrences.placeOf(0), &Occurrences::nextValue), Positions());
 }
 
-TEST(Occurrences, FirstOneTakesWatchedArena)
+TEST(Occurrences, FirstOneTakesNoMemory)
 {
     WatchedArena memory;
     Occurrences occurrences;
@@ -267,6 +267,26 @@ TEST(Occurrences, RoomMadeOnceSufficesForAll)
             EXPECT_EQ(occurrences.size(), static_cast<std::size_t>(number));
             EXPECT_EQ(allOf(occurrences), upTo(number));
         }
+    }
+}
+
+// Room may be made twice before it is used: the pieces behind the last occurrence are empty.
+TEST(Occurrences, RoomThatIsNotUsedYetIsNotSeen)
+{
+    Arena arena(64);
+    Occurrences occurrences;
+    occurrences.reserveMore(3, arena);
+    occurrences.reserveMore(100, arena);
+    for (std::int32_t count = 0; count < 100; ++count)
+    {
+        ASSERT_EQ(allOf(occurrences), upTo(count));
+        Occurrences::Place byIndex = occurrences.placeOf(occurrences.size());
+        Occurrences::Place byEnd = occurrences.end();
+        ASSERT_EQ(occurrences.next(byIndex), nullptr);
+        ASSERT_EQ(occurrences.next(byEnd), nullptr);
+        occurrences.append(both(count));
+        ASSERT_EQ(from(occurrences, byIndex, &Occurrences::next), Positions{count});
+        ASSERT_EQ(from(occurrences, byEnd, &Occurrences::next), Positions{count});
     }
 }
 
