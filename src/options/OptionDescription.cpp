@@ -96,9 +96,11 @@ void OptionDescription::enterInto(OptionIndex& index, std::size_t tableIndex,
                                   std::span<const std::size_t> slots) noexcept
 {
     m_place.held = {&index, tableIndex};
-    for (std::size_t position = 0; position < slots.size(); ++position)
+    const bool boolean = valueType == value_type_boolean;
+    const HashedText* name = names.begin();
+    for (const std::size_t slot : slots)
     {
-        index.add(names[position], tableIndex, valueType == value_type_boolean, slots[position]);
+        index.add(*name++, tableIndex, boolean, slot);
     }
     notePositional();
 }
@@ -112,15 +114,6 @@ const AllowedValueIndex& OptionDescription::allowedValueIndex() const
                                                     restriction()->deprecatedValues);
     }
     return *index;
-}
-
-// NOLINTNEXTLINE(readability-make-member-function-const): it changes the index.
-void OptionDescription::notePositional()
-{
-    if (m_place.held.index != nullptr && isPositional())
-    {
-        m_place.held.index->notePositional(m_place.held.tableIndex);
-    }
 }
 
 } // namespace kexa_3_3

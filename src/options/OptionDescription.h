@@ -143,7 +143,14 @@ private:
     {
         return !keywords.empty() && keywords.contains(positional_keyword);
     }
-    void notePositional();
+    // NOLINTNEXTLINE(readability-make-member-function-const): it changes the index.
+    void notePositional()
+    {
+        if (m_place.held.index != nullptr && isPositional())
+        {
+            m_place.held.index->notePositional(m_place.held.tableIndex);
+        }
+    }
 
     NotCopied<Place> m_place;
     Lazy<ValueRestriction> m_restriction;

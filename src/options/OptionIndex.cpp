@@ -16,6 +16,7 @@ namespace
 {
 
 constexpr std::size_t expected_names = 32; // room taken at once, for programs of usual size
+constexpr std::size_t most_names = 0x7FFFFFFF;
 
 // The smaller index of the two, where `none` counts as larger than any.
 std::int64_t firstOf(std::int64_t left, std::int64_t right) noexcept
@@ -43,7 +44,7 @@ OptionIndex::OptionIndex(std::pmr::memory_resource& memory) noexcept
 void OptionIndex::grow(std::size_t count)
 {
     const std::size_t room = std::max({m_count + count, std::size_t{2} * m_room, expected_names});
-    if (room > no_option)
+    if (room > most_names)
     {
         throw std::bad_alloc();
     }
@@ -119,7 +120,7 @@ void OptionIndex::sortNames() const
     for (auto number = static_cast<std::uint32_t>(m_sorted.size()); number < m_count; ++number)
     {
         const Name& name = m_names[number];
-        sorted.push_back({*name.text, name.option, name.boolean, number});
+        sorted.push_back({*name.text, name.option, number & 0x7FFFFFFF, name.boolean ? 1U : 0U});
     }
     std::sort(sorted.begin() + known, sorted.end(), before);
     std::inplace_merge(sorted.begin(), sorted.begin() + known, sorted.end(), before);

@@ -37,21 +37,21 @@ class OptionIndex
     struct Name
     {
         const HashedText* text;
-        std::uint32_t option : 31;
-        std::uint32_t boolean : 1;
+        std::uint32_t option;
 
         // The first options with this text as a name, and the first boolean one. Kept in the name
         // that was added first where several have one text.
         std::uint32_t first;
         std::uint32_t firstBoolean;
+        bool boolean;
     };
 
     struct SortedName
     {
         std::wstring_view text;
-        std::uint32_t option : 31;
+        std::uint32_t option;
+        std::uint32_t number : 31; // of m_names
         std::uint32_t boolean : 1;
-        std::uint32_t number; // of m_names
     };
 
     [[nodiscard]] auto textOf() const noexcept
@@ -123,18 +123,17 @@ public:
     void add(const HashedText& name, std::size_t option, bool boolean, std::size_t slot) noexcept
     {
         const auto index = static_cast<std::uint32_t>(option);
+        const std::uint32_t number = m_count++;
         slot = m_slots.slotFrom(slot, name, textOf());
-        if (isTaken(slot))
+        if (isTaken(slot)) [[unlikely]]
         {
             share(m_names[m_slots.numberAt(slot)], index, boolean);
         }
         else
         {
-            m_slots.put(slot, m_count, name);
+            m_slots.put(slot, number, name);
         }
-        m_names[m_count] = {&name, index & 0x7FFFFFFF, boolean ? 1U : 0U, index,
-                            boolean ? index : no_option};
-        ++m_count;
+        m_names[number] = {&name, index, index, boolean ? index : no_option, boolean};
     }
 
     // The first option, in table order, with exactly this name.

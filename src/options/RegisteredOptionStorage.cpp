@@ -23,11 +23,15 @@ constexpr std::size_t longest_short_form = 2;
 constexpr std::size_t expected_options = 32; // room taken at once, for programs of usual size
 constexpr std::size_t largest_table_in_pool = 2048; // bytes; larger ones are freed as they grow
 
-// Whether what is declared, a group with or without a text, is of the group with the name.
-[[nodiscard]] bool namesGroup(const wchar_t* declared, std::wstring_view name) noexcept
+// The first ',' of a text, or its end.
+[[nodiscard]] const wchar_t* endOfPiece(const wchar_t* text) noexcept
 {
-    return std::wcsncmp(declared, name.data(), name.size()) == 0 &&
-           (declared[name.size()] == L':' || declared[name.size()] == L'\0');
+    // Nearly all characters of names have greater codes, so one comparison is enough for them.
+    while (*text > L',' || (*text != L',' && *text != L'\0'))
+    {
+        ++text;
+    }
+    return text;
 }
 
 template <class T>
@@ -63,27 +67,37 @@ const Registration& RegisteredOptionStorage::registerOption(const wchar_t* names
                                                             const wchar_t* groupText)
 {
     m_lastRegistration = {nullptr, refused};
-    const Group& group = groupOf(groupText == nullptr ? L"" : groupText);
-    const std::wstring_view allNames = viewOf(names);
-    const std::size_t nameCount = acceptNames(allNames);
-    if (nameCount == 0)
+    const wchar_t* const declaredGroup = groupText == nullptr ? L"" : groupText;
+    // Declarations of a group usually stand together.
+    if (!isOfLastGroup(declaredGroup)) [[unlikely]]
     {
+        changeGroup(declaredGroup);
+    }
+    const std::wstring_view allNames = findNames(names == nullptr ? L"" : names);
+    if (!acceptsNames()) [[unlikely]]
+    {
+        return m_lastRegistration;
+    }
+    if (m_isNameTaken) [[unlikely]]
+    {
+        reportTaken(allNames);
         return m_lastRegistration;
     }
 
     reserveMore(m_options, 1, expected_options);
-    // What a failure leaves behind lies in the owner's memory, and is nothing to be destroyed.
-    OptionDescription& option =
-        makeOption(group, isSwitch, allNames, nameCount, viewOf(description));
+    OptionDescription& option = makeOption(allNames, viewOf(description), isSwitch);
     option.valueType = valueType;
-    option.addKeywords(keywords);
+    // Where this fails, what it leaves behind lies in the owner's memory and needs no destruction.
+    if (keywords != nullptr)
+    {
+        option.addKeywords(keywords);
+    }
     if (isSwitch)
     {
         option.addKeywords(names);
     }
-    option.separator = m_defaultSeparator;
 
-    option.enterInto(m_index, m_options.size(), std::span(m_slots).first(nameCount));
+    option.enterInto(m_index, m_options.size(), {m_slots.data(), m_nameCount});
     m_options.push_back(&option);
     m_actionCount += isSwitch ? 1 : 0;
     m_lastRegistration = {&option, registered};
@@ -113,14 +127,17 @@ const OptionDescription* RegisteredOptionStorage::find(const HashedText& name) c
     return found == OptionIndex::none ? nullptr : m_options[static_cast<std::size_t>(found)];
 }
 
-// The group that a declaration names, added to the list where it is new.
-const RegisteredOptionStorage::Group& RegisteredOptionStorage::groupOf(const wchar_t* declared)
+// Whether what is declared, a group with or without a text, is the group declared last.
+bool RegisteredOptionStorage::isOfLastGroup(const wchar_t* declared) const noexcept
 {
-    // Declarations of a group usually stand together.
-    if (m_lastGroup < m_groups.size() && namesGroup(declared, m_groups[m_lastGroup].first))
-    {
-        return m_groups[m_lastGroup];
-    }
+    const std::wstring_view name = m_lastGroup.first;
+    return name.data() != nullptr && std::wcsncmp(declared, name.data(), name.size()) == 0 &&
+           (declared[name.size()] == L':' || declared[name.size()] == L'\0');
+}
+
+// Finds the group that is declared, and adds it to the list where it is new.
+void RegisteredOptionStorage::changeGroup(const wchar_t* declared)
+{
     const std::wstring_view groupText(declared);
     const std::size_t colon = std::min(groupText.find(L':'), groupText.size());
     const std::wstring_view name = groupText.substr(0, colon);
@@ -133,75 +150,85 @@ const RegisteredOptionStorage::Group& RegisteredOptionStorage::groupOf(const wch
         m_groups.emplace_back(m_owner.keep(name), m_owner.keep(text));
         number = m_groupNames.insert(HashedText(hashedName, m_groups.back().first));
     }
-    m_lastGroup = number;
-    return m_groups[number];
+    m_lastGroup = m_groups[number];
 }
 
-// Splits the names text into m_names and applies the rules for names. Answers how many there are, 0
-// where they are refused.
-std::size_t RegisteredOptionStorage::acceptNames(std::wstring_view names)
+// Splits a text into m_names at every ',' and finds their places in the index. Answers the whole
+// text. In one walk: names are so short that finding each of their ends by itself takes longer.
+std::wstring_view RegisteredOptionStorage::findNames(const wchar_t* text)
 {
+    m_index.reserve(most_names); // so that what is found out about their places stays true
     std::size_t count = 0;
-    forEachPiece(names, L',',
-                 [this, &count](std::wstring_view name)
-                 {
-                     if (count < most_names)
-                     {
-                         m_names[count] = HashedText(name);
-                     }
-                     ++count;
-                 });
-    if (count > most_names || (count == most_names && m_names.back().size() > longest_short_form))
-    {
-        return 0;
-    }
-    m_index.reserve(count);
     bool taken = false;
-    for (std::size_t position = 0; position < count; ++position)
+    const wchar_t* end = text;
+    for (const wchar_t* begin = text;; begin = end + 1)
     {
-        m_slots[position] = m_index.slotOf(m_names[position]);
-        taken = taken || m_index.isTaken(m_slots[position]);
+        end = endOfPiece(begin);
+        if (end != begin)
+        {
+            if (count < most_names)
+            {
+                const HashedText name(std::wstring_view(begin, end));
+                m_names[count] = name;
+                m_slots[count] = m_index.slotOf(name);
+                taken = taken || m_index.isTaken(m_slots[count]);
+            }
+            ++count;
+        }
+        if (*end == L'\0')
+        {
+            break;
+        }
     }
-    if (taken)
-    {
-        // Past the stream: parsers in several threads may be declaring at the same time.
-        const std::wstring line =
-            concatenate({L"Tried to register an option with a name, which is alread registered: ",
-                         names, L"\n"});
-        static_cast<void>(internal::writeConsole(internal::ConsoleTarget::output, line));
-    }
-    return taken ? 0 : count;
+    m_nameCount = count;
+    m_isNameTaken = taken;
+    return {text, end};
 }
 
-// Makes an option in one piece of memory: behind the object come its names, then the texts of all
-// names, copied at once, and the description. In the copy a zero takes the place of every
-// separator.
-OptionDescription& RegisteredOptionStorage::makeOption(const Group& group, bool isSwitch,
-                                                       std::wstring_view names,
-                                                       std::size_t nameCount,
-                                                       std::wstring_view description)
+// Applies the rules for names by themselves.
+bool RegisteredOptionStorage::acceptsNames() const noexcept
+{
+    return m_nameCount != 0 &&
+           (m_nameCount < most_names ||
+            (m_nameCount == most_names && m_names.back().size() <= longest_short_form));
+}
+
+void RegisteredOptionStorage::reportTaken(std::wstring_view names)
+{
+    // Past the stream: parsers in several threads may be declaring at the same time.
+    const std::wstring line = concatenate(
+        {L"Tried to register an option with a name, which is alread registered: ", names, L"\n"});
+    static_cast<void>(internal::writeConsole(internal::ConsoleTarget::output, line));
+}
+
+// Makes an option of the last group in one piece of memory: behind the object come its names, then
+// the texts of all names, copied at once, and the description. In the copy a zero takes the place
+// of every separator.
+OptionDescription& RegisteredOptionStorage::makeOption(std::wstring_view allNames,
+                                                       std::wstring_view description, bool isSwitch)
 {
     static_assert(sizeof(OptionDescription) % alignof(HashedText) == 0 &&
                   sizeof(HashedText) % alignof(wchar_t) == 0);
-    const std::size_t textStart = sizeof(OptionDescription) + nameCount * sizeof(HashedText);
-    const std::size_t characters = names.size() + 1 + description.size() + 1;
+    const std::size_t textStart = sizeof(OptionDescription) + m_nameCount * sizeof(HashedText);
+    const std::size_t characters = allNames.size() + 1 + description.size() + 1;
     void* const memory =
         m_owner.memory().take(textStart + characters * sizeof(wchar_t), alignof(OptionDescription));
     std::byte* const bytes = static_cast<std::byte*>(memory);
-    auto* const ownNames = placeAt<HashedText>(bytes + sizeof(OptionDescription));
+    auto* const names = placeAt<HashedText>(bytes + sizeof(OptionDescription));
     auto* const text = placeAt<wchar_t>(bytes + textStart);
 
-    Garbage::copyInto(text, names);
-    for (std::size_t position = 0; position < nameCount; ++position)
+    Garbage::copyInto(text, allNames);
+    for (std::size_t position = 0; position < m_nameCount; ++position)
     {
         const HashedText& name = m_names[position];
-        wchar_t* const own = text + (name.data() - names.data());
+        wchar_t* const own = text + (name.data() - allNames.data());
         own[name.size()] = L'\0';
-        std::construct_at(ownNames + position, name, std::wstring_view(own, name.size()));
+        std::construct_at(names + position, name, std::wstring_view(own, name.size()));
     }
-    OptionDescription* const option = new (memory)
-        OptionDescription(group, isSwitch, m_owner, std::span<HashedText>(ownNames, nameCount));
-    option->description = Garbage::copyInto(text + names.size() + 1, description);
+    auto* const option =
+        new (memory) OptionDescription(m_lastGroup, isSwitch, m_owner, {names, m_nameCount});
+    option->description = Garbage::copyInto(text + allNames.size() + 1, description);
+    option->separator = m_defaultSeparator;
     return *option;
 }
 

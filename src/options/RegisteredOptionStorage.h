@@ -90,11 +90,13 @@ public:
 private:
     static constexpr std::size_t most_names = 3;
 
-    [[nodiscard]] const Group& groupOf(const wchar_t* declared);
-    [[nodiscard]] std::size_t acceptNames(std::wstring_view names);
-    [[nodiscard]] OptionDescription& makeOption(const Group& group, bool isSwitch,
-                                                std::wstring_view names, std::size_t nameCount,
-                                                std::wstring_view description);
+    [[nodiscard]] bool isOfLastGroup(const wchar_t* declared) const noexcept;
+    void changeGroup(const wchar_t* declared);
+    [[nodiscard]] std::wstring_view findNames(const wchar_t* text);
+    [[nodiscard]] bool acceptsNames() const noexcept;
+    static void reportTaken(std::wstring_view names);
+    [[nodiscard]] OptionDescription& makeOption(std::wstring_view allNames,
+                                                std::wstring_view description, bool isSwitch);
 
     wchar_t m_defaultSeparator;
     Garbage& m_owner;
@@ -103,14 +105,17 @@ private:
     std::vector<Group> m_groups;
     Registration m_lastRegistration = {nullptr, 1};
 
-    TextTable m_groupNames;      // numbers are indices of m_groups
-    std::size_t m_lastGroup = 0; // index of the group declared last
+    TextTable m_groupNames; // numbers are indices of m_groups
+    Group m_lastGroup;      // declared last; without texts before the first one
     OptionIndex m_index;
     std::size_t m_actionCount = 0;
 
-    // The names of the declaration at work, and their places in the index.
+    // The names of the declaration at work, their places in the index, and whether another name is
+    // at one of them.
+    std::size_t m_nameCount = 0;
     std::array<HashedText, most_names> m_names;
     std::array<std::size_t, most_names> m_slots = {};
+    bool m_isNameTaken = false;
 };
 
 } // namespace kexa_3_3

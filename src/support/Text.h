@@ -43,7 +43,7 @@ void forEachPiece(std::wstring_view text, wchar_t separator, Use use)
         const std::size_t end = found == std::wstring_view::npos ? text.size() : found;
         if (end > position)
         {
-            use(text.substr(position, end - position));
+            use(std::wstring_view(text.data() + position, end - position));
         }
         position = end + 1;
     }
