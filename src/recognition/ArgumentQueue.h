@@ -39,6 +39,7 @@ public:
 
     // source: outlives the queue.
     explicit ArgumentQueue(ArgumentSource& source) : m_source(&source), m_empty(!fetch(m_front)) {}
+    ~ArgumentQueue() = default;
     ArgumentQueue(const ArgumentQueue&) = delete;
     ArgumentQueue& operator=(const ArgumentQueue&) = delete;
 

@@ -49,13 +49,16 @@ public:
         return owner.load(std::memory_order_relaxed) == this;
     }
 
-    // Takes the share of a variant back that was made here. Answers its data word, which stays
-    // valid as long as this object lives.
-    std::uint64_t takeBack(vexkit2::variant_t& text) noexcept
+    // Takes the share of a variant back from one whose block was made here. Answers its data word,
+    // which stays valid as long as the maker lives.
+    static std::uint64_t takeBack(vexkit2::variant_t& text) noexcept
     {
-        const void* const data = text.get<const wchar_t*>();
+        const std::uint64_t word = text.detach();
+        const void* data = nullptr;
+        std::memcpy(&data, &word, sizeof(data));
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-static-cast-downcast): it makes nothing else.
         ++static_cast<Region*>(vexkit2::detail::header_of(data)->memory)->held;
-        return text.detach();
+        return word;
     }
 
 private:
