@@ -248,21 +248,21 @@ TEST(Utf8DecodingIntoRoom, RoomGrowsAndNeverShrinks)
     }
 }
 
-// Lines that grow by one character each would otherwise move it for every line.
+// Texts that grow by one character each would otherwise have it filled for every one.
 TEST(Utf8DecodingIntoRoom, RoomIsMadeSeldom)
 {
     std::wstring room;
-    const wchar_t* where = nullptr;
-    std::size_t moves = 0;
+    std::size_t before = 0;
+    std::size_t changes = 0;
     std::string bytes;
     for (int length = 1; length <= 10000; ++length)
     {
         bytes.push_back('a');
         ASSERT_EQ(wideFromUtf8(bytes, room).size(), bytes.size());
-        moves += room.data() == where ? 0U : 1U;
-        where = room.data();
+        changes += room.size() == before ? 0U : 1U;
+        before = room.size();
     }
-    EXPECT_LE(moves, 20U);
+    EXPECT_LE(changes, 20U);
 }
 
 TEST(Utf8DecodingIntoRoom, WhatStandsBehindIsNotPartOfIt)
