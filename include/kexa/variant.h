@@ -149,6 +149,13 @@ public:
 
     s32_t kind() const noexcept { return m_type; }
 
+    // The memory that the block of the variant lies in; null where it has none.
+    const detail::shared_memory_t* memory() const noexcept
+    {
+        return owns_block() && m_value.m_data != nullptr ? detail::header_of(m_value.m_data)->memory
+                                                         : nullptr;
+    }
+
     // Whether both hold a wide text and these lie in one piece of memory, so that they could trade
     // their shares.
     bool lies_beside(const variant_t& other) const noexcept;

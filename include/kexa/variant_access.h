@@ -37,9 +37,7 @@ inline void variant_t::set_data(s32_t kind, const void* bytes, std::size_t lengt
 
 inline bool variant_t::lies_beside(const variant_t& other) const noexcept
 {
-    return m_type == kind_wide_text && other.m_type == kind_wide_text &&
-           detail::header_of(m_value.m_data)->memory ==
-               detail::header_of(other.m_value.m_data)->memory;
+    return m_type == kind_wide_text && other.m_type == kind_wide_text && memory() == other.memory();
 }
 
 inline u64_t variant_t::detach() noexcept

@@ -417,9 +417,9 @@ Occurrence OptionResultTable::take(ValueEntry& entry) noexcept
                              .position = entry.position,
                              .kind = static_cast<std::uint16_t>(entry.value.kind()),
                              .isValue = true};
-    if (occurrence.kind == vexkit2::kind_wide_text && m_texts.made(entry.value))
+    if (m_texts.made(entry.value))
     {
-        occurrence.word = m_texts.takeBack(entry.value);
+        occurrence.word = SharedTexts::takeBack(entry.value);
     }
     else
     {

@@ -182,6 +182,7 @@ const Occurrence* ParseResult::nextInRange() noexcept
     return next;
 }
 
+// NOLINTNEXTLINE(bugprone-exception-escape): the copy shares a block that is there.
 result_t ParseResult::answer(Value* out, const Occurrence* found) noexcept
 {
     const result_t code = found != nullptr ? result_success : result_nothing;

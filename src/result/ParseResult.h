@@ -55,6 +55,7 @@ private:
     [[nodiscard]] bool beginQuery(const wchar_t* name, std::int32_t from, std::int32_t to) noexcept;
     [[nodiscard]] const Occurrence* nextValue() noexcept;
     [[nodiscard]] const Occurrence* nextInRange() noexcept;
+    // NOLINTNEXTLINE(bugprone-exception-escape): as in the definition.
     [[nodiscard]] static result_t answer(Value* out, const Occurrence* found) noexcept;
 
     InlineBlock<6144> m_firstBlock; // holds what a command line of usual size leaves

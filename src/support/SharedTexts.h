@@ -41,12 +41,11 @@ public:
         return place(text);
     }
 
-    // Whether the block of a wide-text variant was made here.
-    [[nodiscard]] bool made(const vexkit2::variant_t& text) const
+    // Whether the block of a variant was made here.
+    [[nodiscard]] bool made(const vexkit2::variant_t& text) const noexcept
     {
-        const void* const data = text.get<const wchar_t*>();
-        const auto& owner = vexkit2::detail::header_of(data)->memory->owner;
-        return owner.load(std::memory_order_relaxed) == this;
+        const vexkit2::detail::shared_memory_t* const memory = text.memory();
+        return memory != nullptr && memory->owner.load(std::memory_order_relaxed) == this;
     }
 
     // Takes the share of a variant back from one whose block was made here. Answers its data word,
