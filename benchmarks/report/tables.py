@@ -188,8 +188,8 @@ def option_file(results):
     return table(["lines", "parsing the file", "parsing the same from memory",
                   "reading the file alone"], rows) + "\n\n" + (
         f"The file of 1,000,000 lines has {megabytes['bytes']}. Its result must hold at least "
-        f"{megabytes['least_result_bytes']} (each text once as wide text, 16 bytes of variant, a "
-        f"pointer and two positions for each value). Parsing it adds at its peak "
+        f"{megabytes['least_result_bytes']} (each text once as wide text; for each value a "
+        f"pointer to it, a typed value of 12 bytes and a position). Parsing it adds at its peak "
         f"{megabytes['peak_bytes']} of resident memory, of which "
         f"{megabytes['resident_bytes_after']} stay with the result.")
 

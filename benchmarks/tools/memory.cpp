@@ -74,12 +74,12 @@ void printValue(const Peer& peer, const Workload& workload)
                     static_cast<double>(workload.arguments().size()));
 }
 
-// For each value its text once, ended by a zero; the variant with the typed value; the position of
-// the value and of its occurrence; a pointer to the text.
+// For each value its text once, ended by a zero, and a pointer to it; the data word and the kind of
+// its variant; its position.
 std::size_t leastResultSize(const Workload& workload)
 {
     constexpr std::size_t fixedPart =
-        sizeof(vexkit2::variant_t) + 2 * sizeof(std::int32_t) + sizeof(const wchar_t*);
+        sizeof(const wchar_t*) + sizeof(std::uint64_t) + 2 * sizeof(std::int32_t);
     std::size_t size = 0;
     for (const std::string& argument : workload.arguments())
     {

@@ -149,6 +149,9 @@ public:
 
     s32_t kind() const noexcept { return m_type; }
 
+    // The following four are for the library, which keeps the words of many variants in its own
+    // records. A host has no use for them.
+
     // The memory that the block of the variant lies in; null where it has none.
     const detail::shared_memory_t* memory() const noexcept
     {
@@ -198,8 +201,8 @@ public:
 private:
     union storage_t
     {
+        u64_t m_u64; // first, so that all of it is set to zero
         bool m_bool;
-        u64_t m_u64;
         double m_double;
         void* m_data;
         const void* m_reference;

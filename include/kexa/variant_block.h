@@ -89,7 +89,8 @@ inline void* allocate_block(std::size_t length)
         throw std::bad_alloc();
     }
     auto* const memory = new (::operator new(length + extra)) shared_memory_t(1);
-    void* const data = new (memory + 1) block_header_t{memory, length} + 1;
+    auto* const header = new (memory + 1) block_header_t{memory, length};
+    void* const data = header + 1;
     std::memset(static_cast<char*>(data) + length, 0, 2 * sizeof(wchar_t));
     return data;
 }

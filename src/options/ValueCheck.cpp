@@ -9,6 +9,7 @@
 #include "options/ValueText.h"
 #include "options/ValueType.h"
 #include "support/ConsoleStreams.h"
+#include "support/SharedTexts.h"
 #include "support/Text.h"
 
 namespace kexa_3_3
@@ -87,6 +88,10 @@ ValueVerdict checkValue(const OptionDescription& option, std::wstring_view text,
         if (matches.count == 1)
         {
             match = matches.candidate;
+            if (texts != nullptr)
+            {
+                texts->discard(value);
+            }
             value = makeText(matches.text, texts);
             verdict = ValueVerdict::changed;
         }

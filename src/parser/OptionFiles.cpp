@@ -64,24 +64,34 @@ result_t readFile(const std::wstring& name, const OptionFiles::ParseFile& parseF
 
 } // namespace
 
-OptionFiles::OptionFiles(OptionResultTable& options) : m_options(options), m_next(0)
+OptionFiles::OptionFiles(OptionResultTable& options)
+    : m_options(options), m_record(resultOf(options)), m_next(0)
 {
-    const StoredOption* const result = resultOf(options);
-    m_next = result == nullptr ? 0 : result->occurrences.size();
+    if (m_record != nullptr)
+    {
+        m_place = m_record->occurrences.end();
+        m_next = m_record->occurrences.size();
+    }
 }
 
 result_t OptionFiles::readAll(const ParseFile& parseFile, std::wstring& message)
 {
-    // The record is looked up each time: a file may bring the first value, or more of them.
+    // The record is looked up each time: a file may bring the first value, more of them, or another
+    // record, where an option has the name besides others.
     for (;;)
     {
-        const StoredOption* const result = resultOf(m_options);
-        if (result == nullptr || m_next == result->occurrences.size())
+        const StoredOption* const record = resultOf(m_options);
+        if (record == nullptr || m_next >= record->occurrences.size())
         {
             return result_success;
         }
-        Occurrences::Place place = result->occurrences.placeOf(m_next++);
-        const Occurrence& occurrence = *result->occurrences.next(place);
+        if (record != m_record)
+        {
+            m_record = record;
+            m_place = record->occurrences.placeOf(m_next);
+        }
+        const Occurrence& occurrence = *record->occurrences.next(m_place);
+        ++m_next;
         if (!occurrence.isValue)
         {
             continue;

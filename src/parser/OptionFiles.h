@@ -34,7 +34,9 @@ public:
 
 private:
     OptionResultTable& m_options;
-    std::size_t m_next; // index of the first occurrence not looked at
+    const StoredOption* m_record; // the one that was looked at last, or null
+    Occurrences::Place m_place;   // of the first occurrence in it not looked at
+    std::size_t m_next;           // the same as an index
     std::set<std::wstring> m_read;
 };
 

@@ -49,7 +49,7 @@ public:
     // behind the next one is asked for.
     [[nodiscard]] std::wstring_view front() const noexcept { return m_front; }
 
-    // Whether there is an argument behind the front one, and which.
+    // Whether there is an argument behind the front one. `second` is it then.
     [[nodiscard]] bool hasSecond()
     {
         if (m_second == Second::unknown)

@@ -78,8 +78,8 @@ int ValueStoring::store(std::wstring_view value, std::wstring& error,
                         const OptionDescription& option, std::wstring_view argument,
                         IResultCollector* collector)
 {
-    const Occurrence occurrence = {option, value, argument, option.separator, collector};
-    const int code = value.empty() ? storeWithoutValue(occurrence) : storeValues(occurrence, error);
+    const GivenValue given = {option, value, argument, option.separator, collector};
+    const int code = value.empty() ? storeWithoutValue(given) : storeValues(given, error);
     if (code == stored)
     {
         traceLine(m_parser.name(), L": stored option to result container.");
@@ -87,47 +87,47 @@ int ValueStoring::store(std::wstring_view value, std::wstring& error,
     return code;
 }
 
-int ValueStoring::storeWithoutValue(const Occurrence& occurrence)
+int ValueStoring::storeWithoutValue(const GivenValue& given)
 {
     OptionResult record;
     record.positions.push_back(nextSequenceNumber());
-    if (occurrence.collector != nullptr)
+    if (given.collector != nullptr)
     {
-        static_cast<void>(occurrence.collector->storeOption(occurrence.option, record));
+        static_cast<void>(given.collector->storeOption(given.option, record));
     }
     return stored;
 }
 
-int ValueStoring::storeValues(const Occurrence& occurrence, std::wstring& error)
+int ValueStoring::storeValues(const GivenValue& given, std::wstring& error)
 {
     traceLine(m_parser.name(), L": adding values to result container:");
-    if (occurrence.isCut())
+    if (given.isCut())
     {
-        traceLine(m_parser.name(), L": using tokenizer on char: '", occurrence.separator, L"'");
-        if (occurrence.value.find(occurrence.separator) != std::wstring_view::npos)
+        traceLine(m_parser.name(), L": using tokenizer on char: '", given.separator, L"'");
+        if (given.value.find(given.separator) != std::wstring_view::npos)
         {
-            return storePieces(occurrence, error);
+            return storePieces(given, error);
         }
-        traceLine(m_parser.name(), L": value is: '", occurrence.value, L"'");
+        traceLine(m_parser.name(), L": value is: '", given.value, L"'");
     }
     else
     {
         traceLine(m_parser.name(), L": not using tokenizer");
     }
     ValueEntry entry;
-    const int code = accept(occurrence.value, occurrence, entry, error);
-    if (code == stored && occurrence.collector != nullptr)
+    const int code = accept(given.value, given, entry, error);
+    if (code == stored && given.collector != nullptr)
     {
-        static_cast<void>(occurrence.collector->storeValue(occurrence.option, entry));
+        static_cast<void>(given.collector->storeValue(given.option, entry));
     }
     return code;
 }
 
-int ValueStoring::storePieces(const Occurrence& occurrence, std::wstring& error)
+int ValueStoring::storePieces(const GivenValue& given, std::wstring& error)
 {
     OptionResult record;
     int code = stored;
-    forEachPiece(occurrence.value, occurrence.separator,
+    forEachPiece(given.value, given.separator,
                  [&](std::wstring_view piece)
                  {
                      if (code == stored)
@@ -136,49 +136,48 @@ int ValueStoring::storePieces(const Occurrence& occurrence, std::wstring& error)
                          // Room first: behind a failure with a message nothing may throw.
                          record.positions.push_back(no_position);
                          ValueEntry& entry = record.values.emplace_back();
-                         code = accept(piece, occurrence, entry, error);
+                         code = accept(piece, given, entry, error);
                          record.positions.back() = entry.position;
                      }
                  });
     if (record.values.empty())
     {
-        error = noValueMessage(occurrence.value, occurrence.option);
+        error = noValueMessage(given.value, given.option);
         traceLine(m_parser.name(), L": ", error);
         return invalid;
     }
-    if (code == stored && occurrence.collector != nullptr)
+    if (code == stored && given.collector != nullptr)
     {
-        static_cast<void>(occurrence.collector->storeOption(occurrence.option, record));
+        static_cast<void>(given.collector->storeOption(given.option, record));
     }
     return code;
 }
 
 // Converts a piece of the value, numbers it and offers it to the event handlers.
-int ValueStoring::accept(std::wstring_view piece, const Occurrence& occurrence, ValueEntry& entry,
+int ValueStoring::accept(std::wstring_view piece, const GivenValue& given, ValueEntry& entry,
                          std::wstring& error)
 {
-    const OptionDescription& option = occurrence.option;
+    const OptionDescription& option = given.option;
     ValueRecord record = {option.primaryName().data(), vexkit2::variant_t(), 0};
     std::wstring reason;
-    SharedTexts* const texts =
-        occurrence.collector == nullptr ? nullptr : &occurrence.collector->texts();
+    SharedTexts* const texts = given.collector == nullptr ? nullptr : &given.collector->texts();
     const ValueVerdict verdict = checkValue(option, piece, record.value, reason, texts);
     if (verdict == ValueVerdict::rejected)
     {
-        error = validationMessage(occurrence.argument, reason);
+        error = validationMessage(given.argument, reason);
         traceLine(m_parser.name(), L": ", error);
         return invalid;
     }
     record.sequenceNumber = takeSequenceNumber();
     const bool accepted = m_parser.owner().onValueParsed(record.optionName, &record);
-    if (occurrence.isCut())
+    if (given.isCut())
     {
         traceLine(m_parser.name(), L": sent event on value parsed, option: '", record.optionName,
                   L"', value: '", piece, L"'");
     }
     if (!accepted)
     {
-        error = refusalMessage(occurrence.value, option, occurrence.argument);
+        error = refusalMessage(given.value, option, given.argument);
         traceLine(m_parser.name(), error, L" One of the handler signaled the value is not valid.");
         return refused;
     }

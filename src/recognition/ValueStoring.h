@@ -39,7 +39,7 @@ public:
                             IResultCollector* collector);
 
 private:
-    struct Occurrence
+    struct GivenValue
     {
         const OptionDescription& option;
         std::wstring_view value;
@@ -50,11 +50,11 @@ private:
         [[nodiscard]] bool isCut() const noexcept { return separator != 0; }
     };
 
-    [[nodiscard]] static int storeWithoutValue(const Occurrence& occurrence);
-    [[nodiscard]] int storeValues(const Occurrence& occurrence, std::wstring& error);
-    [[nodiscard]] int storePieces(const Occurrence& occurrence, std::wstring& error);
-    [[nodiscard]] int accept(std::wstring_view piece, const Occurrence& occurrence,
-                             ValueEntry& entry, std::wstring& error);
+    [[nodiscard]] static int storeWithoutValue(const GivenValue& given);
+    [[nodiscard]] int storeValues(const GivenValue& given, std::wstring& error);
+    [[nodiscard]] int storePieces(const GivenValue& given, std::wstring& error);
+    [[nodiscard]] int accept(std::wstring_view piece, const GivenValue& given, ValueEntry& entry,
+                             std::wstring& error);
 
     const IArgumentParser& m_parser;
 };

@@ -17,8 +17,9 @@ public:
     // Stores one occurrence of an option, or its default, under all names of the option. What is
     // stored before stays; a default is kept as first stored.
     //
-    // record: its values are moved away and its positions taken; the vectors keep their room. Their
-    //         texts need to live only during the call. It is unchanged where this throws.
+    // record: its values are moved away, unless this throws; the vectors keep their room. Texts
+    // need
+    //         to live only during the call: behind it they may be others of the same content.
     //
     // Answers 0. Throws std::out_of_range where the option has no name, and std::bad_alloc; nothing
     // is stored then.

@@ -1,5 +1,9 @@
 #include "result/Occurrences.h"
 
+#include <algorithm>
+#include <limits>
+#include <new>
+
 namespace kexa_3_3
 {
 

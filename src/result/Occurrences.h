@@ -1,11 +1,8 @@
 // The positions and values that a parse result holds of one option.
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <limits>
-#include <new>
 #include <type_traits>
 
 #include "kexa/variant.h"
@@ -48,7 +45,7 @@ struct Occurrence
 };
 
 // Positions and values, each in the order stored. The first is part of it, since most options are
-// given once at most. Further ones lie in pieces of an arena, each larger than the one before:
+// given once at most. Further ones lie in pieces of an arena, larger and larger up to a limit:
 // nothing is ever moved, and places in the list stay good while it grows.
 class Occurrences
 {
@@ -147,7 +144,7 @@ public:
     // The same, of those that hold a value or a position.
     [[nodiscard]] const Occurrence* nextValue(Place& place) const noexcept
     {
-        // Who walks over many values reads their texts, which lie far apart.
+        // Who walks over many values reads their texts. Those of other options lie between them.
         constexpr std::uint32_t ahead = 8;
         if (place.m_index + ahead < place.m_piece->size)
         {

@@ -1,11 +1,8 @@
 // What a parse result holds of one option.
 #pragma once
 
-#include <cstdint>
 #include <span>
-
-#include "kexa/value.h"
-#include "kexa/variant.h"
+#include <type_traits>
 
 #include "result/Occurrences.h"
 #include "support/HashedText.h"
@@ -21,5 +18,7 @@ struct StoredOption
     Occurrences occurrences;
     const Occurrence* byDefault = nullptr; // null: no default, or one whose text is empty
 };
+
+static_assert(std::is_trivially_destructible_v<StoredOption>);
 
 } // namespace kexa_3_3

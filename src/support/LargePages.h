@@ -7,8 +7,8 @@ namespace kexa_3_3
 {
 
 // Asks the system to back the memory, which is not used yet, by large pages where it has them. It
-// then takes hundreds of times fewer page faults to fill. Nothing else changes, also where it is
-// not possible.
+// then takes hundreds of times fewer page faults to fill. Where that is not possible nothing
+// changes.
 //
 // One of these for each platform.
 void preferLargePages(void* memory, std::size_t size) noexcept;

@@ -1,3 +1,4 @@
+#include <cerrno>
 #include <cstdint>
 
 #include <sys/mman.h>
@@ -17,8 +18,10 @@ void preferLargePages([[maybe_unused]] void* memory, [[maybe_unused]] std::size_
     const std::size_t skipped = (~reinterpret_cast<std::uintptr_t>(memory) + 1) & (page - 1);
     if (size > skipped + page)
     {
+        const int before = errno;
         static_cast<void>(madvise(static_cast<std::byte*>(memory) + skipped,
                                   (size - skipped) & ~(page - 1), MADV_HUGEPAGE));
+        errno = before;
     }
 #endif
 }

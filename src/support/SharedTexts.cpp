@@ -40,7 +40,7 @@ void SharedTexts::makeRoom(std::wstring_view text)
     {
         throw std::bad_alloc();
     }
-    const std::size_t size = std::max(m_nextSize, sizeOf(text));
+    const std::size_t size = std::max(m_nextSize, sizeOf(text.size()));
     void* const memory = ::operator new(sizeof(Region) + size);
     if (size >= large_block)
     {

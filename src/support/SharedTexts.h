@@ -34,7 +34,7 @@ public:
     [[nodiscard]] vexkit2::variant_t add(std::wstring_view text)
     {
         // What does not fit into a number of bytes does not fit into any memory.
-        if (text.size() > m_left / sizeof(wchar_t) || sizeOf(text) > m_left)
+        if (text.size() > m_left / sizeof(wchar_t) || sizeOf(text.size()) > m_left)
         {
             makeRoom(text);
         }
@@ -60,6 +60,23 @@ public:
         return word;
     }
 
+    // Gives a text up that was made here and that nobody shares. The room of the one made last is
+    // used again.
+    void discard(vexkit2::variant_t& text) noexcept
+    {
+        const std::uint64_t word = takeBack(text);
+        std::byte* data = nullptr;
+        std::memcpy(&data, &word, sizeof(data));
+        const std::size_t length = vexkit2::detail::block_length(data) / sizeof(wchar_t) - 1;
+        const std::size_t size = sizeOf(length);
+        std::byte* const begin = data - sizeof(vexkit2::detail::block_header_t);
+        if (begin + size == m_free)
+        {
+            m_free = begin;
+            m_left += size;
+        }
+    }
+
 private:
     struct Region : vexkit2::detail::shared_memory_t
     {
@@ -72,12 +89,12 @@ private:
         Region* previous;
     };
 
-    // The bytes that a text takes, up to where the next may begin.
-    [[nodiscard]] static constexpr std::size_t sizeOf(std::wstring_view text) noexcept
+    // The bytes that a text of some characters takes, up to where the next may begin.
+    [[nodiscard]] static constexpr std::size_t sizeOf(std::size_t length) noexcept
     {
         constexpr std::size_t step = alignof(vexkit2::detail::block_header_t);
         const std::size_t size =
-            sizeof(vexkit2::detail::block_header_t) + (text.size() + 1) * sizeof(wchar_t);
+            sizeof(vexkit2::detail::block_header_t) + (length + 1) * sizeof(wchar_t);
         return (size + step - 1) / step * step;
     }
 
@@ -87,7 +104,7 @@ private:
     {
         using vexkit2::detail::block_header_t;
         const std::size_t length = text.size() * sizeof(wchar_t);
-        const std::size_t size = sizeOf(text);
+        const std::size_t size = sizeOf(text.size());
         auto* const header = new (m_free) block_header_t{m_newest, length + sizeof(wchar_t)};
         auto* const copy = static_cast<wchar_t*>(static_cast<void*>(header + 1));
         if (length != 0)

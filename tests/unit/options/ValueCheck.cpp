@@ -5,6 +5,7 @@
 
 #include "options/OptionDescription.h"
 #include "support/Garbage.h"
+#include "support/SharedTexts.h"
 
 #include "ConsoleCapture.h"
 #include "TextPrinting.h"
@@ -102,6 +103,19 @@ TEST_F(ValueCheck, CompletedTextIsOwnedByTheValue)
         EXPECT_EQ(checkValue(shortLived, L"f", value, error), ValueVerdict::changed);
     }
     EXPECT_EQ(value, variant_t(L"fast"));
+}
+
+// The text typed is of no use behind its completion, so it must not take room in a result.
+TEST_F(ValueCheck, AbbreviationLeavesNothingBesideItsCompletion)
+{
+    option.addAllowedValue(variant_t(L"automatic"));
+    SharedTexts texts;
+    variant_t probe = texts.add(L"a text that takes the place of the next one");
+    const wchar_t* const place = probe.get<const wchar_t*>();
+    texts.discard(probe);
+    ASSERT_EQ(checkValue(option, L"auto", value, error, &texts), ValueVerdict::changed);
+    EXPECT_EQ(value, variant_t(L"automatic"));
+    EXPECT_EQ(value.get<const wchar_t*>(), place);
 }
 
 TEST_F(ValueCheck, ReferencesAndNarrowTextsAreCompletedToOwnedText)

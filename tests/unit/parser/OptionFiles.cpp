@@ -188,4 +188,29 @@ TEST_F(OptionFilesTest, TextIsUtf8)
     EXPECT_EQ(parsed, expected);
 }
 
+// Where another option has the name besides its own first one, its first value replaces what the
+// name stood for. There may be fewer values then than were looked at.
+TEST_F(OptionFilesTest, NameMayMoveToAShorterRecordMeanwhile)
+{
+    OptionDescription other({L"", L""}, false, pool);
+    other.addName(L"f").addName(option_file_name);
+    OptionFiles files(result.options());
+    name(folder.write(L"a", "--a"));
+    name(folder.write(L"b", "--b"));
+    whileParsing = [&](const Texts& arguments)
+    {
+        if (arguments == Texts{L"--b"})
+        {
+            OptionResult record;
+            record.positions.push_back(1);
+            record.values.push_back({L"c", variant_t(L"c"), 1});
+            EXPECT_EQ(result.storeOption(other, record), 0);
+        }
+        return result_success;
+    };
+    EXPECT_EQ(readAll(files), 0);
+    EXPECT_EQ(parsed, (std::vector<Texts>{{L"--a"}, {L"--b"}}));
+    EXPECT_EQ(message, L"as before");
+}
+
 } // namespace

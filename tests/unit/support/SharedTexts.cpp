@@ -348,4 +348,29 @@ TEST(SharedTexts, TextsOfOneRegionLieBesideEachOther)
     EXPECT_FALSE(first.lies_beside(behind));
 }
 
+TEST(SharedTexts, RoomOfADiscardedTextIsUsedAgain)
+{
+    SharedTexts texts;
+    const variant_t before = texts.add(L"before");
+    variant_t discarded = texts.add(L"discarded");
+    const wchar_t* const place = discarded.get<const wchar_t*>();
+    texts.discard(discarded);
+    EXPECT_EQ(discarded.kind(), 17);
+    const variant_t next = texts.add(L"next");
+    EXPECT_EQ(next.get<const wchar_t*>(), place);
+    EXPECT_STREQ(before.get<const wchar_t*>(), L"before");
+    EXPECT_STREQ(next.get<const wchar_t*>(), L"next");
+}
+
+TEST(SharedTexts, DiscardingAnOlderTextLeavesTheOthers)
+{
+    SharedTexts texts;
+    variant_t discarded = texts.add(L"discarded");
+    const variant_t last = texts.add(L"last");
+    texts.discard(discarded);
+    const variant_t next = texts.add(L"next");
+    EXPECT_STREQ(last.get<const wchar_t*>(), L"last");
+    EXPECT_STREQ(next.get<const wchar_t*>(), L"next");
+}
+
 } // namespace
