@@ -95,7 +95,8 @@ public:
     //         parse.
     // argv:   argc texts; argv[0] is not looked at. A null entry counts as an empty argument, a
     // null
-    //         argv as no arguments. Only read, and only during the call; they stay unchanged so long.
+    //         argv as no arguments. Only read, and only during the call; they stay unchanged so
+    //         long.
     // result: receives the defaults of all options, then what is found, up to the first error; null
     //         parses without storing. Must have been made by createParseResult to be filled.
     //

@@ -62,6 +62,11 @@ struct shared_memory_t
 // Stands ahead of the data in a block.
 struct block_header_t
 {
+    block_header_t(shared_memory_t* holder, std::size_t data_length) noexcept
+        : memory(holder), length(data_length)
+    {
+    }
+
     shared_memory_t* memory;
     std::size_t length; // of the data, in bytes
 };
@@ -89,7 +94,7 @@ inline void* allocate_block(std::size_t length)
         throw std::bad_alloc();
     }
     auto* const memory = new (::operator new(length + extra)) shared_memory_t(1);
-    auto* const header = new (memory + 1) block_header_t{memory, length};
+    auto* const header = new (memory + 1) block_header_t(memory, length);
     void* const data = header + 1;
     std::memset(static_cast<char*>(data) + length, 0, 2 * sizeof(wchar_t));
     return data;

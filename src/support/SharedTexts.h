@@ -105,7 +105,7 @@ private:
         using vexkit2::detail::block_header_t;
         const std::size_t length = text.size() * sizeof(wchar_t);
         const std::size_t size = sizeOf(text.size());
-        auto* const header = new (m_free) block_header_t{m_newest, length + sizeof(wchar_t)};
+        auto* const header = new (m_free) block_header_t(m_newest, length + sizeof(wchar_t));
         auto* const copy = static_cast<wchar_t*>(static_cast<void*>(header + 1));
         if (length != 0)
         {
