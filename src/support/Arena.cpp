@@ -42,17 +42,21 @@ void* Arena::takeFromNewBlock(std::size_t size)
 
 std::byte* Arena::addBlock(std::size_t size)
 {
-    if (size > std::numeric_limits<std::size_t>::max() - sizeof(Block))
+    const std::size_t skipped = size >= large_block ? large_page : 0; // at most
+    if (size > std::numeric_limits<std::size_t>::max() - sizeof(Block) - skipped)
     {
         throw std::bad_alloc();
     }
-    void* const memory = ::operator new(sizeof(Block) + size);
-    if (size >= large_block)
-    {
-        preferLargePages(memory, sizeof(Block) + size);
-    }
+    void* const memory = ::operator new(sizeof(Block) + skipped + size);
     m_blocks = new (memory) Block{m_blocks};
-    return static_cast<std::byte*>(memory) + sizeof(Block);
+    std::byte* const begin = static_cast<std::byte*>(memory) + sizeof(Block);
+    if (skipped == 0)
+    {
+        return begin;
+    }
+    std::byte* const page = begin + beforeLargePage(begin);
+    preferLargePages(page, size);
+    return page;
 }
 
 } // namespace kexa_3_3

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 
 namespace kexa_3_3
 {
@@ -13,7 +14,17 @@ namespace kexa_3_3
 // One of these for each platform.
 void preferLargePages(void* memory, std::size_t size) noexcept;
 
-// From which size on it is worth the call: large pages have 2 MiB on x86-64.
+// From which size on it is worth the call, and where to begin in such a block so that all of it
+// lies in large pages, which have 2 MiB on x86-64. Memory that is skipped and never touched costs
+// nothing.
 inline constexpr std::size_t large_block = std::size_t{1} << 22;
+inline constexpr std::size_t large_page = std::size_t{1} << 21;
+
+// The bytes to skip up to the next large page.
+[[nodiscard]] inline std::size_t beforeLargePage(const std::byte* memory) noexcept
+{
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): an address is asked for.
+    return (~reinterpret_cast<std::uintptr_t>(memory) + 1) & (large_page - 1);
+}
 
 } // namespace kexa_3_3

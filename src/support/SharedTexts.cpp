@@ -35,19 +35,21 @@ SharedTexts::~SharedTexts()
 void SharedTexts::makeRoom(std::wstring_view text)
 {
     constexpr std::size_t longest =
-        (std::numeric_limits<std::size_t>::max() - sizeof(Region)) / sizeof(wchar_t) / 2;
+        (std::numeric_limits<std::size_t>::max() - sizeof(Region)) / sizeof(wchar_t) / 4;
     if (text.size() > longest)
     {
         throw std::bad_alloc();
     }
     const std::size_t size = std::max(m_nextSize, sizeOf(text.size()));
-    void* const memory = ::operator new(sizeof(Region) + size);
-    if (size >= large_block)
-    {
-        preferLargePages(memory, sizeof(Region) + size);
-    }
+    const std::size_t skipped = size >= large_block ? large_page : 0; // at most
+    void* const memory = ::operator new(sizeof(Region) + skipped + size);
     m_newest = new (memory) Region(this, m_newest);
     m_free = static_cast<std::byte*>(memory) + sizeof(Region);
+    if (skipped != 0)
+    {
+        m_free += beforeLargePage(m_free);
+        preferLargePages(m_free, size);
+    }
     m_left = size;
     m_nextSize = std::min(2 * m_nextSize, largest_region);
 }
