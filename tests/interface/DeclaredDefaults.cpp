@@ -11,19 +11,8 @@ namespace
 
 using namespace kexa_3_3;
 using namespace toolbox;
+using variant_samples::CountedObject;
 using vexkit2::variant_t;
-
-class CountedObject : public vexkit2::polymorphic_t
-{
-public:
-    explicit CountedObject(int& destroyed) : m_destroyed(destroyed) {}
-    CountedObject(const CountedObject&) = delete;
-    CountedObject& operator=(const CountedObject&) = delete;
-    ~CountedObject() override { ++m_destroyed; }
-
-private:
-    int& m_destroyed;
-};
 
 TEST(DeclaredDefaults, LastDefaultCounts)
 {

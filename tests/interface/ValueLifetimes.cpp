@@ -4,12 +4,14 @@
 #include <vector>
 
 #include "Host.h"
+#include "VariantSamples.h"
 
 namespace
 {
 
 using namespace kexa_3_3;
 using namespace toolbox;
+using variant_samples::CountedObject;
 using vexkit2::variant_t;
 
 // Of all lengths from a few characters to hundreds.
@@ -306,21 +308,10 @@ TEST(ValueLifetimes, ValueOfAResultMayBeDeclared)
 
 TEST(ValueLifetimes, ObjectOfADefaultIsDestroyedWithItsLastShare)
 {
-    class Counted : public vexkit2::polymorphic_t
-    {
-    public:
-        explicit Counted(int& destroyed) : m_destroyed(destroyed) {}
-        Counted(const Counted&) = delete;
-        Counted& operator=(const Counted&) = delete;
-        ~Counted() override { ++m_destroyed; }
-
-    private:
-        int& m_destroyed;
-    };
     int destroyed = 0;
     {
         Host host;
-        host.addOption(L"name").setDefaultValue(variant_t::object(new Counted(destroyed)));
+        host.addOption(L"name").setDefaultValue(variant_t::object(new CountedObject(destroyed)));
         EXPECT_EQ(host.parse({}), 0);
         EXPECT_EQ(host.parse({L"--name=x"}), 0);
         EXPECT_EQ(host.texts(L"name"), std::vector<std::wstring>{L"x"});

@@ -23,6 +23,26 @@ struct Sample
 // Samples that are equal to one another, and to nothing in another class.
 using EqualSamples = std::vector<Sample>;
 
+// Counts its destructions.
+class CountedObject : public vexkit2::polymorphic_t
+{
+public:
+    explicit CountedObject(int& destroyed) : m_destroyed(destroyed) {}
+    CountedObject(const CountedObject&) = delete;
+    CountedObject& operator=(const CountedObject&) = delete;
+    ~CountedObject() override { ++m_destroyed; }
+
+private:
+    int& m_destroyed;
+};
+
+// How many variants share the block of a wide text.
+inline std::size_t sharersOf(const vexkit2::variant_t& text)
+{
+    const void* const data = text.get<const wchar_t*>();
+    return vexkit2::detail::header_of(data)->memory->count.load();
+}
+
 // A variant of the given kind whose data word is null, as no operation of its own leaves one: its
 // bytes are overwritten (data word first, kind at offset 8).
 inline vexkit2::variant_t withoutData(vexkit2::s32_t kind)

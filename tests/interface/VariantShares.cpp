@@ -10,27 +10,11 @@
 namespace
 {
 
+using variant_samples::CountedObject;
+using variant_samples::sharersOf;
 using vexkit2::s32_t;
 using vexkit2::u64_t;
 using vexkit2::variant_t;
-
-class CountedObject : public vexkit2::polymorphic_t
-{
-public:
-    explicit CountedObject(int& destroyed) : m_destroyed(destroyed) {}
-    CountedObject(const CountedObject&) = delete;
-    CountedObject& operator=(const CountedObject&) = delete;
-    ~CountedObject() override { ++m_destroyed; }
-
-private:
-    int& m_destroyed;
-};
-
-std::size_t sharersOf(const variant_t& text)
-{
-    const void* const data = text.get<const wchar_t*>();
-    return vexkit2::detail::header_of(data)->memory->count.load();
-}
 
 TEST(VariantShares, DetachedWordBecomesTheSameVariantAgain)
 {
