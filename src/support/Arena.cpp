@@ -42,21 +42,14 @@ void* Arena::takeFromNewBlock(std::size_t size)
 
 std::byte* Arena::addBlock(std::size_t size)
 {
-    const std::size_t skipped = size >= large_block ? large_page : 0; // at most
-    if (size > std::numeric_limits<std::size_t>::max() - sizeof(Block) - skipped)
+    const std::size_t overhead = sizeof(Block) + slackForLargePages(size);
+    if (size > std::numeric_limits<std::size_t>::max() - overhead)
     {
         throw std::bad_alloc();
     }
-    void* const memory = ::operator new(sizeof(Block) + skipped + size);
+    void* const memory = ::operator new(overhead + size);
     m_blocks = new (memory) Block{m_blocks};
-    std::byte* const begin = static_cast<std::byte*>(memory) + sizeof(Block);
-    if (skipped == 0)
-    {
-        return begin;
-    }
-    std::byte* const page = begin + beforeLargePage(begin);
-    preferLargePages(page, size);
-    return page;
+    return beginInLargePages(static_cast<std::byte*>(memory) + sizeof(Block), size);
 }
 
 } // namespace kexa_3_3

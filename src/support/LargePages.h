@@ -14,17 +14,27 @@ namespace kexa_3_3
 // One of these for each platform.
 void preferLargePages(void* memory, std::size_t size) noexcept;
 
-// From which size on it is worth the call, and where to begin in such a block so that all of it
-// lies in large pages, which have 2 MiB on x86-64. Memory that is skipped and never touched costs
-// nothing.
-inline constexpr std::size_t large_block = std::size_t{1} << 22;
-inline constexpr std::size_t large_page = std::size_t{1} << 21;
-
-// The bytes to skip up to the next large page.
-[[nodiscard]] inline std::size_t beforeLargePage(const std::byte* memory) noexcept
+// How many bytes to ask for beyond the size of a block, so that it can begin where a large page
+// does: none where it is not worth it. Large pages have 2 MiB on x86-64.
+[[nodiscard]] constexpr std::size_t slackForLargePages(std::size_t size) noexcept
 {
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): an address is asked for.
-    return (~reinterpret_cast<std::uintptr_t>(memory) + 1) & (large_page - 1);
+    constexpr std::size_t smallest_block = std::size_t{1} << 22;
+    constexpr std::size_t large_page = std::size_t{1} << 21;
+    return size >= smallest_block ? large_page : 0;
+}
+
+// Where a block of so many bytes begins in memory with that slack. What is skipped is never touched
+// and costs nothing.
+[[nodiscard]] inline std::byte* beginInLargePages(std::byte* memory, std::size_t size) noexcept
+{
+    const std::size_t slack = slackForLargePages(size);
+    if (slack != 0)
+    {
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): an address is asked for.
+        memory += (~reinterpret_cast<std::uintptr_t>(memory) + 1) & (slack - 1);
+        preferLargePages(memory, size);
+    }
+    return memory;
 }
 
 } // namespace kexa_3_3

@@ -41,15 +41,9 @@ void SharedTexts::makeRoom(std::wstring_view text)
         throw std::bad_alloc();
     }
     const std::size_t size = std::max(m_nextSize, sizeOf(text.size()));
-    const std::size_t skipped = size >= large_block ? large_page : 0; // at most
-    void* const memory = ::operator new(sizeof(Region) + skipped + size);
+    void* const memory = ::operator new(sizeof(Region) + slackForLargePages(size) + size);
     m_newest = new (memory) Region(this, m_newest);
-    m_free = static_cast<std::byte*>(memory) + sizeof(Region);
-    if (skipped != 0)
-    {
-        m_free += beforeLargePage(m_free);
-        preferLargePages(m_free, size);
-    }
+    m_free = beginInLargePages(static_cast<std::byte*>(memory) + sizeof(Region), size);
     m_left = size;
     m_nextSize = std::min(2 * m_nextSize, largest_region);
 }
