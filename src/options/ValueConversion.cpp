@@ -65,24 +65,28 @@ using vexkit2::variant_t;
 }
 
 // One or more digits and nothing else, up to and including `highest`.
-[[nodiscard]] std::optional<u64_t> readDigits(std::wstring_view digits, unsigned base,
-                                              u64_t highest) noexcept
+template <unsigned base>
+[[nodiscard]] std::optional<u64_t> readDigits(std::wstring_view digits, u64_t highest) noexcept
 {
-    if (digits.empty())
-    {
-        return std::nullopt;
-    }
+    // So many digits fit whatever they are; only behind them it takes a division to see.
+    using Limits = std::numeric_limits<u64_t>;
+    constexpr std::size_t always_fit = base == 10 ? Limits::digits10 : Limits::digits / 4;
+    static_assert(base == 10 || base == 16);
+
     u64_t number = 0;
+    std::size_t count = 0;
     for (const wchar_t character : digits)
     {
         const unsigned digit = digitValue(character);
-        if (digit >= base || number > (highest - digit) / base)
+        const bool fits = count < always_fit || number <= (Limits::max() - digit) / base;
+        if (digit >= base || !fits)
         {
             return std::nullopt;
         }
         number = number * base + digit;
+        ++count;
     }
-    return number;
+    return count == 0 || number > highest ? std::nullopt : std::optional(number);
 }
 
 template <class Integer>
@@ -95,7 +99,7 @@ template <class Integer>
     {
         return variant_t();
     }
-    const std::optional<u64_t> number = readDigits(text, 10, negative ? highest + 1 : highest);
+    const std::optional<u64_t> number = readDigits<10>(text, negative ? highest + 1 : highest);
     if (!number)
     {
         return variant_t();
@@ -125,7 +129,7 @@ template <class Integer>
     {
         return convertDecimal<u64_t>(text);
     }
-    const std::optional<u64_t> number = readDigits(digits, 16, highest);
+    const std::optional<u64_t> number = readDigits<16>(digits, highest);
     return number ? variant_t(*number) : variant_t();
 }
 
