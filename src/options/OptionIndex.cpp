@@ -73,34 +73,11 @@ void OptionIndex::share(Name& known, std::uint32_t option, bool boolean) noexcep
     m_sharesNames = true;
 }
 
-const OptionIndex::Name* OptionIndex::find(const HashedText& text) const noexcept
+// The first option, in table order, that answers to a text that begins as negations do.
+std::int64_t OptionIndex::findAlsoNegated(const HashedText& text) const noexcept
 {
-    if (m_count == 0)
-    {
-        return nullptr;
-    }
-    const std::uint32_t number = m_slots.numberAt(m_slots.slotOf(text, textOf()));
-    return number == TextSlots::absent ? nullptr : &m_names[number];
-}
-
-std::int64_t OptionIndex::findNamed(const HashedText& name) const noexcept
-{
-    const Name* const found = find(name);
-    return found == nullptr ? none : indexOf(found->first);
-}
-
-std::int64_t OptionIndex::findAnswering(std::wstring_view text) const noexcept
-{
-    std::int64_t found = findNamed(HashedText(text));
-    if (beginsWithNegation(text))
-    {
-        const Name* const negated = find(HashedText(text.substr(negation.size())));
-        if (negated != nullptr)
-        {
-            found = firstOf(found, indexOf(negated->firstBoolean));
-        }
-    }
-    return found;
+    const Name* const negated = find(HashedText(text.substr(negation.size())));
+    return firstOf(findNamed(text), negated == nullptr ? none : indexOf(negated->firstBoolean));
 }
 
 void OptionIndex::sortNames() const

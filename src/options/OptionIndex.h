@@ -137,10 +137,18 @@ public:
     }
 
     // The first option, in table order, with exactly this name.
-    [[nodiscard]] std::int64_t findNamed(const HashedText& name) const noexcept;
+    [[nodiscard]] std::int64_t findNamed(const HashedText& name) const noexcept
+    {
+        const Name* const found = find(name);
+        return found == nullptr ? none : indexOf(found->first);
+    }
 
     // The first option, in table order, that answers to exactly this text.
-    [[nodiscard]] std::int64_t findAnswering(std::wstring_view text) const noexcept;
+    [[nodiscard]] std::int64_t findAnswering(std::wstring_view text) const noexcept
+    {
+        const HashedText hashed(text);
+        return beginsWithNegation(text) ? findAlsoNegated(hashed) : findNamed(hashed);
+    }
 
     // The names and negations that begin with the text.
     [[nodiscard]] PrefixMatches matchPrefix(std::wstring_view beginning) const;
@@ -158,7 +166,16 @@ private:
     void grow(std::size_t count);
     void free() noexcept;
     void share(Name& known, std::uint32_t option, bool boolean) noexcept;
-    [[nodiscard]] const Name* find(const HashedText& text) const noexcept;
+    [[nodiscard]] std::int64_t findAlsoNegated(const HashedText& text) const noexcept;
+    [[nodiscard]] const Name* find(const HashedText& text) const noexcept
+    {
+        if (m_count == 0)
+        {
+            return nullptr;
+        }
+        const std::uint32_t number = m_slots.numberAt(m_slots.slotOf(text, textOf()));
+        return number == TextSlots::absent ? nullptr : &m_names[number];
+    }
 
     // Names that begin with a text, as a range of a sorted list.
     struct Range

@@ -58,22 +58,10 @@ void warnOfDeprecation(const OptionDescription& option, const variant_t& oldValu
     static_cast<void>(internal::writeConsole(internal::ConsoleTarget::error, warning));
 }
 
-} // namespace
-
-ValueVerdict checkValue(const OptionDescription& option, std::wstring_view text, variant_t& value,
-                        std::wstring& error, SharedTexts* texts)
+// The check of a value that has the type of an option with allowed values.
+ValueVerdict checkAllowed(const OptionDescription& option, std::wstring_view text, variant_t& value,
+                          SharedTexts* texts)
 {
-    value = convertValue(option.valueType, text, texts);
-    if (value.kind() == vexkit2::kind_null)
-    {
-        error = conversionMessage(option, text);
-        return ValueVerdict::rejected;
-    }
-    if (option.allowedValues().empty())
-    {
-        return ValueVerdict::accepted;
-    }
-
     const AllowedValueIndex& candidates = option.allowedValueIndex();
     ValueVerdict verdict = ValueVerdict::accepted;
     const variant_t* match = candidates.findEqual(value);
@@ -82,8 +70,7 @@ ValueVerdict checkValue(const OptionDescription& option, std::wstring_view text,
         const AllowedValueIndex::TextMatches matches = candidates.matchText(text);
         if (matches.count > 1)
         {
-            error = ambiguityMessage(option);
-            return ValueVerdict::rejected;
+            return ValueVerdict::ambiguous;
         }
         if (matches.count == 1)
         {
@@ -98,8 +85,7 @@ ValueVerdict checkValue(const OptionDescription& option, std::wstring_view text,
     }
     if (match == nullptr)
     {
-        error = refusalMessage(option, text);
-        return ValueVerdict::rejected;
+        return ValueVerdict::refused;
     }
 
     const auto& deprecatedValues = option.restriction()->deprecatedValues;
@@ -111,6 +97,34 @@ ValueVerdict checkValue(const OptionDescription& option, std::wstring_view text,
         verdict = ValueVerdict::changed;
     }
     return verdict;
+}
+
+} // namespace
+
+ValueVerdict checkValue(const OptionDescription& option, std::wstring_view text, variant_t& value,
+                        SharedTexts* texts)
+{
+    value = convertValue(option.valueType, text, texts);
+    if (value.kind() == vexkit2::kind_null)
+    {
+        return ValueVerdict::unreadable;
+    }
+    return option.allowedValues().empty() ? ValueVerdict::accepted
+                                          : checkAllowed(option, text, value, texts);
+}
+
+std::wstring rejectionMessage(ValueVerdict verdict, const OptionDescription& option,
+                              std::wstring_view text)
+{
+    switch (verdict)
+    {
+    case ValueVerdict::unreadable:
+        return conversionMessage(option, text);
+    case ValueVerdict::ambiguous:
+        return ambiguityMessage(option);
+    default:
+        return refusalMessage(option, text);
+    }
 }
 
 } // namespace kexa_3_3

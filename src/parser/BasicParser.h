@@ -78,6 +78,7 @@ private:
                                                       ArgumentQueue& arguments,
                                                       IParseResult* result, ParseResult* leftOver,
                                                       std::wstring& message);
+    [[nodiscard]] EventHandler* listeners() noexcept;
     [[nodiscard]] bool takesUnknown(std::wstring_view argument);
     [[nodiscard]] const wchar_t* textForHandlers(std::wstring_view text);
     void storeDefaults(IParseResult& result) const;

@@ -1,6 +1,5 @@
 // BasicParser's way through the arguments of a parse.
 
-#include <array>
 #include <exception>
 #include <span>
 #include <typeinfo>
@@ -48,22 +47,25 @@ void switchTraceBy(ArgumentQueue& arguments)
     }
 }
 
-// The parser with the highest priority among those that claim the front argument, or null.
-template <class Chain>
-IArgumentParser* chooseParser(const Chain& chain, const ArgumentQueue& arguments,
-                              const RegisteredOptionStorage& options, std::wstring& message)
+// The parser with the highest priority among those that claim the front argument, or null. They are
+// asked in the order given.
+template <class... Parsers>
+IArgumentParser* chooseParser(const ArgumentQueue& arguments,
+                              const RegisteredOptionStorage& options, std::wstring& message,
+                              Parsers&... chain)
 {
     IArgumentParser* best = nullptr;
     std::int32_t bestPriority = -99999999;
-    for (IArgumentParser* const parser : chain)
+    const auto ask = [&](auto& parser) // by its own type, which spares virtual calls
     {
-        if (parser->recognize(arguments, options, message) == IArgumentParser::claimed &&
-            parser->priority() > bestPriority)
+        if (parser.recognize(arguments, options, message) == IArgumentParser::claimed &&
+            parser.priority() > bestPriority)
         {
-            best = parser;
-            bestPriority = parser->priority();
+            best = &parser;
+            bestPriority = parser.priority();
         }
-    }
+    };
+    (ask(chain), ...);
     return best;
 }
 
@@ -158,14 +160,14 @@ result_t BasicParser::parseVector(std::wstring_view endMarker, ArgumentQueue& ar
 {
     switchTraceBy(arguments);
     const auto flags = static_cast<std::uint32_t>(m_flags);
-    PositionalOptionsParser positional(m_events, m_strings, flags);
-    AbbreviationParser abbreviation(m_events, m_strings, flags);
-    const std::array<IArgumentParser*, 2> chain = {&positional, &abbreviation};
+    PositionalOptionsParser positional(listeners(), m_strings, flags);
+    AbbreviationParser abbreviation(listeners(), m_strings, flags);
     IResultCollector* const collector = fillable(result);
 
     while (!arguments.empty() && arguments.front() != endMarker)
     {
-        IArgumentParser* const parser = chooseParser(chain, arguments, m_options, message);
+        IArgumentParser* const parser =
+            chooseParser(arguments, m_options, message, positional, abbreviation);
         if (parser != nullptr)
         {
             std::int64_t optionIndex = -1;
@@ -189,6 +191,13 @@ result_t BasicParser::parseVector(std::wstring_view endMarker, ArgumentQueue& ar
     return result_success;
 }
 
+// Who hears of events during a parse, or null. Nobody starts to listen in the middle of one: only a
+// handler could add another.
+EventHandler* BasicParser::listeners() noexcept
+{
+    return m_events.empty() ? nullptr : &m_events;
+}
+
 // Offers an unknown argument to the handlers. Answers whether it may be dropped.
 bool BasicParser::takesUnknown(std::wstring_view argument)
 {
@@ -209,7 +218,7 @@ result_t BasicParser::collectNonparsingArguments(std::wstring_view endMarker,
     {
         flags &= ~static_cast<std::uint32_t>(flag_no_hyphen_positional);
     }
-    PositionalOptionsParser positional(m_events, m_strings, flags);
+    PositionalOptionsParser positional(listeners(), m_strings, flags);
     IResultCollector* const collector = fillable(result);
 
     if (!arguments.empty() && arguments.front() == endMarker)
@@ -219,7 +228,7 @@ result_t BasicParser::collectNonparsingArguments(std::wstring_view endMarker,
     while (!arguments.empty())
     {
         const int recognized = positional.recognize(arguments, m_options, message);
-        traceLine(prefix, L"recognize result: ", recognized, L", message: ", message);
+        traceLine(prefix, L"recognize result: ", recognized, L", message: ", viewOf(message));
         if (recognized != IArgumentParser::claimed)
         {
             const std::wstring_view argument = arguments.front();
@@ -233,7 +242,7 @@ result_t BasicParser::collectNonparsingArguments(std::wstring_view endMarker,
         }
         std::int64_t optionIndex = -1;
         const int code = positional.parse(arguments, collector, m_options, optionIndex, message);
-        traceLine(prefix, L"parse result: ", code, L", message: ", message);
+        traceLine(prefix, L"parse result: ", code, L", message: ", viewOf(message));
         if (code != 0)
         {
             return static_cast<result_t>(code);

@@ -1,12 +1,10 @@
 #include "recognition/AbbreviationParser.h"
 
-#include "kexa/event_handler.h"
 #include "kexa/option.h"
 
 #include "options/OptionDescription.h"
 #include "options/RegisteredOptionStorage.h"
 #include "support/Text.h"
-#include "support/Trace.h"
 
 namespace kexa_3_3
 {
@@ -20,7 +18,7 @@ constexpr std::size_t shortest_option = 2; // a hyphen and a character
 
 } // namespace
 
-AbbreviationParser::AbbreviationParser(EventHandler& owner, Garbage& settings, std::uint32_t flags)
+AbbreviationParser::AbbreviationParser(EventHandler* owner, Garbage& settings, std::uint32_t flags)
     : IArgumentParser(owner, settings, flags), m_storing(*this)
 {
     rename(L"AbbreviationParser");
@@ -30,35 +28,26 @@ int AbbreviationParser::recognize(const ArgumentQueue& arguments,
                                   const RegisteredOptionStorage& options, std::wstring& /*message*/)
 {
     const std::wstring_view argument = arguments.front();
-    m_candidateList.clear();
-    traceLine(name(), L": recognizing argument '", argument, L"'");
-    m_matchedIndex = OptionIndex::none;
+    trace(L": recognizing argument '", argument, L"'");
     if (argument.size() < shortest_option || hyphenPrefixLength(argument, 0) == 0)
     {
         return declined;
     }
     m_split = splitOptionArgument(argument, m_whiteSpace);
-    recognizeName(argument, options);
-    return m_matchedIndex != OptionIndex::none || !m_candidateList.empty() ? claimed : declined;
-}
-
-void AbbreviationParser::recognizeName(std::wstring_view argument,
-                                       const RegisteredOptionStorage& options)
-{
-    m_match = findBestMatch(options.index(), m_split.name);
+    findBestMatch(m_match, options.index(), m_split.name);
     if (m_match.count == 1)
     {
-        traceLine(name(), L": best match option for '", m_split.name, L"' in argument '", argument,
-                  L"' is '", m_match.prefix, m_match.name, L"'");
-        m_matchedIndex = m_match.option;
+        trace(L": best match option for '", m_split.name, L"' in argument '", argument, L"' is '",
+              m_match.prefix(), m_match.name, L"'");
     }
     else if (m_match.count > 1)
     {
         // Claimed all the same: parse reports the ambiguity.
         m_candidateList = listCandidates(options.index(), m_split.name);
-        traceLine(name(), L": failed to get best match for '", m_split.name, L"' in argument '",
-                  argument, L"':", L"Ambiguous option, possible options are: ", m_candidateList);
+        trace(L": failed to get best match for '", m_split.name, L"' in argument '", argument,
+              L"':", L"Ambiguous option, possible options are: ", viewOf(m_candidateList));
     }
+    return m_match.count != 0 ? claimed : declined;
 }
 
 int AbbreviationParser::parse(ArgumentQueue& arguments, IResultCollector* collector,
@@ -66,46 +55,51 @@ int AbbreviationParser::parse(ArgumentQueue& arguments, IResultCollector* collec
                               std::wstring& error)
 {
     const std::wstring_view argument = arguments.front();
-    optionIndex = m_matchedIndex;
-    traceLine(name(), L": parsing argument '", argument, L"'");
+    optionIndex = m_match.option;
+    trace(L": parsing argument '", argument, L"'");
     if (m_split.name.empty() || m_split.name.front() == L'-')
     {
         error = concatenate({L"Unknown option '", argument, L"'"});
         return invalid;
     }
-    if (!m_candidateList.empty())
+    if (m_match.count > 1)
     {
         error = concatenate({L"Ambiguous option '", m_split.name, L"'",
                              formatArgumentContext(argument), L", could be: ", m_candidateList});
         return invalid;
     }
 
-    const OptionDescription& option = options[static_cast<std::size_t>(m_matchedIndex)];
-    traceLine(name(), L": detected option: '", option.primaryName(), L"'");
+    const OptionDescription& option = options[static_cast<std::size_t>(m_match.option)];
+    trace(L": detected option: '", option.primaryName(), L"'");
     if (m_split.hasValue)
     {
-        traceLine(name(), L": value from the same argument taken: '", m_split.value, L"'");
+        trace(L": value from the same argument taken: '", m_split.value, L"'");
     }
     Given given;
     if (!takeValue(given, arguments, option, error))
     {
-        traceLine(name(), L": ", error);
+        trace(L": ", viewOf(error));
         return invalid;
     }
 
-    static_cast<void>(owner().onOptionParsed(option.primaryName().data()));
-    traceLine(name(), L": sent event on option parsed");
+    reportOption(option);
+    trace(L": sent event on option parsed");
     const int code = m_storing.store(given.value, error, option, argument, collector);
-    if (code != parsed)
+    if (code == parsed)
     {
-        return code;
+        remove(arguments);
+        if (given.takesNext)
+        {
+            remove(arguments);
+        }
     }
-    for (; given.consumed != 0; --given.consumed)
-    {
-        traceLine(name(), L": removing argument: '", arguments.front(), L"'");
-        arguments.removeFront();
-    }
-    return parsed;
+    return code;
+}
+
+void AbbreviationParser::remove(ArgumentQueue& arguments) const
+{
+    trace(L": removing argument: '", arguments.front(), L"'");
+    arguments.removeFront();
 }
 
 bool AbbreviationParser::takeValue(Given& given, ArgumentQueue& arguments,
@@ -141,13 +135,13 @@ bool AbbreviationParser::takeNextArgument(Given& given, ArgumentQueue& arguments
                                           const OptionDescription& option,
                                           std::wstring& error) const
 {
-    traceLine(name(), L": no value in the same argument, looking next");
+    trace(L": no value in the same argument, looking next");
     if (!arguments.hasSecond())
     {
         error = valueMissing(option, arguments.front());
         return false;
     }
-    given = {arguments.second(), 2};
+    given = {arguments.second(), true};
     if (!given.value.empty() && given.value.front() == L'-')
     {
         error = concatenate({L"Option '", option.primaryName(),
@@ -156,7 +150,7 @@ bool AbbreviationParser::takeNextArgument(Given& given, ArgumentQueue& arguments
                               L"form or make sure that value is not missed")});
         return false;
     }
-    traceLine(name(), L": got value from the next argument: '", given.value, L"'");
+    trace(L": got value from the next argument: '", given.value, L"'");
     if (given.value.empty())
     {
         error = valueMissing(option, arguments.front());

@@ -19,7 +19,7 @@ class OptionDescription;
 class AbbreviationParser final : public IArgumentParser
 {
 public:
-    AbbreviationParser(EventHandler& owner, Garbage& settings, std::uint32_t flags);
+    AbbreviationParser(EventHandler* owner, Garbage& settings, std::uint32_t flags);
 
     int recognize(const ArgumentQueue& arguments, const RegisteredOptionStorage& options,
                   std::wstring& message) override;
@@ -29,14 +29,13 @@ public:
     [[nodiscard]] std::int32_t priority() const noexcept override { return -10; }
 
 private:
-    // What an option is given: its value, and how many arguments name and value take.
+    // What an option is given: its value, and whether that is an argument of its own.
     struct Given
     {
         std::wstring_view value;
-        std::size_t consumed = 1;
+        bool takesNext = false;
     };
 
-    void recognizeName(std::wstring_view argument, const RegisteredOptionStorage& options);
     // Answer whether an option is given what it needs; otherwise `error` receives the message.
     [[nodiscard]] bool takeValue(Given& given, ArgumentQueue& arguments,
                                  const OptionDescription& option, std::wstring& error) const;
@@ -44,15 +43,15 @@ private:
                                         const OptionDescription& option, std::wstring& error) const;
     [[nodiscard]] std::wstring valueMissing(const OptionDescription& option,
                                             std::wstring_view argument) const;
+    void remove(ArgumentQueue& arguments) const;
 
     WhiteSpace m_whiteSpace;
     ValueStoring m_storing;
 
-    // Of the argument recognised last.
+    // Of the argument claimed last.
     OptionArgument m_split;
-    std::int64_t m_matchedIndex = -1;
-    std::wstring m_candidateList; // not empty: the name is ambiguous
-    BestMatch m_match;            // the candidate chosen
+    BestMatch m_match;
+    std::wstring m_candidateList; // where the name is ambiguous
 };
 
 } // namespace kexa_3_3

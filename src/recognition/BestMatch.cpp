@@ -5,16 +5,10 @@
 namespace kexa_3_3
 {
 
-BestMatch findBestMatch(const OptionIndex& index, std::wstring_view typedName)
+BestMatch matchBeginning(const OptionIndex& index, std::wstring_view typedName)
 {
-    const std::int64_t exact = index.findAnswering(typedName);
-    if (exact != OptionIndex::none)
-    {
-        return {1, exact, {}, typedName};
-    }
     const OptionIndex::PrefixMatches matches = index.matchPrefix(typedName);
-    return {matches.count, matches.option, matches.negated ? negation : std::wstring_view(),
-            matches.name};
+    return {matches.count, matches.option, matches.name, matches.negated};
 }
 
 std::wstring listCandidates(const OptionIndex& index, std::wstring_view typedName)

@@ -20,18 +20,36 @@ struct BestMatch
     // Where count is 1: the option's index, and the matching candidate, `prefix` (empty or "no-")
     // and `name` one after the other.
     std::int64_t option = OptionIndex::none;
-    std::wstring_view prefix;
     std::wstring_view name;
+    bool negated = false;
 
+    [[nodiscard]] std::wstring_view prefix() const noexcept
+    {
+        return negated ? negation : std::wstring_view();
+    }
     [[nodiscard]] bool beginsWithNegation() const noexcept
     {
-        return !prefix.empty() || kexa_3_3::beginsWithNegation(name);
+        return negated || kexa_3_3::beginsWithNegation(name);
     }
 };
 
+// What a name stands for that equals no candidate.
+[[nodiscard]] BestMatch matchBeginning(const OptionIndex& index, std::wstring_view typedName);
+
 // A name that equals a candidate stands for it alone, even where it begins others; otherwise the
 // candidates that begin with it match. Case counts. The texts of the answer are those given.
-[[nodiscard]] BestMatch findBestMatch(const OptionIndex& index, std::wstring_view typedName);
+inline void findBestMatch(BestMatch& match, const OptionIndex& index, std::wstring_view typedName)
+{
+    const std::int64_t exact = index.findAnswering(typedName);
+    if (exact != OptionIndex::none)
+    {
+        match = {1, exact, typedName, false};
+    }
+    else
+    {
+        match = matchBeginning(index, typedName);
+    }
+}
 
 // All candidates that begin with the name, in table order, each in quotes, separated by ", ".
 [[nodiscard]] std::wstring listCandidates(const OptionIndex& index, std::wstring_view typedName);

@@ -2,12 +2,14 @@
 #pragma once
 
 #include <cstdint>
+#include <ostream>
 #include <string>
 #include <string_view>
 
 #include "kexa/result.h"
 
 #include "recognition/ArgumentQueue.h"
+#include "support/Trace.h"
 
 namespace kexa_3_3
 {
@@ -15,6 +17,7 @@ namespace kexa_3_3
 class EventHandler;
 class Garbage;
 class IResultCollector;
+class OptionDescription;
 class RegisteredOptionStorage;
 
 // Made for one parse run. Whatever an operation is given lives longer than the run.
@@ -50,25 +53,43 @@ public:
     [[nodiscard]] virtual std::int32_t priority() const noexcept = 0;
 
     // What the storing of values needs to know of the parser that runs it.
-    [[nodiscard]] EventHandler& owner() const noexcept { return *m_owner; }
+    [[nodiscard]] EventHandler* owner() const noexcept { return m_owner; }
     [[nodiscard]] std::wstring_view name() const noexcept { return m_name; }
 
+    // Writes a trace line that begins with the parser's name.
+    template <class... Pieces>
+    void trace(Pieces... pieces) const
+    {
+        traceLine(Name{this}, pieces...);
+    }
+
 protected:
-    // owner:    receives the events.
+    // owner:    receives the events; null where nobody listens.
     // settings: the parser's texts.
     // flags:    the creation flags.
-    IArgumentParser(EventHandler& owner, Garbage& settings, std::uint32_t flags) noexcept
-        : m_owner(&owner), m_settings(&settings), m_flags(flags)
+    IArgumentParser(EventHandler* owner, Garbage& settings, std::uint32_t flags) noexcept
+        : m_owner(owner), m_settings(&settings), m_flags(flags)
     {
     }
     IArgumentParser(const IArgumentParser&) = delete;
     IArgumentParser& operator=(const IArgumentParser&) = delete;
 
     void rename(std::wstring_view name) noexcept { m_name = name; }
+    void reportOption(const OptionDescription& option) const;
     [[nodiscard]] Garbage& settings() const noexcept { return *m_settings; }
     [[nodiscard]] bool hasFlag(std::uint32_t flag) const noexcept { return (m_flags & flag) != 0; }
 
 private:
+    // Looked up only when it is written.
+    struct Name
+    {
+        const IArgumentParser* parser;
+        friend std::wostream& operator<<(std::wostream& out, Name name)
+        {
+            return out << name.parser->name();
+        }
+    };
+
     EventHandler* m_owner;
     std::wstring_view m_name = L"UndefinedParser"; // begins every trace line; a literal
     Garbage* m_settings;

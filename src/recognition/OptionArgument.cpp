@@ -13,7 +13,8 @@ OptionArgument splitOptionArgument(std::wstring_view argument, const WhiteSpace&
 {
     std::size_t begin = hyphenPrefixLength(argument, 0);
     begin += hyphenPrefixLength(argument, begin);
-    const std::wstring_view rest = argument.substr(begin);
+    std::wstring_view rest = argument;
+    rest.remove_prefix(begin);
     const std::size_t end = whiteSpace.endOfName(rest);
     OptionArgument split;
     split.name = rest.substr(0, end);
@@ -22,15 +23,12 @@ OptionArgument splitOptionArgument(std::wstring_view argument, const WhiteSpace&
         return split;
     }
     split.hasValue = true;
-    std::size_t value = end + 1;
-    if (rest[end] != L'=')
+    split.value = rest;
+    split.value.remove_prefix(end + 1);
+    while (rest[end] != L'=' && !split.value.empty() && whiteSpace.contains(split.value.front()))
     {
-        while (value < rest.size() && whiteSpace.contains(rest[value]))
-        {
-            ++value;
-        }
+        split.value.remove_prefix(1);
     }
-    split.value = rest.substr(value);
     return split;
 }
 

@@ -1,16 +1,14 @@
 #include "recognition/PositionalOptionsParser.h"
 
-#include "kexa/event_handler.h"
 #include "kexa/parser.h"
 
 #include "options/OptionDescription.h"
 #include "options/RegisteredOptionStorage.h"
-#include "support/Trace.h"
 
 namespace kexa_3_3
 {
 
-PositionalOptionsParser::PositionalOptionsParser(EventHandler& owner, Garbage& settings,
+PositionalOptionsParser::PositionalOptionsParser(EventHandler* owner, Garbage& settings,
                                                  std::uint32_t flags)
     : IArgumentParser(owner, settings, flags), m_storing(*this)
 {
@@ -22,7 +20,7 @@ int PositionalOptionsParser::recognize(const ArgumentQueue& arguments,
                                        std::wstring& /*message*/)
 {
     const std::wstring_view argument = arguments.front();
-    traceLine(name(), L": recognizing argument '", argument, L"'");
+    trace(L": recognizing argument '", argument, L"'");
     if (hasFlag(flag_no_hyphen_positional) && !argument.empty() && argument.front() == L'-')
     {
         return declined;
@@ -34,20 +32,20 @@ int PositionalOptionsParser::parse(ArgumentQueue& arguments, IResultCollector* c
                                    const RegisteredOptionStorage& options,
                                    std::int64_t& optionIndex, std::wstring& error)
 {
-    traceLine(name(), L": parsing argument '", arguments.front(), L"'");
+    trace(L": parsing argument '", arguments.front(), L"'");
     optionIndex = options.index().firstPositional();
     const OptionDescription& option = options[static_cast<std::size_t>(optionIndex)];
-    traceLine(name(), L": option is '", option.primaryName(), L"'");
+    trace(L": option is '", option.primaryName(), L"'");
     do
     {
         const std::wstring_view argument = arguments.front();
-        static_cast<void>(owner().onOptionParsed(option.primaryName().data()));
+        reportOption(option);
         const int code = m_storing.store(argument, error, option, argument, collector);
         if (code != 0)
         {
             return code;
         }
-        traceLine(name(), L": removing argument: '", argument, L"'");
+        trace(L": removing argument: '", argument, L"'");
         arguments.removeFront();
     } while (!arguments.empty() && hasFlag(flag_positional_takes_rest));
     return 0;

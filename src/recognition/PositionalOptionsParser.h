@@ -14,7 +14,7 @@ namespace kexa_3_3
 class PositionalOptionsParser final : public IArgumentParser
 {
 public:
-    PositionalOptionsParser(EventHandler& owner, Garbage& settings, std::uint32_t flags);
+    PositionalOptionsParser(EventHandler* owner, Garbage& settings, std::uint32_t flags);
 
     int recognize(const ArgumentQueue& arguments, const RegisteredOptionStorage& options,
                   std::wstring& message) override;

@@ -1,6 +1,7 @@
 #include "recognition/ValueStoring.h"
 
 #include <limits>
+#include <ostream>
 #include <utility>
 
 #include "kexa/event_handler.h"
@@ -13,7 +14,6 @@
 #include "support/Garbage.h"
 #include "support/SharedTexts.h"
 #include "support/Text.h"
-#include "support/Trace.h"
 
 namespace kexa_3_3
 {
@@ -43,17 +43,15 @@ std::wstring noValueMessage(std::wstring_view value, const OptionDescription& op
         {L"No value parsed in argument '", value, L"' for option '", option.primaryName(), L"'"});
 }
 
-std::wstring validationMessage(std::wstring_view argument, std::wstring_view reason)
+// Looked up only when it is written.
+struct PrimaryName
 {
-    return concatenate({L"Value validation problem in argument '", argument, L"': ", reason});
-}
-
-std::wstring refusalMessage(std::wstring_view value, const OptionDescription& option,
-                            std::wstring_view argument)
-{
-    return concatenate({L"Value '", value, L"' is not valid for option '", option.primaryName(),
-                        L"' in argument '", argument, L"'"});
-}
+    const OptionDescription* option;
+    friend std::wostream& operator<<(std::wostream& out, PrimaryName name)
+    {
+        return out << name.option->primaryName();
+    }
+};
 
 // The text of a value that is not the one written. A string value holds it already.
 std::wstring_view finalText(const OptionDescription& option, const vexkit2::variant_t& value)
@@ -82,7 +80,7 @@ int ValueStoring::store(std::wstring_view value, std::wstring& error,
     const int code = value.empty() ? storeWithoutValue(given) : storeValues(given, error);
     if (code == stored)
     {
-        traceLine(m_parser.name(), L": stored option to result container.");
+        m_parser.trace(L": stored option to result container.");
     }
     return code;
 }
@@ -100,19 +98,19 @@ int ValueStoring::storeWithoutValue(const GivenValue& given)
 
 int ValueStoring::storeValues(const GivenValue& given, std::wstring& error)
 {
-    traceLine(m_parser.name(), L": adding values to result container:");
+    m_parser.trace(L": adding values to result container:");
     if (given.isCut())
     {
-        traceLine(m_parser.name(), L": using tokenizer on char: '", given.separator, L"'");
+        m_parser.trace(L": using tokenizer on char: '", given.separator, L"'");
         if (given.value.find(given.separator) != std::wstring_view::npos)
         {
             return storePieces(given, error);
         }
-        traceLine(m_parser.name(), L": value is: '", given.value, L"'");
+        m_parser.trace(L": value is: '", given.value, L"'");
     }
     else
     {
-        traceLine(m_parser.name(), L": not using tokenizer");
+        m_parser.trace(L": not using tokenizer");
     }
     ValueEntry entry;
     const int code = accept(given.value, given, entry, error);
@@ -132,7 +130,7 @@ int ValueStoring::storePieces(const GivenValue& given, std::wstring& error)
                  {
                      if (code == stored)
                      {
-                         traceLine(m_parser.name(), L": value is: '", piece, L"'");
+                         m_parser.trace(L": value is: '", piece, L"'");
                          // Room first: behind a failure with a message nothing may throw.
                          record.positions.push_back(no_position);
                          ValueEntry& entry = record.values.emplace_back();
@@ -143,7 +141,7 @@ int ValueStoring::storePieces(const GivenValue& given, std::wstring& error)
     if (record.values.empty())
     {
         error = noValueMessage(given.value, given.option);
-        traceLine(m_parser.name(), L": ", error);
+        m_parser.trace(L": ", viewOf(error));
         return invalid;
     }
     if (code == stored && given.collector != nullptr)
@@ -157,34 +155,53 @@ int ValueStoring::storePieces(const GivenValue& given, std::wstring& error)
 int ValueStoring::accept(std::wstring_view piece, const GivenValue& given, ValueEntry& entry,
                          std::wstring& error)
 {
-    const OptionDescription& option = given.option;
-    ValueRecord record = {option.primaryName().data(), vexkit2::variant_t(), 0};
-    std::wstring reason;
     SharedTexts* const texts = given.collector == nullptr ? nullptr : &given.collector->texts();
-    const ValueVerdict verdict = checkValue(option, piece, record.value, reason, texts);
-    if (verdict == ValueVerdict::rejected)
+    const ValueVerdict verdict = checkValue(given.option, piece, entry.value, texts);
+    if (isRejected(verdict)) [[unlikely]]
     {
-        error = validationMessage(given.argument, reason);
-        traceLine(m_parser.name(), L": ", error);
-        return invalid;
+        return reject(verdict, piece, given, error);
     }
-    record.sequenceNumber = takeSequenceNumber();
-    const bool accepted = m_parser.owner().onValueParsed(record.optionName, &record);
+    entry.position = takeSequenceNumber();
+    const bool accepted = m_parser.owner() == nullptr || offer(given.option, entry);
     if (given.isCut())
     {
-        traceLine(m_parser.name(), L": sent event on value parsed, option: '", record.optionName,
-                  L"', value: '", piece, L"'");
+        m_parser.trace(L": sent event on value parsed, option: '", PrimaryName{&given.option},
+                       L"', value: '", piece, L"'");
     }
-    if (!accepted)
+    if (!accepted) [[unlikely]]
     {
-        error = refusalMessage(given.value, option, given.argument);
-        traceLine(m_parser.name(), error, L" One of the handler signaled the value is not valid.");
-        return refused;
+        return refuse(given, error);
     }
-    entry.text = verdict == ValueVerdict::changed ? finalText(option, record.value) : piece;
-    entry.value = std::move(record.value);
-    entry.position = record.sequenceNumber;
+    entry.text = verdict == ValueVerdict::accepted ? piece : finalText(given.option, entry.value);
     return stored;
+}
+
+// Says that a piece of the value is none for the option.
+int ValueStoring::reject(ValueVerdict verdict, std::wstring_view piece, const GivenValue& given,
+                         std::wstring& error) const
+{
+    error = concatenate({L"Value validation problem in argument '", given.argument, L"': ",
+                         rejectionMessage(verdict, given.option, piece)});
+    m_parser.trace(L": ", viewOf(error));
+    return invalid;
+}
+
+// Says that a handler refused a value.
+int ValueStoring::refuse(const GivenValue& given, std::wstring& error) const
+{
+    error = concatenate({L"Value '", given.value, L"' is not valid for option '",
+                         given.option.primaryName(), L"' in argument '", given.argument, L"'"});
+    m_parser.trace(viewOf(error), L" One of the handler signaled the value is not valid.");
+    return refused;
+}
+
+// Lets the event handlers, which there must be, see a value. Answers whether they accept it.
+bool ValueStoring::offer(const OptionDescription& option, ValueEntry& entry) const
+{
+    ValueRecord record = {option.primaryName().data(), std::move(entry.value), entry.position};
+    const bool accepted = m_parser.owner()->onValueParsed(record.optionName, &record);
+    entry.value = std::move(record.value);
+    return accepted;
 }
 
 } // namespace kexa_3_3

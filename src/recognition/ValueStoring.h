@@ -14,6 +14,7 @@ namespace kexa_3_3
 class IArgumentParser;
 class IResultCollector;
 class OptionDescription;
+enum class ValueVerdict : std::uint8_t;
 
 // The number that the next converted value will get. One counter for the whole process, unguarded:
 // it orders the values of all parsers by the time of their conversion.
@@ -55,6 +56,10 @@ private:
     [[nodiscard]] int storePieces(const GivenValue& given, std::wstring& error);
     [[nodiscard]] int accept(std::wstring_view piece, const GivenValue& given, ValueEntry& entry,
                              std::wstring& error);
+    [[nodiscard]] int reject(ValueVerdict verdict, std::wstring_view piece, const GivenValue& given,
+                             std::wstring& error) const;
+    [[nodiscard]] int refuse(const GivenValue& given, std::wstring& error) const;
+    [[nodiscard]] bool offer(const OptionDescription& option, ValueEntry& entry) const;
 
     const IArgumentParser& m_parser;
 };

@@ -14,6 +14,11 @@ namespace kexa_3_3
     return text == nullptr ? std::wstring_view() : std::wstring_view(text);
 }
 
+[[nodiscard]] inline std::wstring_view viewOf(const std::wstring& text) noexcept
+{
+    return text;
+}
+
 // The pieces one after the other.
 [[nodiscard]] inline std::wstring concatenate(std::initializer_list<std::wstring_view> pieces)
 {

@@ -3,6 +3,7 @@
 
 #include <ostream>
 #include <streambuf>
+#include <type_traits>
 
 namespace kexa_3_3
 {
@@ -39,7 +40,7 @@ namespace internal
 {
 
 template <class... Pieces>
-void writeTraceLine(const Pieces&... pieces)
+void writeTraceLine(Pieces... pieces)
 {
     (traceStream() << ... << pieces) << std::endl;
 }
@@ -47,10 +48,12 @@ void writeTraceLine(const Pieces&... pieces)
 } // namespace internal
 
 // Writes one line made of the pieces (wide texts and integers). While the trace is off it costs a
-// look at the switch: the pieces are not even formatted.
+// look at the switch: the pieces are not even formatted. They come by value, since a reference
+// would keep what it refers to in memory, also for the code around that has it in registers.
 template <class... Pieces>
-inline void traceLine(const Pieces&... pieces)
+inline void traceLine(Pieces... pieces)
 {
+    static_assert((std::is_trivially_copyable_v<Pieces> && ...), "a view of a text, not the text");
     if (internal::trace_switch) [[unlikely]]
     {
         internal::writeTraceLine(pieces...);

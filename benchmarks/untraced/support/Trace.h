@@ -10,7 +10,7 @@ namespace kexa_3_3
 {
 
 template <class... Pieces>
-void traceLine(const Pieces&...)
+void traceLine(Pieces...)
 {
 }
 

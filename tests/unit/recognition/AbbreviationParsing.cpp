@@ -17,7 +17,7 @@ class AbbreviationParsing : public unit::RecognitionTest
 protected:
     Outcome parse(const Texts& arguments)
     {
-        AbbreviationParser parser(handler, pool, 0);
+        AbbreviationParser parser(&handler, pool, 0);
         return run(parser, arguments);
     }
 
@@ -182,7 +182,7 @@ TEST_F(AbbreviationParsing, ExceptionOfAHandlerLeavesTheArguments)
         throw std::runtime_error("handler");
     };
     unit::GivenArguments given({L"--name", L"v"});
-    AbbreviationParser parser(handler, pool, 0);
+    AbbreviationParser parser(&handler, pool, 0);
     ArgumentQueue queue(given);
     std::wstring message;
     std::int64_t optionIndex = -1;
@@ -196,7 +196,7 @@ TEST_F(AbbreviationParsing, ExceptionOfAHandlerLeavesTheArguments)
 TEST_F(AbbreviationParsing, NothingNeedsToBeStored)
 {
     add(L"name");
-    AbbreviationParser parser(handler, pool, 0);
+    AbbreviationParser parser(&handler, pool, 0);
     unit::GivenArguments given({L"--name", L"v", L"next"});
     ArgumentQueue queue(given);
     std::wstring message;
@@ -205,6 +205,20 @@ TEST_F(AbbreviationParsing, NothingNeedsToBeStored)
     EXPECT_EQ(parser.parse(queue, nullptr, options, optionIndex, message), 0);
     EXPECT_EQ(unit::takeAll(queue), (Texts{L"next"}));
     EXPECT_EQ(handler.events, (Texts{L"option name", L"value name v 0"}));
+}
+
+TEST_F(AbbreviationParsing, NobodyNeedsToListen)
+{
+    add(L"name");
+    AbbreviationParser parser(nullptr, pool, 0);
+    unit::GivenArguments given({L"--name=v,w", L"next"});
+    ArgumentQueue queue(given);
+    std::wstring message;
+    std::int64_t optionIndex = -1;
+    ASSERT_EQ(parser.recognize(queue, options, message), 0);
+    EXPECT_EQ(parser.parse(queue, &collector, options, optionIndex, message), 0);
+    EXPECT_EQ(unit::takeAll(queue), (Texts{L"next"}));
+    EXPECT_EQ(collector.stored, (Texts{L"name [0 v=v, 1 w=w]"}));
 }
 
 } // namespace

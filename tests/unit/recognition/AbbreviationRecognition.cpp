@@ -27,7 +27,7 @@ protected:
     }
     int recognize(const std::wstring& argument)
     {
-        AbbreviationParser parser(handler, pool, 0);
+        AbbreviationParser parser(&handler, pool, 0);
         return recognize(parser, argument);
     }
 };
@@ -87,7 +87,7 @@ TEST_F(AbbreviationRecognition, FormerArgumentIsForgotten)
 {
     add(L"verbose", value_type_boolean);
     add(L"version");
-    AbbreviationParser parser(handler, pool, 0);
+    AbbreviationParser parser(&handler, pool, 0);
     EXPECT_EQ(recognize(parser, L"--ver"), 0);
     EXPECT_EQ(recognize(parser, L"--x"), 1);
     EXPECT_EQ(recognize(parser, L"--vers"), 0);
@@ -116,7 +116,7 @@ TEST_F(AbbreviationRecognition, WhiteSpaceIsThatOfTheLocaleWhenTheRunBegins)
 {
     add(L"name");
     const std::locale before = std::locale::global(std::locale(std::locale(), new UnderscoreSpace));
-    AbbreviationParser parser(handler, pool, 0);
+    AbbreviationParser parser(&handler, pool, 0);
     std::locale::global(before);
     EXPECT_EQ(run(parser, {L"--name__a_b"}).code, 0);
     EXPECT_EQ(run(parser, {L"--name a"}).code, 0);

@@ -15,7 +15,7 @@ using namespace kexa_3_3;
 class NamelessParser final : public IArgumentParser
 {
 public:
-    NamelessParser(EventHandler& owner, Garbage& settings, std::uint32_t flags)
+    NamelessParser(EventHandler* owner, Garbage& settings, std::uint32_t flags)
         : IArgumentParser(owner, settings, flags)
     {
     }
@@ -44,14 +44,14 @@ protected:
 
 TEST_F(ArgumentParserBase, NameIsThatOfTheKind)
 {
-    EXPECT_EQ(NamelessParser(handler, pool, 0).name(), L"UndefinedParser");
-    EXPECT_EQ(AbbreviationParser(handler, pool, 0).name(), L"AbbreviationParser");
-    EXPECT_EQ(PositionalOptionsParser(handler, pool, 0).name(), L"PositionalOptionsParser");
+    EXPECT_EQ(NamelessParser(&handler, pool, 0).name(), L"UndefinedParser");
+    EXPECT_EQ(AbbreviationParser(&handler, pool, 0).name(), L"AbbreviationParser");
+    EXPECT_EQ(PositionalOptionsParser(&handler, pool, 0).name(), L"PositionalOptionsParser");
 }
 
 TEST_F(ArgumentParserBase, KindWithoutANameTracesAsUndefined)
 {
-    const NamelessParser parser(handler, pool, 0);
+    const NamelessParser parser(&handler, pool, 0);
     ValueStoring storing(parser);
     OptionDescription& option = add(L"out");
     std::wstring error;
@@ -66,15 +66,15 @@ TEST_F(ArgumentParserBase, KindWithoutANameTracesAsUndefined)
 
 TEST_F(ArgumentParserBase, PrioritiesAreFixed)
 {
-    EXPECT_EQ(AbbreviationParser(handler, pool, 0).priority(), -10);
-    EXPECT_EQ(PositionalOptionsParser(handler, pool, 0).priority(), -100);
+    EXPECT_EQ(AbbreviationParser(&handler, pool, 0).priority(), -10);
+    EXPECT_EQ(PositionalOptionsParser(&handler, pool, 0).priority(), -100);
 }
 
 TEST_F(ArgumentParserBase, ContextQuotesTheArgument)
 {
-    const NamelessParser base(handler, pool, 0);
-    const AbbreviationParser abbreviation(handler, pool, 0);
-    const PositionalOptionsParser positional(handler, pool, 0);
+    const NamelessParser base(&handler, pool, 0);
+    const AbbreviationParser abbreviation(&handler, pool, 0);
+    const PositionalOptionsParser positional(&handler, pool, 0);
     for (const IArgumentParser* const parser : {static_cast<const IArgumentParser*>(&base),
                                                 static_cast<const IArgumentParser*>(&abbreviation),
                                                 static_cast<const IArgumentParser*>(&positional)})
@@ -86,8 +86,8 @@ TEST_F(ArgumentParserBase, ContextQuotesTheArgument)
 
 TEST_F(ArgumentParserBase, KeepsWhatItIsGiven)
 {
-    const NamelessParser parser(handler, pool, 0x80000008);
-    EXPECT_EQ(&parser.owner(), &handler);
+    const NamelessParser parser(&handler, pool, 0x80000008);
+    EXPECT_EQ(parser.owner(), &handler);
     EXPECT_EQ(&parser.settings(), &pool);
     EXPECT_TRUE(parser.hasFlag(8));
     EXPECT_TRUE(parser.hasFlag(0x80000000));

@@ -15,21 +15,25 @@ using toolbox::toUtf8;
 class BestMatchTest : public unit::RecognitionTest
 {
 protected:
+    [[nodiscard]] BestMatch find(const std::wstring& typedName) const
+    {
+        BestMatch match;
+        findBestMatch(match, options.index(), typedName);
+        return match;
+    }
+
     // The candidate that matches, or "N matches".
     std::wstring match(const std::wstring& typedName)
     {
-        const BestMatch match = findBestMatch(options.index(), typedName);
+        const BestMatch match = find(typedName);
         if (match.count != 1)
         {
             EXPECT_EQ(match.option, OptionIndex::none) << toUtf8(typedName);
             return std::to_wstring(match.count) + L" matches";
         }
-        return std::wstring(match.prefix) + std::wstring(match.name);
+        return std::wstring(match.prefix()) + std::wstring(match.name);
     }
-    std::int64_t optionOf(const std::wstring& typedName)
-    {
-        return findBestMatch(options.index(), typedName).option;
-    }
+    std::int64_t optionOf(const std::wstring& typedName) { return find(typedName).option; }
     std::wstring candidates(const std::wstring& typedName)
     {
         return listCandidates(options.index(), typedName);
@@ -142,7 +146,7 @@ TEST_F(BestMatchTest, CandidateThatBeginsWithNoIsTold)
     add(L"nothing");
     const auto negated = [this](const wchar_t* typedName)
     {
-        return findBestMatch(options.index(), typedName).beginsWithNegation();
+        return find(typedName).beginsWithNegation();
     };
     EXPECT_TRUE(negated(L"no-on"));
     EXPECT_TRUE(negated(L"no-o"));

@@ -15,12 +15,12 @@ class PositionalParsing : public unit::RecognitionTest
 protected:
     Outcome parse(const Texts& arguments, std::uint32_t flags = 0)
     {
-        PositionalOptionsParser parser(handler, pool, flags);
+        PositionalOptionsParser parser(&handler, pool, flags);
         return run(parser, arguments);
     }
     int recognize(const std::wstring& argument, std::uint32_t flags = 0)
     {
-        PositionalOptionsParser parser(handler, pool, flags);
+        PositionalOptionsParser parser(&handler, pool, flags);
         unit::GivenArguments given({argument});
         const ArgumentQueue queue(given);
         std::wstring message;

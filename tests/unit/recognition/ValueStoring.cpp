@@ -28,7 +28,7 @@ protected:
         return storing.store(value, error, option, L"--argument", &collector);
     }
 
-    PositionalOptionsParser parser{handler, pool, 0};
+    PositionalOptionsParser parser{&handler, pool, 0};
     ValueStoring storing{parser};
     std::wstring error;
 };

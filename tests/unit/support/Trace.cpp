@@ -90,7 +90,7 @@ TEST_F(Trace, LineIsItsPiecesAndALineEnd)
     EXPECT_EQ(captureOutput(
                   []
                   {
-                      const std::wstring argument = L"--\u00FC";
+                      const std::wstring_view argument = L"--\u00FC";
                       traceLine(L"Parser", L": recognizing argument '", argument, L"'");
                       traceLine(L"result: ", 2, L", ", std::wstring_view(L"rest").substr(0, 2));
                       traceLine(L"char: '", L',', L"'");
