@@ -210,11 +210,12 @@ template <class Integer>
 
 [[nodiscard]] variant_t convertBoolean(std::wstring_view text)
 {
-    if (text == L"1" || text == L"true")
+    using namespace std::string_view_literals;
+    if (text == L"1"sv || text == L"true"sv)
     {
         return variant_t(true);
     }
-    if (text == L"0" || text == L"false")
+    if (text == L"0"sv || text == L"false"sv)
     {
         return variant_t(false);
     }

@@ -9,6 +9,8 @@
 namespace kexa_3_3
 {
 
+using namespace std::string_view_literals;
+
 namespace
 {
 
@@ -117,7 +119,7 @@ bool AbbreviationParser::takeValue(Given& given, ArgumentQueue& arguments,
     }
     if (option.valueType == value_type_boolean)
     {
-        given.value = m_match.beginsWithNegation() ? L"0" : L"1";
+        given.value = m_match.beginsWithNegation() ? L"0"sv : L"1"sv;
         if (!empty)
         {
             error = concatenate({L"Option '", option.primaryName(),
