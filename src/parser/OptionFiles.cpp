@@ -39,7 +39,8 @@ std::wstring wholeText(const Occurrence& stored)
 
 const StoredOption* resultOf(OptionResultTable& options) noexcept
 {
-    return options.find(std::wstring_view(option_file_name));
+    // The usual parse fills an empty result, where nothing needs to be looked for.
+    return options.size() == 0 ? nullptr : options.find(std::wstring_view(option_file_name));
 }
 
 result_t readFile(const std::wstring& name, const OptionFiles::ParseFile& parseFile,

@@ -23,7 +23,7 @@ constexpr std::size_t shortest_option = 2; // a hyphen and a character
 AbbreviationParser::AbbreviationParser(EventHandler* owner, Garbage& settings, std::uint32_t flags)
     : IArgumentParser(owner, settings, flags), m_storing(*this)
 {
-    rename(L"AbbreviationParser");
+    rename(L"AbbreviationParser"sv);
 }
 
 int AbbreviationParser::recognize(const ArgumentQueue& arguments,
@@ -77,8 +77,9 @@ int AbbreviationParser::parse(ArgumentQueue& arguments, IResultCollector* collec
     {
         trace(L": value from the same argument taken: '", m_split.value, L"'");
     }
-    Given given;
-    if (!takeValue(given, arguments, option, error))
+    GivenValue given = {option, m_split.value, argument, collector};
+    bool takesNext = false;
+    if (!takeValue(given, takesNext, arguments, error))
     {
         trace(L": ", viewOf(error));
         return invalid;
@@ -86,11 +87,11 @@ int AbbreviationParser::parse(ArgumentQueue& arguments, IResultCollector* collec
 
     reportOption(option);
     trace(L": sent event on option parsed");
-    const int code = m_storing.store(given.value, error, option, argument, collector);
+    const int code = m_storing.store(given, error);
     if (code == parsed)
     {
         remove(arguments);
-        if (given.takesNext)
+        if (takesNext)
         {
             remove(arguments);
         }
@@ -104,16 +105,18 @@ void AbbreviationParser::remove(ArgumentQueue& arguments) const
     arguments.removeFront();
 }
 
-bool AbbreviationParser::takeValue(Given& given, ArgumentQueue& arguments,
-                                   const OptionDescription& option, std::wstring& error) const
+// Makes the value of the argument, which is given, the value for the option.
+bool AbbreviationParser::takeValue(GivenValue& given, bool& takesNext, ArgumentQueue& arguments,
+                                   std::wstring& error) const
 {
-    const bool empty = m_split.value.empty();
+    const OptionDescription& option = given.option;
+    const bool empty = given.value.empty();
     if (option.valueType == value_type_none)
     {
         if (!empty)
         {
             error = concatenate({L"Option '", option.primaryName(), L"'does not requires a value",
-                                 formatArgumentContext(arguments.front())});
+                                 formatArgumentContext(given.argument)});
         }
         return empty;
     }
@@ -125,28 +128,27 @@ bool AbbreviationParser::takeValue(Given& given, ArgumentQueue& arguments,
             error = concatenate({L"Option '", option.primaryName(),
                                  L"' is boolean and should be declared in form '--option' "
                                  L"or '--no-option'",
-                                 formatArgumentContext(arguments.front())});
+                                 formatArgumentContext(given.argument)});
         }
         return empty;
     }
-    given.value = m_split.value;
-    return !empty || takeNextArgument(given, arguments, option, error);
+    takesNext = empty;
+    return !empty || takeNextArgument(given, arguments, error);
 }
 
-bool AbbreviationParser::takeNextArgument(Given& given, ArgumentQueue& arguments,
-                                          const OptionDescription& option,
+bool AbbreviationParser::takeNextArgument(GivenValue& given, ArgumentQueue& arguments,
                                           std::wstring& error) const
 {
     trace(L": no value in the same argument, looking next");
     if (!arguments.hasSecond())
     {
-        error = valueMissing(option, arguments.front());
+        error = valueMissing(given);
         return false;
     }
-    given = {arguments.second(), true};
+    given.value = arguments.second();
     if (!given.value.empty() && given.value.front() == L'-')
     {
-        error = concatenate({L"Option '", option.primaryName(),
+        error = concatenate({L"Option '", given.option.primaryName(),
                              L"' received value from the next argument: '", given.value,
                              (L"', but it seems to be an option. Use '-option=value' declaration "
                               L"form or make sure that value is not missed")});
@@ -155,16 +157,15 @@ bool AbbreviationParser::takeNextArgument(Given& given, ArgumentQueue& arguments
     trace(L": got value from the next argument: '", given.value, L"'");
     if (given.value.empty())
     {
-        error = valueMissing(option, arguments.front());
+        error = valueMissing(given);
     }
     return !given.value.empty();
 }
 
-std::wstring AbbreviationParser::valueMissing(const OptionDescription& option,
-                                              std::wstring_view argument) const
+std::wstring AbbreviationParser::valueMissing(const GivenValue& given) const
 {
-    return concatenate({L"Option '", option.primaryName(), L"' requires a value",
-                        formatArgumentContext(argument)});
+    return concatenate({L"Option '", given.option.primaryName(), L"' requires a value",
+                        formatArgumentContext(given.argument)});
 }
 
 } // namespace kexa_3_3

@@ -29,20 +29,13 @@ public:
     [[nodiscard]] std::int32_t priority() const noexcept override { return -10; }
 
 private:
-    // What an option is given: its value, and whether that is an argument of its own.
-    struct Given
-    {
-        std::wstring_view value;
-        bool takesNext = false;
-    };
-
-    // Answer whether an option is given what it needs; otherwise `error` receives the message.
-    [[nodiscard]] bool takeValue(Given& given, ArgumentQueue& arguments,
-                                 const OptionDescription& option, std::wstring& error) const;
-    [[nodiscard]] bool takeNextArgument(Given& given, ArgumentQueue& arguments,
-                                        const OptionDescription& option, std::wstring& error) const;
-    [[nodiscard]] std::wstring valueMissing(const OptionDescription& option,
-                                            std::wstring_view argument) const;
+    // Answer whether an option is given what it needs, and whether that is the next argument;
+    // otherwise `error` receives the message.
+    [[nodiscard]] bool takeValue(GivenValue& given, bool& takesNext, ArgumentQueue& arguments,
+                                 std::wstring& error) const;
+    [[nodiscard]] bool takeNextArgument(GivenValue& given, ArgumentQueue& arguments,
+                                        std::wstring& error) const;
+    [[nodiscard]] std::wstring valueMissing(const GivenValue& given) const;
     void remove(ArgumentQueue& arguments) const;
 
     WhiteSpace m_whiteSpace;

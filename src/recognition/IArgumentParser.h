@@ -80,6 +80,8 @@ protected:
     [[nodiscard]] bool hasFlag(std::uint32_t flag) const noexcept { return (m_flags & flag) != 0; }
 
 private:
+    static constexpr std::wstring_view nameless = L"UndefinedParser";
+
     // Looked up only when it is written.
     struct Name
     {
@@ -91,7 +93,7 @@ private:
     };
 
     EventHandler* m_owner;
-    std::wstring_view m_name = L"UndefinedParser"; // begins every trace line; a literal
+    std::wstring_view m_name = nameless; // begins every trace line; a literal
     Garbage* m_settings;
     std::uint32_t m_flags;
 };

@@ -8,11 +8,13 @@
 namespace kexa_3_3
 {
 
+using namespace std::string_view_literals;
+
 PositionalOptionsParser::PositionalOptionsParser(EventHandler* owner, Garbage& settings,
                                                  std::uint32_t flags)
     : IArgumentParser(owner, settings, flags), m_storing(*this)
 {
-    rename(L"PositionalOptionsParser");
+    rename(L"PositionalOptionsParser"sv);
 }
 
 int PositionalOptionsParser::recognize(const ArgumentQueue& arguments,
@@ -40,7 +42,7 @@ int PositionalOptionsParser::parse(ArgumentQueue& arguments, IResultCollector* c
     {
         const std::wstring_view argument = arguments.front();
         reportOption(option);
-        const int code = m_storing.store(argument, error, option, argument, collector);
+        const int code = m_storing.store({option, argument, argument, collector}, error);
         if (code != 0)
         {
             return code;

@@ -72,12 +72,9 @@ void setNextSequenceNumber(std::int32_t number) noexcept
     sequence_counter = number;
 }
 
-int ValueStoring::store(std::wstring_view value, std::wstring& error,
-                        const OptionDescription& option, std::wstring_view argument,
-                        IResultCollector* collector)
+int ValueStoring::store(const GivenValue& given, std::wstring& error)
 {
-    const GivenValue given = {option, value, argument, option.separator, collector};
-    const int code = value.empty() ? storeWithoutValue(given) : storeValues(given, error);
+    const int code = given.value.empty() ? storeWithoutValue(given) : storeValue(given, error);
     if (code == stored)
     {
         m_parser.trace(L": stored option to result container.");
@@ -96,15 +93,16 @@ int ValueStoring::storeWithoutValue(const GivenValue& given)
     return stored;
 }
 
-int ValueStoring::storeValues(const GivenValue& given, std::wstring& error)
+int ValueStoring::storeValue(const GivenValue& given, std::wstring& error)
 {
+    const wchar_t separator = given.option.separator; // which handlers may change later
     m_parser.trace(L": adding values to result container:");
-    if (given.isCut())
+    if (separator != 0)
     {
-        m_parser.trace(L": using tokenizer on char: '", given.separator, L"'");
-        if (given.value.find(given.separator) != std::wstring_view::npos)
+        m_parser.trace(L": using tokenizer on char: '", separator, L"'");
+        if (given.value.find(separator) != std::wstring_view::npos)
         {
-            return storePieces(given, error);
+            return storePieces(given, separator, error);
         }
         m_parser.trace(L": value is: '", given.value, L"'");
     }
@@ -113,7 +111,7 @@ int ValueStoring::storeValues(const GivenValue& given, std::wstring& error)
         m_parser.trace(L": not using tokenizer");
     }
     ValueEntry entry;
-    const int code = accept(given.value, given, entry, error);
+    const int code = accept(given.value, given, separator != 0, entry, error);
     if (code == stored && given.collector != nullptr)
     {
         static_cast<void>(given.collector->storeValue(given.option, entry));
@@ -121,11 +119,11 @@ int ValueStoring::storeValues(const GivenValue& given, std::wstring& error)
     return code;
 }
 
-int ValueStoring::storePieces(const GivenValue& given, std::wstring& error)
+int ValueStoring::storePieces(const GivenValue& given, wchar_t separator, std::wstring& error)
 {
     OptionResult record;
     int code = stored;
-    forEachPiece(given.value, given.separator,
+    forEachPiece(given.value, separator,
                  [&](std::wstring_view piece)
                  {
                      if (code == stored)
@@ -134,7 +132,7 @@ int ValueStoring::storePieces(const GivenValue& given, std::wstring& error)
                          // Room first: behind a failure with a message nothing may throw.
                          record.positions.push_back(no_position);
                          ValueEntry& entry = record.values.emplace_back();
-                         code = accept(piece, given, entry, error);
+                         code = accept(piece, given, true, entry, error);
                          record.positions.back() = entry.position;
                      }
                  });
@@ -152,8 +150,8 @@ int ValueStoring::storePieces(const GivenValue& given, std::wstring& error)
 }
 
 // Converts a piece of the value, numbers it and offers it to the event handlers.
-int ValueStoring::accept(std::wstring_view piece, const GivenValue& given, ValueEntry& entry,
-                         std::wstring& error)
+int ValueStoring::accept(std::wstring_view piece, const GivenValue& given, bool isCut,
+                         ValueEntry& entry, std::wstring& error)
 {
     SharedTexts* const texts = given.collector == nullptr ? nullptr : &given.collector->texts();
     const ValueVerdict verdict = checkValue(given.option, piece, entry.value, texts);
@@ -163,7 +161,7 @@ int ValueStoring::accept(std::wstring_view piece, const GivenValue& given, Value
     }
     entry.position = takeSequenceNumber();
     const bool accepted = m_parser.owner() == nullptr || offer(given.option, entry);
-    if (given.isCut())
+    if (isCut)
     {
         m_parser.trace(L": sent event on value parsed, option: '", PrimaryName{&given.option},
                        L"', value: '", piece, L"'");

@@ -23,39 +23,32 @@ enum class ValueVerdict : std::uint8_t;
 // Lets the counter go on from a number, so that its wrap can be reached.
 void setNextSequenceNumber(std::int32_t number) noexcept;
 
+// One occurrence of an option in an argument.
+struct GivenValue
+{
+    const OptionDescription& option;
+    std::wstring_view value;     // empty for an occurrence without values
+    std::wstring_view argument;  // the argument that is parsed, as messages name it
+    IResultCollector* collector; // what to store into; may be null
+};
+
 // Stores the occurrences that one argument parser finds.
 class ValueStoring
 {
 public:
     explicit ValueStoring(const IArgumentParser& parser) noexcept : m_parser(parser) {}
 
-    // value:     what was given for the option; empty for an occurrence without values.
-    // argument:  the argument that is parsed, as messages name it.
-    // collector: what to store into; may be null.
-    // error:     receives the message of a failure.
+    // error: receives the message of a failure.
     // Answers 0; 2 where the value does not convert or is not allowed; 1 where a handler refused
     // it. Nothing of the occurrence is stored then.
-    [[nodiscard]] int store(std::wstring_view value, std::wstring& error,
-                            const OptionDescription& option, std::wstring_view argument,
-                            IResultCollector* collector);
+    [[nodiscard]] int store(const GivenValue& given, std::wstring& error);
 
 private:
-    struct GivenValue
-    {
-        const OptionDescription& option;
-        std::wstring_view value;
-        std::wstring_view argument;
-        wchar_t separator; // as it was at first: handlers may change the option's
-        IResultCollector* collector;
-
-        [[nodiscard]] bool isCut() const noexcept { return separator != 0; }
-    };
-
     [[nodiscard]] static int storeWithoutValue(const GivenValue& given);
-    [[nodiscard]] int storeValues(const GivenValue& given, std::wstring& error);
-    [[nodiscard]] int storePieces(const GivenValue& given, std::wstring& error);
-    [[nodiscard]] int accept(std::wstring_view piece, const GivenValue& given, ValueEntry& entry,
-                             std::wstring& error);
+    [[nodiscard]] int storeValue(const GivenValue& given, std::wstring& error);
+    [[nodiscard]] int storePieces(const GivenValue& given, wchar_t separator, std::wstring& error);
+    [[nodiscard]] int accept(std::wstring_view piece, const GivenValue& given, bool isCut,
+                             ValueEntry& entry, std::wstring& error);
     [[nodiscard]] int reject(ValueVerdict verdict, std::wstring_view piece, const GivenValue& given,
                              std::wstring& error) const;
     [[nodiscard]] int refuse(const GivenValue& given, std::wstring& error) const;
