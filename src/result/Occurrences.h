@@ -49,13 +49,24 @@ struct Occurrence
 // nothing is ever moved, and places in the list stay good while it grows.
 class Occurrences
 {
+    // Stands ahead of the entries of a piece.
     struct Piece
     {
-        Occurrence* entries;
-        std::uint32_t size;
-        std::uint32_t room;
+        Occurrence* end;   // of what is stored
+        Occurrence* limit; // of the room
         Piece* next;
+
+        // Not for the one inside the list.
+        [[nodiscard]] Occurrence* begin() noexcept
+        {
+            return static_cast<Occurrence*>(static_cast<void*>(this + 1));
+        }
+        [[nodiscard]] const Occurrence* begin() const noexcept
+        {
+            return static_cast<const Occurrence*>(static_cast<const void*>(this + 1));
+        }
     };
+    static_assert(sizeof(Piece) % alignof(Occurrence) == 0);
 
 public:
     // A place in the list: an occurrence, or behind the last one.
@@ -66,17 +77,15 @@ public:
 
     private:
         friend class Occurrences;
-        explicit Place(const Piece* piece, std::uint32_t index) noexcept
-            : m_piece(piece), m_index(index)
+        explicit Place(const Piece* piece, const Occurrence* entry) noexcept
+            : m_piece(piece), m_entry(entry)
         {
         }
         const Piece* m_piece = nullptr;
-        std::uint32_t m_index = 0;
+        const Occurrence* m_entry = nullptr;
     };
 
-    Occurrences() noexcept : m_inside{&m_first, 0, 1, nullptr}, m_last(&m_inside), m_tail(&m_inside)
-    {
-    }
+    Occurrences() noexcept : m_inside{&m_first, &m_first + 1, nullptr}, m_last(&m_inside) {}
     ~Occurrences() = default;
     Occurrences(const Occurrences&) = delete;
     Occurrences& operator=(const Occurrences&) = delete;
@@ -86,22 +95,21 @@ public:
     // arena: lives longer than this.
     void reserveMore(std::size_t count, Arena& arena)
     {
-        if (count > m_free)
+        const std::size_t here = static_cast<std::size_t>(m_last->limit - m_last->end);
+        if (here < count)
         {
-            grow(count, arena);
+            grow(count - here, arena);
         }
     }
 
     // Needs room made before.
     void append(const Occurrence& occurrence) noexcept
     {
-        if (m_last->size == m_last->room)
+        if (m_last->end == m_last->limit)
         {
             m_last = m_last->next;
         }
-        m_last->entries[m_last->size++] = occurrence;
-        --m_free;
-        ++m_size;
+        *m_last->end++ = occurrence;
         m_hasPositions = m_hasPositions || occurrence.isPosition;
         m_hasValues = m_hasValues || occurrence.isValue;
     }
@@ -109,46 +117,45 @@ public:
     [[nodiscard]] bool hasPositions() const noexcept { return m_hasPositions; }
     [[nodiscard]] bool hasValues() const noexcept { return m_hasValues; }
 
-    // How many entries there are, whatever they hold.
-    [[nodiscard]] std::size_t size() const noexcept { return m_size; }
+    // How many entries there are, whatever they hold. Steps over whole pieces.
+    [[nodiscard]] std::size_t size() const noexcept;
 
-    [[nodiscard]] Place begin() const noexcept { return Place(&m_inside, 0); }
-    [[nodiscard]] Place end() const noexcept { return Place(m_last, m_last->size); }
+    // The first entry, or null.
+    [[nodiscard]] const Occurrence* first() const noexcept
+    {
+        return m_inside.end == &m_first ? nullptr : &m_first;
+    }
+
+    [[nodiscard]] Place begin() const noexcept { return Place(&m_inside, &m_first); }
+    [[nodiscard]] Place behindFirst() const noexcept { return Place(&m_inside, &m_first + 1); }
+    [[nodiscard]] Place end() const noexcept { return Place(m_last, m_last->end); }
 
     // The place of the occurrence with an index up to size(). Steps over whole pieces.
-    [[nodiscard]] Place placeOf(std::size_t index) const noexcept
-    {
-        const Piece* piece = &m_inside;
-        while (index > piece->size)
-        {
-            index -= piece->size;
-            piece = piece->next;
-        }
-        return Place(piece, static_cast<std::uint32_t>(index));
-    }
+    [[nodiscard]] Place placeOf(std::size_t index) const noexcept;
 
     // The occurrence at a place, which then is the next one; null at the end.
     [[nodiscard]] const Occurrence* next(Place& place) const noexcept
     {
-        if (place.m_index == place.m_piece->size)
+        if (place.m_entry == place.m_piece->end)
         {
             if (place.m_piece == m_last)
             {
                 return nullptr;
             }
-            place = Place(place.m_piece->next, 0); // which is not empty
+            const Piece* const piece = place.m_piece->next; // which is not empty
+            place = Place(piece, piece->begin());
         }
-        return place.m_piece->entries + place.m_index++;
+        return place.m_entry++;
     }
 
     // The same, of those that hold a value or a position.
     [[nodiscard]] const Occurrence* nextValue(Place& place) const noexcept
     {
         // Who walks over many values reads their texts. Those of other options lie between them.
-        constexpr std::uint32_t ahead = 8;
-        if (place.m_index + ahead < place.m_piece->size)
+        constexpr std::ptrdiff_t ahead = 8;
+        if (place.m_piece->end - place.m_entry > ahead)
         {
-            prefetch(place.m_piece->entries[place.m_index + ahead].text);
+            prefetch(place.m_entry[ahead].text);
         }
         const Occurrence* occurrence = next(place);
         while (occurrence != nullptr && !occurrence->isValue)
@@ -173,9 +180,6 @@ private:
     Piece m_inside; // holds m_first
     Occurrence m_first;
     Piece* m_last; // the one to append to
-    Piece* m_tail; // the last one there is room in
-    std::size_t m_free = 1;
-    std::size_t m_size = 0;
     bool m_hasPositions = false;
     bool m_hasValues = false;
 };

@@ -30,14 +30,18 @@ void ParseResult::release()
 
 std::int32_t ParseResult::isPresent(const wchar_t* name, std::int32_t from, std::int32_t to)
 {
-    const bool present = beginQuery(name, from, to);
-    if (m_currentOption != nullptr && !walksOccurrences())
+    if (!beginQuery(name, from, to))
     {
-        // A following getNextValue then gives the default, once.
-        m_rangeFrom = no_position;
-        m_rangeTo = no_position;
+        return 0;
     }
-    return present ? 1 : 0;
+    if (walksOccurrences())
+    {
+        return findPosition() ? 1 : 0;
+    }
+    // A following getNextValue then gives the default, once.
+    m_rangeFrom = no_position;
+    m_rangeTo = no_position;
+    return 1;
 }
 
 result_t ParseResult::getFirstValue(Value* out, const wchar_t* name, std::int32_t from,
@@ -46,7 +50,21 @@ result_t ParseResult::getFirstValue(Value* out, const wchar_t* name, std::int32_
     const Occurrence* found = nullptr;
     if (beginQuery(name, from, to))
     {
-        found = walksOccurrences() ? nextValue() : m_currentOption->byDefault;
+        const Occurrence* const first = m_currentOption->occurrences.first();
+        if (first != nullptr && first->isPosition && first->isValue && isInRange(*first))
+        {
+            // Whatever follows: this is the position that the range needs, and the first value.
+            m_valueCursor = m_currentOption->occurrences.behindFirst();
+            found = first;
+        }
+        else if (!walksOccurrences())
+        {
+            found = m_currentOption->byDefault;
+        }
+        else if (findPosition())
+        {
+            found = nextValue();
+        }
     }
     return answer(out, found);
 }
@@ -111,8 +129,7 @@ bool ParseResult::walksOccurrences() const noexcept
     return m_currentOption->occurrences.hasPositions() || m_currentOption->byDefault == nullptr;
 }
 
-// Moves the cursor to the start of an option. Answers whether there is something to give: an
-// occurrence in the range (whose end is exclusive here), or a default.
+// Moves the cursor to the start of an option. Answers whether there is one.
 bool ParseResult::beginQuery(const wchar_t* name, std::int32_t from, std::int32_t to) noexcept
 {
     m_rangeFrom = from;
@@ -122,31 +139,65 @@ bool ParseResult::beginQuery(const wchar_t* name, std::int32_t from, std::int32_
     {
         return false;
     }
+    m_valueCursor = m_currentOption->occurrences.begin();
+    m_positionCursor = m_valueCursor;
+    return true;
+}
+
+// Whether the occurrence lies in the range, whose end is exclusive here.
+bool ParseResult::isInRange(const Occurrence& occurrence) const noexcept
+{
+    return occurrence.position >= m_rangeFrom && occurrence.position < m_rangeTo;
+}
+
+// Moves the cursor to the first position in the range. Answers whether there is one.
+bool ParseResult::findPosition() noexcept
+{
     const Occurrences& occurrences = m_currentOption->occurrences;
-    m_valueCursor = occurrences.begin();
-    m_positionCursor = occurrences.begin();
-    if (!walksOccurrences())
+    Occurrences::Place next = m_positionCursor;
+    while (const Occurrence* const occurrence = occurrences.nextPosition(next))
     {
-        return true;
-    }
-    for (;;)
-    {
-        const Occurrences::Place here = m_positionCursor;
-        const Occurrence* const next = occurrences.nextPosition(m_positionCursor);
-        if (next == nullptr)
+        if (isInRange(*occurrence))
         {
-            return false;
-        }
-        if (next->position >= from && next->position < to)
-        {
-            m_positionCursor = here;
             return true;
         }
+        m_positionCursor = next;
     }
+    return false;
 }
 
 // The next value of the walk, or null. Needs a current option.
 const Occurrence* ParseResult::nextValue() noexcept
+{
+    const Occurrences& occurrences = m_currentOption->occurrences;
+    if (occurrences.hasPositions() && occurrences.hasValues())
+    {
+        return nextInRange();
+    }
+    return nextUnusual();
+}
+
+const Occurrence* ParseResult::nextInRange() noexcept
+{
+    for (;;)
+    {
+        Occurrences::Place place = m_valueCursor;
+        const Occurrence* const next = m_currentOption->occurrences.nextValue(place);
+        // The upper bound is inclusive for values, exclusive for the first occurrence: on purpose.
+        if (next == nullptr || (next->position > m_rangeTo && next->position >= m_rangeFrom))
+        {
+            return nullptr;
+        }
+        m_valueCursor = place;
+        if (next->position >= m_rangeFrom)
+        {
+            return next;
+        }
+    }
+}
+
+// The same of an option without positions or without values.
+const Occurrence* ParseResult::nextUnusual() noexcept
 {
     if (walksOccurrences())
     {
@@ -163,45 +214,37 @@ const Occurrence* ParseResult::nextValue() noexcept
     return m_currentOption->byDefault;
 }
 
-const Occurrence* ParseResult::nextInRange() noexcept
-{
-    const Occurrences& occurrences = m_currentOption->occurrences;
-    Occurrences::Place place = m_valueCursor;
-    const Occurrence* next = occurrences.nextValue(place);
-    while (next != nullptr && next->position < m_rangeFrom)
-    {
-        m_valueCursor = place;
-        next = occurrences.nextValue(place);
-    }
-    // The upper bound is inclusive for values, exclusive for the first occurrence: on purpose.
-    if (next == nullptr || next->position > m_rangeTo)
-    {
-        return nullptr;
-    }
-    m_valueCursor = place;
-    return next;
-}
-
 // NOLINTNEXTLINE(bugprone-exception-escape): the copy shares a block that is there.
 result_t ParseResult::answer(Value* out, const Occurrence* found) noexcept
 {
-    const result_t code = found != nullptr ? result_success : result_nothing;
-    if (out == nullptr)
-    {
-        return code;
-    }
-    out->status = code;
     if (found == nullptr)
     {
+        return answerNothing(out);
+    }
+    if (out != nullptr)
+    {
+        out->status = result_success;
+        out->data = found->text;
+        out->position = found->position;
+        found->copyValueTo(out->value);
+    }
+    return result_success;
+}
+
+result_t ParseResult::answerNothing(Value* out) noexcept
+{
+    if (out != nullptr)
+    {
+        out->status = result_nothing;
         out->data = nullptr;
         out->position = no_position;
-        out->value = vexkit2::variant_t();
-        return code;
+        if (out->value.kind() != vexkit2::kind_null)
+        {
+            vexkit2::variant_t before;
+            before.swap(out->value);
+        }
     }
-    out->data = found->text;
-    out->position = found->position;
-    found->copyValueTo(out->value);
-    return code;
+    return result_nothing;
 }
 
 } // namespace kexa_3_3

@@ -106,6 +106,39 @@ TEST(Occurrences, FirstOneTakesNoMemory)
     EXPECT_FALSE(another.isUntouched());
 }
 
+TEST(Occurrences, FirstOneIsToldOnceItIsThere)
+{
+    Arena arena(64);
+    Occurrences occurrences;
+    EXPECT_EQ(occurrences.first(), nullptr);
+    occurrences.reserveMore(3, arena);
+    EXPECT_EQ(occurrences.first(), nullptr);
+    add(occurrences, value(7), arena);
+    const Occurrence* const first = occurrences.first();
+    ASSERT_NE(first, nullptr);
+    EXPECT_EQ(first->position, 7);
+    for (std::int32_t number = 8; number < 20; ++number)
+    {
+        add(occurrences, both(number), arena);
+        EXPECT_EQ(occurrences.first(), first);
+    }
+}
+
+TEST(Occurrences, PlaceBehindTheFirstIsThatOfTheSecond)
+{
+    Arena arena(64);
+    Occurrences occurrences;
+    add(occurrences, both(0), arena);
+    const Occurrences::Place place = occurrences.behindFirst();
+    for (std::int32_t count = 1; count < 20; ++count)
+    {
+        EXPECT_EQ(from(occurrences, place, &Occurrences::next), upTo(count, 1));
+        EXPECT_EQ(from(occurrences, occurrences.behindFirst(), &Occurrences::nextValue),
+                  upTo(count, 1));
+        add(occurrences, both(count), arena);
+    }
+}
+
 TEST(Occurrences, KeepTheOrderOverManyPieces)
 {
     constexpr std::int32_t count = 20000; // several pieces of the largest size
