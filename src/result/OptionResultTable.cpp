@@ -1,12 +1,12 @@
 #include "result/OptionResultTable.h"
 
 #include <algorithm>
+#include <cstring>
 #include <memory>
 #include <new>
 
 #include "options/OptionDescription.h"
 #include "options/OptionIndex.h"
-#include "support/Growth.h"
 
 namespace kexa_3_3
 {
@@ -52,23 +52,18 @@ void forEachEntry(OptionResult& record, Take take, Append append) noexcept
     }
 }
 
-bool isSharedBy(const StoredOption& stored, std::span<const HashedText> names) noexcept
-{
-    return std::equal(names.begin(), names.end(), stored.names.begin(), stored.names.end());
-}
-
-template <class Names>
-bool contains(const Names& names, const HashedText& name) noexcept
-{
-    return std::find(names.begin(), names.end(), name) != names.end();
-}
-
 } // namespace
 
 OptionResultTable::OptionResultTable(Garbage& strings)
-    : m_strings(strings), m_memory(strings.memory(), largest_table_in_pool), m_recalled(&m_memory),
-      m_names(&m_memory), m_slots(m_memory), m_shares(&m_memory)
+    : m_strings(strings), m_memory(strings.memory(), largest_table_in_pool), m_slots(m_memory),
+      m_shares(&m_memory)
 {
+}
+
+OptionResultTable::~OptionResultTable()
+{
+    moveInto(m_recalled, 0, m_recalledSize, 0);
+    moveInto(m_names, 0, m_room, 0);
 }
 
 void OptionResultTable::store(const OptionDescription& option, OptionResult& record)
@@ -84,22 +79,38 @@ void OptionResultTable::store(const OptionDescription& option, OptionResult& rec
     }
     else
     {
-        storeNew(option,
-                 [this, &record](StoredOption& stored)
-                 {
-                     stored.byDefault = makeDefault(record);
-                     append(stored, record);
-                 });
+        StoredOption& stored = prepareRecord(option);
+        stored.byDefault = makeDefault(record);
+        append(stored, record);
+        enter(option, stored);
     }
 }
 
 void OptionResultTable::storeValue(const OptionDescription& option, ValueEntry& value)
 {
-    if (StoredOption* const known = ownRecord(option))
+    if (!isOnlySource(option.index()))
     {
-        append(*known, value);
+        storeAnyValue(option, value);
         return;
     }
+    StoredOption* const known = recall(option.tableIndex());
+    if (known == nullptr)
+    {
+        storeNewValue(option, value);
+    }
+    else if (known->names == option.names.size())
+    {
+        append(*known, value);
+    }
+    else
+    {
+        storeAnyValue(option, value);
+    }
+}
+
+// The same of an option from anywhere.
+void OptionResultTable::storeAnyValue(const OptionDescription& option, ValueEntry& value)
+{
     const Place place = locate(option);
     if (place.apart)
     {
@@ -114,32 +125,32 @@ void OptionResultTable::storeValue(const OptionDescription& option, ValueEntry& 
     }
     else
     {
-        storeNew(option, [this, &value](StoredOption& stored) { append(stored, value); });
+        storeNewValue(option, value);
     }
 }
 
-// The record of an option where it is known at once, else null.
-StoredOption* OptionResultTable::ownRecord(const OptionDescription& option) const noexcept
+void OptionResultTable::storeNewValue(const OptionDescription& option, ValueEntry& value)
 {
-    const OptionIndex* const index = option.index();
-    const std::size_t place = option.tableIndex();
-    if (index == nullptr || index->identity() != m_source || index->sharesNames() ||
-        place >= m_recalled.size())
-    {
-        return nullptr;
-    }
-    StoredOption* const known = m_recalled[place];
-    // Names are only ever added: as many are the same.
-    return known != nullptr && known->names.size() == option.names.size() ? known : nullptr;
+    StoredOption& stored = prepareRecord(option);
+    add(stored.occurrences, value);
+    enter(option, stored);
+}
+
+// Whether all that is stored comes from one table of options, this one, in which no two have a name
+// in common. Then the record recalled for an option is its own, and where there is none, the option
+// was never stored.
+bool OptionResultTable::isOnlySource(const OptionIndex* index) const noexcept
+{
+    return index != nullptr && index->identity() == m_source && !index->sharesNames();
 }
 
 // Where to store an occurrence of an option.
 OptionResultTable::Place OptionResultTable::locate(const OptionDescription& option)
 {
     const Names names(option.names);
-    const bool isOwnRecord = noteSource(option.index());
+    noteSource(option.index());
     StoredOption* known = recall(option.tableIndex());
-    if (isOwnRecord && (known == nullptr || known->names.size() == names.size()))
+    if (isOnlySource(option.index()) && (known == nullptr || known->names == names.size()))
     {
         return {known, false};
     }
@@ -155,56 +166,57 @@ OptionResultTable::Place OptionResultTable::locate(const OptionDescription& opti
     return {known, false};
 }
 
-// Notes where an option comes from. Answers whether all that is stored comes from one table of
-// options in which no two have a name in common, so that the record recalled for an option is its
-// own, and where there is none, the option was never stored.
-bool OptionResultTable::noteSource(const OptionIndex* index) noexcept
+// Whether the record was made for these names, in this order, and all of them find it still. May
+// miss that a record is shared where names joined it later.
+bool OptionResultTable::isSharedBy(const StoredOption& stored, Names names) const noexcept
+{
+    const auto isNameOf = [&stored](const HashedText& name, const Name& known)
+    {
+        return known.record == &stored && known.text == name;
+    };
+    return stored.names == names.size() && m_size - stored.firstName >= names.size() &&
+           std::equal(names.begin(), names.end(), m_names + stored.firstName, isNameOf);
+}
+
+// Notes where an option comes from.
+void OptionResultTable::noteSource(const OptionIndex* index) noexcept
 {
     const std::uint64_t source = index == nullptr ? several_sources : index->identity();
     if (m_source != source)
     {
         m_source = m_source == no_source ? source : several_sources;
     }
-    return m_source != several_sources && !index->sharesNames();
 }
 
 bool OptionResultTable::isFilledFrom(const OptionIndex& index) const noexcept
 {
-    return m_source == index.identity() || m_names.empty();
+    return m_source == index.identity() || m_size == 0;
 }
 
 StoredOption* OptionResultTable::recall(std::size_t tableIndex) const noexcept
 {
-    return tableIndex < m_recalled.size() ? m_recalled[tableIndex] : nullptr;
+    return tableIndex < m_recalledSize ? m_recalled[tableIndex] : nullptr;
 }
 
 void OptionResultTable::remember(std::size_t tableIndex, StoredOption* stored)
 {
-    if (tableIndex >= m_recalled.size())
-    {
-        reserveMore(m_recalled, tableIndex + 1 - m_recalled.size(), expected_names);
-        m_recalled.resize(m_recalled.capacity());
-    }
+    reserveToRecall(tableIndex);
     m_recalled[tableIndex] = stored;
-}
-
-StoredOption* OptionResultTable::find(const HashedText& name) noexcept
-{
-    if (m_names.empty())
-    {
-        return nullptr;
-    }
-    const std::uint32_t number = m_slots.numberAt(m_slots.slotOf(name, textOf()));
-    return number == TextSlots::absent ? nullptr : m_names[number].record;
 }
 
 void OptionResultTable::append(StoredOption& target, ValueEntry& value)
 {
     target.occurrences.reserveMore(1, m_strings.memory());
-    keep(value);
-    Occurrence occurrence = take(value);
+    add(target.occurrences, value);
+}
+
+// Adds the value of an occurrence of its own. Needs room made before. Throws std::bad_alloc,
+// changing nothing.
+void OptionResultTable::add(Occurrences& occurrences, ValueEntry& value)
+{
+    Occurrence occurrence = adopt(value);
     occurrence.isPosition = true;
-    target.occurrences.append(occurrence);
+    occurrences.append(occurrence);
 }
 
 void OptionResultTable::append(StoredOption& target, OptionResult& record)
@@ -216,16 +228,17 @@ void OptionResultTable::append(StoredOption& target, OptionResult& record)
         [&target](const Occurrence& occurrence) { target.occurrences.append(occurrence); });
 }
 
-// Makes a record for an option that was never stored. fill: stores into it; where that throws, the
-// table is as before.
-template <class Fill>
-void OptionResultTable::storeNew(const OptionDescription& option, Fill fill)
+// A record for an option that was never stored, and room to enter it.
+StoredOption& OptionResultTable::prepareRecord(const OptionDescription& option)
 {
-    StoredOption& stored = makeRecord(Names(option.names));
-    reserveFor(stored.names.size());
-    remember(option.tableIndex(), nullptr); // makes room for it
-    fill(stored);
-    bind(stored);
+    reserveToRecall(option.tableIndex());
+    return makeRecord(Names(option.names));
+}
+
+// Lets the option find its record, once something is stored there.
+void OptionResultTable::enter(const OptionDescription& option, StoredOption& stored) noexcept
+{
+    bind(Names(option.names), stored);
     m_recalled[option.tableIndex()] = &stored;
 }
 
@@ -258,7 +271,7 @@ void OptionResultTable::storeApart(Names names, OptionResult& record)
         }
         if (!part.isWhole)
         {
-            bind(*part.record);
+            bind(part.names, *part.record);
         }
     }
 }
@@ -278,7 +291,7 @@ std::vector<OptionResultTable::Part> OptionResultTable::partsOf(Names names)
             part = parts.insert(parts.end(), Part());
             part->record = record;
         }
-        if (!contains(part->names, name))
+        if (std::find(part->names.begin(), part->names.end(), name) == part->names.end())
         {
             part->names.push_back(name);
             absent += known == nullptr ? 1 : 0;
@@ -288,36 +301,34 @@ std::vector<OptionResultTable::Part> OptionResultTable::partsOf(Names names)
     {
         // Absent names join the record of the first one, whose part is the first as well.
         const std::size_t joining = &part == parts.data() ? absent : 0;
-        part.isWhole = joining == 0 && part.names.size() == part.record->names.size();
+        part.isWhole = joining == 0 && part.names.size() == part.record->names;
     }
     return parts;
 }
 
 StoredOption& OptionResultTable::makeRecord(Names names)
 {
-    static_assert(alignof(StoredOption) >= alignof(HashedText));
-    // The record, its names and their texts lie in one piece.
-    std::size_t size = sizeof(StoredOption) + names.size() * sizeof(HashedText);
+    static_assert(alignof(StoredOption) >= alignof(wchar_t));
+    // The record lies in one piece with the texts of its names.
+    std::size_t size = sizeof(StoredOption);
     for (const HashedText& name : names)
     {
         size += (name.size() + 1) * sizeof(wchar_t);
     }
-    void* const memory = m_strings.memory().take(size, alignof(StoredOption));
-    auto& stored = *new (memory) StoredOption();
-    auto* const kept = static_cast<HashedText*>(static_cast<void*>(&stored + 1));
-    auto* text = static_cast<wchar_t*>(static_cast<void*>(kept + names.size()));
-    std::size_t count = 0;
+    reserveFor(names.size());
+    auto* const stored = new (m_strings.memory().take(size, alignof(StoredOption))) StoredOption();
+    wchar_t* text = textsOf(*stored);
     for (const HashedText& name : names)
     {
-        // An option may list a name twice; it is one entry all the same.
-        if (count == 0 || !contains(stored.names, name))
-        {
-            std::construct_at(kept + count, name, Garbage::copyInto(text, name));
-            text += name.size() + 1;
-            stored.names = {kept, ++count};
-        }
+        text += Garbage::copyInto(text, name).size() + 1;
     }
-    return stored;
+    return *stored;
+}
+
+// Where the texts of a record's names begin.
+wchar_t* OptionResultTable::textsOf(StoredOption& stored) noexcept
+{
+    return static_cast<wchar_t*>(static_cast<void*>(&stored + 1));
 }
 
 StoredOption& OptionResultTable::copyRecord(const StoredOption& from, Names names)
@@ -333,35 +344,75 @@ StoredOption& OptionResultTable::copyRecord(const StoredOption& from, Names name
     return copy;
 }
 
-// Makes room in the tables.
-void OptionResultTable::reserveFor(std::size_t names)
+// Makes room for names to be added.
+void OptionResultTable::growNames(std::size_t names)
 {
-    if (m_names.size() + names > m_room)
-    {
-        const std::size_t room = std::max({m_names.size() + names, 2 * m_room, expected_names});
-        m_names.reserve(room);
-        m_slots.reserve(room);
-        m_room = room;
-    }
+    const std::size_t room = std::max({m_size + names, std::size_t{2} * m_room, expected_names});
+    m_slots.reserve(room);
+    moveInto(m_names, m_size, m_room, room);
+    m_room = static_cast<std::uint32_t>(room);
 }
 
-// Lets names find a record. They leave those that they found before.
-void OptionResultTable::bind(StoredOption& stored) noexcept
+void OptionResultTable::growRecalled(std::size_t size)
 {
-    for (const HashedText& name : stored.names)
+    const std::size_t room = std::max({size, 2 * m_recalledSize, expected_names});
+    moveInto(m_recalled, m_recalledSize, m_recalledSize, room);
+    std::fill(m_recalled + m_recalledSize, m_recalled + room, nullptr);
+    m_recalledSize = room;
+}
+
+// Gives entries other memory, or none. Throws std::bad_alloc, changing nothing.
+//
+// used: how many entries to copy; before, room: how many there was and is memory for.
+template <class Entry>
+void OptionResultTable::moveInto(Entry*& entries, std::size_t used, std::size_t before,
+                                 std::size_t room)
+{
+    Entry* moved = nullptr;
+    if (room != 0)
     {
-        const std::size_t slot = m_slots.slotOf(name, textOf());
+        void* const memory = m_memory.allocate(room * sizeof(Entry), alignof(Entry));
+        moved = static_cast<Entry*>(memory);
+        std::uninitialized_copy_n(entries, used, moved);
+    }
+    if (entries != nullptr)
+    {
+        m_memory.deallocate(entries, before * sizeof(Entry), alignof(Entry));
+    }
+    entries = moved;
+}
+
+// The slot of a name that is none of those up to a slot.
+std::size_t OptionResultTable::slotBehind(std::size_t slot, HashedText name) const noexcept
+{
+    return m_slots.slotFrom(slot, name, textOf());
+}
+
+// Lets names find the record that was made for them. They leave those that they found before.
+void OptionResultTable::bind(Names names, StoredOption& stored) noexcept
+{
+    const wchar_t* text = textsOf(stored);
+    stored.firstName = m_size;
+    for (const HashedText& name : names)
+    {
+        const std::size_t slot = slotOf(name);
         const std::uint32_t number = m_slots.numberAt(slot);
         if (number == TextSlots::absent)
         {
-            m_slots.put(slot, static_cast<std::uint32_t>(m_names.size()), name);
-            m_names.push_back({name, &stored});
-            continue;
+            m_slots.put(slot, m_size, name);
+            const HashedText kept(name, {text, name.size()});
+            std::construct_at(m_names + m_size, Name{kept, &stored});
+            ++m_size;
+            ++stored.names;
         }
-        std::span<HashedText>& left = m_names[number].record->names;
-        const auto end = std::remove(left.begin(), left.end(), name);
-        left = {left.begin(), end};
-        m_names[number].record = &stored;
+        else if (m_names[number].record != &stored) // An option may list a name twice.
+        {
+            --m_names[number].record->names;
+            m_names[number].record = &stored;
+            stored.firstName = stored.names == 0 ? number : stored.firstName;
+            ++stored.names;
+        }
+        text += name.size() + 1;
     }
 }
 
@@ -375,58 +426,86 @@ const Occurrence* OptionResultTable::makeDefault(const OptionResult& record)
     ValueEntry entry = {record.defaultText, record.defaultValue,
                         static_cast<std::int32_t>(record.defaultPosition)};
     void* const memory = m_strings.memory().take(sizeof(Occurrence), alignof(Occurrence));
-    keep(entry);
-    return new (memory) Occurrence(take(entry));
+    return new (memory) Occurrence(adopt(entry));
 }
 
-// Gives what an entry refers to the lifetime of the table.
-void OptionResultTable::keep(ValueEntry& entry)
+// Takes the value out of an entry. Throws std::bad_alloc, and the entry is as before then.
+Occurrence OptionResultTable::adopt(ValueEntry& entry)
 {
-    switch (entry.value.kind())
+    if (m_texts.made(entry.value))
     {
-    case vexkit2::kind_wide_text:
-        // A string value holds its own text, in a block that stays where it is.
-        entry.text = {entry.value.get<const wchar_t*>(), entry.text.size()};
-        if (!m_texts.made(entry.value))
-        {
-            m_shares.push_front(entry.value);
-        }
-        break;
-    case vexkit2::kind_narrow_text:
-    case vexkit2::kind_blob:
-    case vexkit2::kind_object:
-        m_shares.push_front(entry.value);
-        [[fallthrough]];
-    default:
-        entry.text = m_strings.keep(entry.text);
+        return takeText(entry);
     }
+    if (entry.value.memory() == nullptr)
+    {
+        entry.text = m_strings.keep(entry.text);
+        return takeWord(entry);
+    }
+    keepShare(entry);
+    return takeShare(entry);
 }
 
+// The same for all entries of a record in two steps, of which the second one does not throw.
 void OptionResultTable::keep(OptionResult& record)
 {
     for (ValueEntry& entry : record.values)
     {
-        keep(entry);
+        if (m_texts.made(entry.value))
+        {
+            continue;
+        }
+        if (entry.value.memory() == nullptr)
+        {
+            entry.text = m_strings.keep(entry.text);
+        }
+        else
+        {
+            keepShare(entry);
+        }
     }
 }
-
-// Takes the value out of an entry that is kept.
 Occurrence OptionResultTable::take(ValueEntry& entry) noexcept
 {
-    Occurrence occurrence = {.text = entry.text.data(),
-                             .position = entry.position,
-                             .kind = static_cast<std::uint16_t>(entry.value.kind()),
-                             .isValue = true};
-    if (m_texts.made(entry.value))
-    {
-        occurrence.word = SharedTexts::takeBack(entry.value);
-    }
-    else
-    {
-        occurrence.word = entry.value.detach();
-        // The share that came with it is given up here: m_shares has another one.
-        static_cast<void>(vexkit2::variant_t::attach(occurrence.kind, occurrence.word));
-    }
+    return m_texts.made(entry.value)         ? takeText(entry)
+           : entry.value.memory() == nullptr ? takeWord(entry)
+                                             : takeShare(entry);
+}
+
+// Takes a text that was made here. It stays where it is.
+Occurrence OptionResultTable::takeText(ValueEntry& entry) noexcept
+{
+    Occurrence occurrence = {
+        .position = entry.position, .kind = vexkit2::kind_wide_text, .isValue = true};
+    occurrence.word = SharedTexts::takeBack(entry.value);
+    std::memcpy(&occurrence.text, &occurrence.word, sizeof(occurrence.text));
+    return occurrence;
+}
+
+// Takes a value whose text is kept: a number, most often.
+Occurrence OptionResultTable::takeWord(ValueEntry& entry) noexcept
+{
+    const auto kind = static_cast<std::uint16_t>(entry.value.kind());
+    return {.text = entry.text.data(),
+            .word = entry.value.detach(),
+            .position = entry.position,
+            .kind = kind,
+            .isValue = true};
+}
+
+// Gives the block of a value that was made elsewhere, and the text, the lifetime of the table.
+void OptionResultTable::keepShare(ValueEntry& entry)
+{
+    m_shares.push_front(entry.value);
+    // A string value holds its own text, in a block that stays where it is.
+    entry.text = entry.value.kind() == vexkit2::kind_wide_text
+                     ? std::wstring_view(entry.value.get<const wchar_t*>(), entry.text.size())
+                     : m_strings.keep(entry.text);
+}
+Occurrence OptionResultTable::takeShare(ValueEntry& entry) noexcept
+{
+    const Occurrence occurrence = takeWord(entry);
+    // The share that came with it is given up here: m_shares has another one.
+    static_cast<void>(vexkit2::variant_t::attach(occurrence.kind, occurrence.word));
     return occurrence;
 }
 

@@ -28,43 +28,6 @@ class OptionIndex;
 // tells them apart; only results filled from different declarations of a name ever do.
 class OptionResultTable
 {
-public:
-    // strings: keeps texts and records; lives longer than the table.
-    explicit OptionResultTable(Garbage& strings);
-    ~OptionResultTable() = default;
-    OptionResultTable(const OptionResultTable&) = delete;
-    OptionResultTable& operator=(const OptionResultTable&) = delete;
-
-    // See IResultCollector::storeOption.
-    void store(const OptionDescription& option, OptionResult& record);
-
-    // See IResultCollector::storeValue.
-    void storeValue(const OptionDescription& option, ValueEntry& value);
-
-    // Where string values are to be made, which then are stored as they are.
-    [[nodiscard]] SharedTexts& texts() noexcept { return m_texts; }
-
-    // The record of a name, or null. It stays where it is as long as the table lives.
-    [[nodiscard]] StoredOption* find(const HashedText& name) noexcept;
-    [[nodiscard]] StoredOption* find(std::wstring_view name) noexcept
-    {
-        return find(HashedText(name));
-    }
-
-    // The names in the order of their first storing, each with its record.
-    [[nodiscard]] std::size_t size() const noexcept { return m_names.size(); }
-    [[nodiscard]] const HashedText& name(std::size_t number) const { return m_names[number].text; }
-    [[nodiscard]] const StoredOption& record(std::size_t number) const
-    {
-        return *m_names[number].record;
-    }
-
-    // Whether all that is stored came from the options that the index knows.
-    [[nodiscard]] bool isFilledFrom(const OptionIndex& index) const noexcept;
-
-private:
-    using Names = std::span<const HashedText>;
-
     struct Name
     {
         HashedText text;
@@ -78,8 +41,84 @@ private:
         };
     }
 
-    [[nodiscard]] StoredOption* ownRecord(const OptionDescription& option) const noexcept;
-    [[nodiscard]] bool noteSource(const OptionIndex* index) noexcept;
+    // Stands for a text whose hash is taken for all of it.
+    struct OnlyHash
+    {
+        std::uint64_t hash;
+        friend bool operator==(const OnlyHash& left, const HashedText& right) noexcept
+        {
+            return left.hash == right.hash();
+        }
+    };
+    [[nodiscard]] auto hashOf() const noexcept
+    {
+        return [this](std::uint32_t number)
+        {
+            return OnlyHash{m_names[number].text.hash()};
+        };
+    }
+
+public:
+    // strings: keeps texts and records; lives longer than the table.
+    explicit OptionResultTable(Garbage& strings);
+    ~OptionResultTable();
+    OptionResultTable(const OptionResultTable&) = delete;
+    OptionResultTable& operator=(const OptionResultTable&) = delete;
+
+    // See IResultCollector::storeOption.
+    void store(const OptionDescription& option, OptionResult& record);
+
+    // See IResultCollector::storeValue.
+    void storeValue(const OptionDescription& option, ValueEntry& value);
+
+    // Where string values are to be made, which then are stored as they are.
+    [[nodiscard]] SharedTexts& texts() noexcept { return m_texts; }
+
+    // The record of a name, or null. It stays where it is as long as the table lives.
+    [[nodiscard]] StoredOption* find(const HashedText& name) const noexcept
+    {
+        if (m_size == 0)
+        {
+            return nullptr;
+        }
+        const std::uint32_t number = m_slots.numberAt(slotOf(name));
+        return number == TextSlots::absent ? nullptr : m_names[number].record;
+    }
+    [[nodiscard]] StoredOption* find(std::wstring_view name) const noexcept
+    {
+        return find(HashedText(name));
+    }
+
+    // The names in the order of their first storing, each with its record.
+    [[nodiscard]] std::size_t size() const noexcept { return m_size; }
+    [[nodiscard]] const HashedText& name(std::size_t number) const { return m_names[number].text; }
+    [[nodiscard]] const StoredOption& record(std::size_t number) const
+    {
+        return *m_names[number].record;
+    }
+
+    // Whether all that is stored came from the options that the index knows.
+    [[nodiscard]] bool isFilledFrom(const OptionIndex& index) const noexcept;
+
+private:
+    using Names = std::span<const HashedText>;
+
+    // The slot of a name, or the free one where it belongs. The search is for the hash, which keeps
+    // it small: what it finds is the name, or else a rare other one with the same hash.
+    [[nodiscard]] std::size_t slotOf(const HashedText& name) const noexcept
+    {
+        const std::size_t slot = m_slots.slotOf(name, hashOf());
+        const std::uint32_t number = m_slots.numberAt(slot);
+        if (number == TextSlots::absent || m_names[number].text == name)
+        {
+            return slot;
+        }
+        return slotBehind(slot, name);
+    }
+    [[nodiscard]] std::size_t slotBehind(std::size_t slot, HashedText name) const noexcept;
+
+    [[nodiscard]] bool isOnlySource(const OptionIndex* index) const noexcept;
+    void noteSource(const OptionIndex* index) noexcept;
     [[nodiscard]] StoredOption* recall(std::size_t tableIndex) const noexcept;
     void remember(std::size_t tableIndex, StoredOption* stored);
 
@@ -89,11 +128,15 @@ private:
         bool apart;           // whether its names do not share exactly this one
     };
     [[nodiscard]] Place locate(const OptionDescription& option);
+    [[nodiscard]] bool isSharedBy(const StoredOption& stored, Names names) const noexcept;
 
+    void storeAnyValue(const OptionDescription& option, ValueEntry& value);
+    void storeNewValue(const OptionDescription& option, ValueEntry& value);
     void append(StoredOption& target, ValueEntry& value);
     void append(StoredOption& target, OptionResult& record);
-    template <class Fill>
-    void storeNew(const OptionDescription& option, Fill fill);
+    void add(Occurrences& occurrences, ValueEntry& value);
+    [[nodiscard]] StoredOption& prepareRecord(const OptionDescription& option);
+    void enter(const OptionDescription& option, StoredOption& stored) noexcept;
     void storeApart(Names names, OptionResult& record);
 
     // Names of one option that share a record: the whole of it, or some of its names, which a copy
@@ -106,17 +149,38 @@ private:
     };
     [[nodiscard]] std::vector<Part> partsOf(Names names);
 
-    // A record for names, which find it once it is bound to them. `reserveFor` makes the room that
-    // binding needs.
+    // A record for names, which find it once they are bound to it, and the room that binding needs.
     [[nodiscard]] StoredOption& makeRecord(Names names);
+    [[nodiscard]] static wchar_t* textsOf(StoredOption& stored) noexcept;
     [[nodiscard]] StoredOption& copyRecord(const StoredOption& from, Names names);
-    void reserveFor(std::size_t names);
-    void bind(StoredOption& stored) noexcept;
+    void reserveFor(std::size_t names)
+    {
+        if (names > m_room - m_size)
+        {
+            growNames(names);
+        }
+    }
+    void reserveToRecall(std::size_t tableIndex)
+    {
+        if (tableIndex >= m_recalledSize)
+        {
+            growRecalled(tableIndex + 1);
+        }
+    }
+    void growNames(std::size_t names);
+    void growRecalled(std::size_t size);
+    template <class Entry>
+    void moveInto(Entry*& entries, std::size_t used, std::size_t before, std::size_t room);
+    void bind(Names names, StoredOption& stored) noexcept;
 
     [[nodiscard]] const Occurrence* makeDefault(const OptionResult& record);
-    void keep(ValueEntry& entry);
+    [[nodiscard]] Occurrence adopt(ValueEntry& entry);
     void keep(OptionResult& record);
     [[nodiscard]] Occurrence take(ValueEntry& entry) noexcept;
+    [[nodiscard]] static Occurrence takeText(ValueEntry& entry) noexcept;
+    [[nodiscard]] static Occurrence takeWord(ValueEntry& entry) noexcept;
+    void keepShare(ValueEntry& entry);
+    [[nodiscard]] static Occurrence takeShare(ValueEntry& entry) noexcept;
 
     // The options that filled the result: an index's identity, or one of these.
     static constexpr std::uint64_t no_source = 0;
@@ -124,16 +188,19 @@ private:
 
     Garbage& m_strings;
     SharedTexts m_texts;
-    SmallBlocks m_memory; // of the tables
+    SmallBlocks m_memory; // of the following
     std::uint64_t m_source = no_source;
 
     // The record that an option of some table was stored in last, by its index there. Where all
     // options come from one table whose names are all different, the record is that of the option;
     // otherwise it is a guess.
-    std::pmr::vector<StoredOption*> m_recalled;
-    std::size_t m_room = 0; // for names, in both of the following
-    std::pmr::vector<Name> m_names;
-    TextSlots m_slots; // of m_names
+    StoredOption** m_recalled = nullptr;
+    std::size_t m_recalledSize = 0;
+
+    Name* m_names = nullptr; // in the order of their first storing
+    std::uint32_t m_size = 0;
+    std::uint32_t m_room = 0; // in m_names and m_slots
+    TextSlots m_slots;        // of m_names
 
     // Values whose blocks were made elsewhere: shares that the records rely on.
     std::pmr::forward_list<vexkit2::variant_t> m_shares;

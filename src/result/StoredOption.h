@@ -1,11 +1,10 @@
 // What a parse result holds of one option.
 #pragma once
 
-#include <span>
+#include <cstdint>
 #include <type_traits>
 
 #include "result/Occurrences.h"
-#include "support/HashedText.h"
 
 namespace kexa_3_3
 {
@@ -14,7 +13,8 @@ namespace kexa_3_3
 // occurred. Nothing of it needs to be destroyed: what it points at belongs to the result.
 struct StoredOption
 {
-    std::span<HashedText> names;
+    std::uint32_t names = 0;     // how many find it
+    std::uint32_t firstName = 0; // the number of the one that was first to
     Occurrences occurrences;
     const Occurrence* byDefault = nullptr; // null: no default, or one whose text is empty
 };

@@ -284,6 +284,53 @@ TEST_F(SharedNamesTest, NameListedTwiceIsOneEntry)
     EXPECT_EQ(result.options().size(), 2U);
 }
 
+TEST_F(SharedNamesTest, NameListedTwiceDoesNotCountForAnother)
+{
+    store(option({L"a", L"b"}), 1);
+    store(option({L"a", L"a"}), 2);
+    EXPECT_EQ(positions(L"a"), (Positions{1, 2}));
+    EXPECT_EQ(positions(L"b"), (Positions{1}));
+}
+
+// Names in turn that come to a record in several ways: made with it, taken from another, joined.
+TEST_F(SharedNamesTest, RecordsAreFoundAgainByThoseWhoStoreThere)
+{
+    store(option({L"a", L"b", L"c"}), 1);
+    for (std::int32_t round = 2; round < 10; round += 4)
+    {
+        store(option({L"b", L"c"}), round);
+        store(option({L"b", L"d"}), round + 1);
+        store(option({L"a"}), round + 2);
+        store(option({L"c", L"b"}), round + 3);
+    }
+    EXPECT_EQ(positions(L"a"), (Positions{1, 4, 8}));
+    EXPECT_EQ(positions(L"b"), (Positions{1, 2, 3, 5, 6, 7, 9}));
+    EXPECT_EQ(positions(L"c"), (Positions{1, 2, 5, 6, 9}));
+    EXPECT_EQ(positions(L"d"), (Positions{1, 2, 3, 7}));
+}
+
+TEST_F(SharedNamesTest, TextsOfOneHashAreToldApart)
+{
+    const HashedText first(L"first");
+    HashedText firstName[] = {first};
+    HashedText secondName[] = {HashedText(first, L"other"), HashedText(first, L"second")};
+    const OptionDescription one({L"", L""}, false, pool, firstName);
+    const OptionDescription another({L"", L""}, false, pool, secondName);
+    store(another, 1);
+    EXPECT_EQ(positions(L"first"), (Positions{-1}));
+    store(one, 2);
+    store(another, 3);
+    EXPECT_EQ(positions(L"first"), (Positions{2}));
+    for (const HashedText& name : secondName)
+    {
+        const StoredOption* const stored = result.options().find(name);
+        ASSERT_NE(stored, nullptr);
+        EXPECT_EQ(unit::positionsOf(*stored), (Positions{1, 3}));
+    }
+    EXPECT_EQ(result.options().find(HashedText(first, L"third")), nullptr);
+    EXPECT_EQ(result.options().size(), 3U);
+}
+
 TEST_F(SharedNamesTest, OrderOfNamesDoesNotMatter)
 {
     store(option({L"a", L"b"}), 1);
