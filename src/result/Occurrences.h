@@ -30,9 +30,10 @@ struct Occurrence
     {
         using vexkit2::variant_t;
         variant_t kept = variant_t::attach(kind, word);
+        const bool sharesNothing = kept.memory() == nullptr && target.memory() == nullptr;
         // A walk over many texts stays in one piece of memory for a while. There a share of one
         // text does as well for another, which spares two atomic operations.
-        if (kept.lies_beside(target))
+        if (sharesNothing || kept.lies_beside(target))
         {
             kept.swap(target);
         }
@@ -110,8 +111,8 @@ public:
             m_last = m_last->next;
         }
         *m_last->end++ = occurrence;
-        m_hasPositions = m_hasPositions || occurrence.isPosition;
-        m_hasValues = m_hasValues || occurrence.isValue;
+        m_hasPositions |= occurrence.isPosition;
+        m_hasValues |= occurrence.isValue;
     }
 
     [[nodiscard]] bool hasPositions() const noexcept { return m_hasPositions; }

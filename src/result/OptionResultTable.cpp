@@ -132,7 +132,7 @@ void OptionResultTable::storeAnyValue(const OptionDescription& option, ValueEntr
 void OptionResultTable::storeNewValue(const OptionDescription& option, ValueEntry& value)
 {
     StoredOption& stored = prepareRecord(option);
-    add(stored.occurrences, value);
+    stored.occurrences.append(adoptPaired(value));
     enter(option, stored);
 }
 
@@ -204,19 +204,10 @@ void OptionResultTable::remember(std::size_t tableIndex, StoredOption* stored)
     m_recalled[tableIndex] = stored;
 }
 
-void OptionResultTable::append(StoredOption& target, ValueEntry& value)
+inline void OptionResultTable::append(StoredOption& target, ValueEntry& value)
 {
     target.occurrences.reserveMore(1, m_strings.memory());
-    add(target.occurrences, value);
-}
-
-// Adds the value of an occurrence of its own. Needs room made before. Throws std::bad_alloc,
-// changing nothing.
-void OptionResultTable::add(Occurrences& occurrences, ValueEntry& value)
-{
-    Occurrence occurrence = adopt(value);
-    occurrence.isPosition = true;
-    occurrences.append(occurrence);
+    target.occurrences.append(adoptPaired(value));
 }
 
 void OptionResultTable::append(StoredOption& target, OptionResult& record)
@@ -306,7 +297,7 @@ std::vector<OptionResultTable::Part> OptionResultTable::partsOf(Names names)
     return parts;
 }
 
-StoredOption& OptionResultTable::makeRecord(Names names)
+inline StoredOption& OptionResultTable::makeRecord(Names names)
 {
     static_assert(alignof(StoredOption) >= alignof(wchar_t));
     // The record lies in one piece with the texts of its names.
@@ -430,19 +421,28 @@ const Occurrence* OptionResultTable::makeDefault(const OptionResult& record)
 }
 
 // Takes the value out of an entry. Throws std::bad_alloc, and the entry is as before then.
-Occurrence OptionResultTable::adopt(ValueEntry& entry)
+inline Occurrence OptionResultTable::adopt(ValueEntry& entry)
 {
-    if (m_texts.made(entry.value))
+    return m_texts.made(entry.value) ? takeText(entry) : adoptOther(entry);
+}
+
+// The same with the position of the value, where that is an occurrence of its own.
+inline Occurrence OptionResultTable::adoptPaired(ValueEntry& entry)
+{
+    Occurrence occurrence = adopt(entry);
+    occurrence.isPosition = true;
+    return occurrence;
+}
+
+// The value of an entry that is no text made here.
+Occurrence OptionResultTable::adoptOther(ValueEntry& entry)
+{
+    if (entry.value.memory() != nullptr)
     {
-        return takeText(entry);
+        keepShare(entry);
+        return takeShare(entry);
     }
-    if (entry.value.memory() == nullptr)
-    {
-        entry.text = m_strings.keep(entry.text);
-        return takeWord(entry);
-    }
-    keepShare(entry);
-    return takeShare(entry);
+    return takeWord(entry, m_strings.keep(entry.text).data());
 }
 
 // The same for all entries of a record in two steps, of which the second one does not throw.
@@ -467,12 +467,12 @@ void OptionResultTable::keep(OptionResult& record)
 Occurrence OptionResultTable::take(ValueEntry& entry) noexcept
 {
     return m_texts.made(entry.value)         ? takeText(entry)
-           : entry.value.memory() == nullptr ? takeWord(entry)
+           : entry.value.memory() == nullptr ? takeWord(entry, entry.text.data())
                                              : takeShare(entry);
 }
 
 // Takes a text that was made here. It stays where it is.
-Occurrence OptionResultTable::takeText(ValueEntry& entry) noexcept
+inline Occurrence OptionResultTable::takeText(ValueEntry& entry) noexcept
 {
     Occurrence occurrence = {
         .position = entry.position, .kind = vexkit2::kind_wide_text, .isValue = true};
@@ -481,11 +481,11 @@ Occurrence OptionResultTable::takeText(ValueEntry& entry) noexcept
     return occurrence;
 }
 
-// Takes a value whose text is kept: a number, most often.
-Occurrence OptionResultTable::takeWord(ValueEntry& entry) noexcept
+// Takes a value, a number most often, whose text is kept.
+Occurrence OptionResultTable::takeWord(ValueEntry& entry, const wchar_t* text) noexcept
 {
     const auto kind = static_cast<std::uint16_t>(entry.value.kind());
-    return {.text = entry.text.data(),
+    return {.text = text,
             .word = entry.value.detach(),
             .position = entry.position,
             .kind = kind,
@@ -503,7 +503,7 @@ void OptionResultTable::keepShare(ValueEntry& entry)
 }
 Occurrence OptionResultTable::takeShare(ValueEntry& entry) noexcept
 {
-    const Occurrence occurrence = takeWord(entry);
+    const Occurrence occurrence = takeWord(entry, entry.text.data());
     // The share that came with it is given up here: m_shares has another one.
     static_cast<void>(vexkit2::variant_t::attach(occurrence.kind, occurrence.word));
     return occurrence;

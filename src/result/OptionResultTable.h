@@ -134,7 +134,6 @@ private:
     void storeNewValue(const OptionDescription& option, ValueEntry& value);
     void append(StoredOption& target, ValueEntry& value);
     void append(StoredOption& target, OptionResult& record);
-    void add(Occurrences& occurrences, ValueEntry& value);
     [[nodiscard]] StoredOption& prepareRecord(const OptionDescription& option);
     void enter(const OptionDescription& option, StoredOption& stored) noexcept;
     void storeApart(Names names, OptionResult& record);
@@ -175,10 +174,12 @@ private:
 
     [[nodiscard]] const Occurrence* makeDefault(const OptionResult& record);
     [[nodiscard]] Occurrence adopt(ValueEntry& entry);
+    [[nodiscard]] Occurrence adoptPaired(ValueEntry& entry);
+    [[nodiscard]] Occurrence adoptOther(ValueEntry& entry);
     void keep(OptionResult& record);
     [[nodiscard]] Occurrence take(ValueEntry& entry) noexcept;
     [[nodiscard]] static Occurrence takeText(ValueEntry& entry) noexcept;
-    [[nodiscard]] static Occurrence takeWord(ValueEntry& entry) noexcept;
+    [[nodiscard]] static Occurrence takeWord(ValueEntry& entry, const wchar_t* text) noexcept;
     void keepShare(ValueEntry& entry);
     [[nodiscard]] static Occurrence takeShare(ValueEntry& entry) noexcept;
 

@@ -140,7 +140,7 @@ bool ParseResult::beginQuery(const wchar_t* name, std::int32_t from, std::int32_
         return false;
     }
     m_valueCursor = m_currentOption->occurrences.begin();
-    m_positionCursor = m_valueCursor;
+    m_positionCursor = m_currentOption->occurrences.begin();
     return true;
 }
 
