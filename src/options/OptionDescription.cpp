@@ -84,23 +84,10 @@ bool OptionDescription::answersTo(std::wstring_view name) const noexcept
 void OptionDescription::enterInto(OptionIndex& index, std::size_t tableIndex)
 {
     index.reserve(names.size());
-    m_place.held = {&index, tableIndex};
+    setPlace(index, tableIndex);
     for (const HashedText& name : names)
     {
         index.add(name, tableIndex, valueType == value_type_boolean);
-    }
-    notePositional();
-}
-
-void OptionDescription::enterInto(OptionIndex& index, std::size_t tableIndex,
-                                  std::span<const std::size_t> slots) noexcept
-{
-    m_place.held = {&index, tableIndex};
-    const bool boolean = valueType == value_type_boolean;
-    const HashedText* name = names.begin();
-    for (const std::size_t slot : slots)
-    {
-        index.add(*name++, tableIndex, boolean, slot);
     }
     notePositional();
 }

@@ -87,11 +87,11 @@ public:
     // no other has. Throws std::bad_alloc, and the index is unchanged then.
     void enterInto(OptionIndex& index, std::size_t tableIndex);
 
-    // The same where the index has made room.
-    //
-    // slots: of the names, as the index tells them.
-    void enterInto(OptionIndex& index, std::size_t tableIndex,
-                   std::span<const std::size_t> slots) noexcept;
+    // The same of an option whose names its caller adds to the index, and what made it positional.
+    void setPlace(OptionIndex& index, std::size_t tableIndex) noexcept
+    {
+        m_place.held = {&index, tableIndex};
+    }
 
     // The index that it was entered into, or null, and its place in the table beside that.
     [[nodiscard]] const OptionIndex* index() const noexcept { return m_place.held.index; }

@@ -65,12 +65,33 @@ void OptionIndex::free() noexcept
     }
 }
 
-// Notes that a further option has a name that is known.
-void OptionIndex::share(Name& known, std::uint32_t option, bool boolean) noexcept
+// By itself, for this is seldom run: the declaration of an option is better off without it.
+std::size_t OptionIndex::slotFrom(std::size_t slot, const HashedText& name) const noexcept
 {
-    known.first = std::min(known.first, option);
-    known.firstBoolean = std::min(known.firstBoolean, boolean ? option : no_option);
-    m_sharesNames = true;
+    return m_slots.slotFrom(slot, name, textOf());
+}
+
+// Enters a name whose slot was taken after it was found, by a name of the same option, or that has
+// the text of a known one.
+void OptionIndex::addBehind(std::size_t slot, std::uint32_t number) noexcept
+{
+    Name& name = m_names[number];
+    slot = slotFrom(slot, *name.text);
+    if (isTaken(slot))
+    {
+        m_sharesNames = true;
+        Name& known = m_names[m_slots.numberAt(slot)];
+        const std::uint32_t firstBoolean = std::min(known.firstBoolean, name.firstBoolean);
+        if (known.option <= name.option)
+        {
+            known.firstBoolean = firstBoolean;
+            return;
+        }
+        // It is an earlier option's, so it takes the place over.
+        known.firstBoolean = known.isBoolean() ? known.option : no_option;
+        name.firstBoolean = firstBoolean;
+    }
+    m_slots.put(slot, number, *name.text);
 }
 
 // The first option, in table order, that answers to a text that begins as negations do.
@@ -97,7 +118,8 @@ void OptionIndex::sortNames() const
     for (auto number = static_cast<std::uint32_t>(m_sorted.size()); number < m_count; ++number)
     {
         const Name& name = m_names[number];
-        sorted.push_back({*name.text, name.option, number & 0x7FFFFFFF, name.boolean ? 1U : 0U});
+        sorted.push_back(
+            {*name.text, name.option, number & 0x7FFFFFFF, name.isBoolean() ? 1U : 0U});
     }
     std::sort(sorted.begin() + known, sorted.end(), before);
     std::inplace_merge(sorted.begin(), sorted.begin() + known, sorted.end(), before);

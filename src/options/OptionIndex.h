@@ -39,11 +39,12 @@ class OptionIndex
         const HashedText* text;
         std::uint32_t option;
 
-        // The first options with this text as a name, and the first boolean one. Kept in the name
-        // that was added first where several have one text.
-        std::uint32_t first;
+        // The first boolean option with this text as a name, in the name that the text's slot
+        // tells, which is one of the first option of all that share it. In other names just whether
+        // the name's own option is boolean.
         std::uint32_t firstBoolean;
-        bool boolean;
+
+        [[nodiscard]] bool isBoolean() const noexcept { return firstBoolean == option; }
     };
 
     struct SortedName
@@ -114,33 +115,30 @@ public:
     // Spares adding the name a second search.
     [[nodiscard]] std::size_t slotOf(const HashedText& name) const noexcept
     {
-        return m_slots.slotOf(name, textOf());
+        const std::size_t slot = m_slots.candidateOf(name);
+        return m_slots.isFree(slot) ? slot : slotFrom(slot, name);
     }
-    [[nodiscard]] bool isTaken(std::size_t slot) const noexcept
-    {
-        return m_slots.numberAt(slot) != TextSlots::absent;
-    }
+    [[nodiscard]] bool isTaken(std::size_t slot) const noexcept { return !m_slots.isFree(slot); }
     void add(const HashedText& name, std::size_t option, bool boolean, std::size_t slot) noexcept
     {
         const auto index = static_cast<std::uint32_t>(option);
         const std::uint32_t number = m_count++;
-        slot = m_slots.slotFrom(slot, name, textOf());
+        m_names[number] = {&name, index, boolean ? index : no_option};
         if (isTaken(slot)) [[unlikely]]
         {
-            share(m_names[m_slots.numberAt(slot)], index, boolean);
+            addBehind(slot, number);
         }
         else
         {
             m_slots.put(slot, number, name);
         }
-        m_names[number] = {&name, index, index, boolean ? index : no_option, boolean};
     }
 
     // The first option, in table order, with exactly this name.
     [[nodiscard]] std::int64_t findNamed(const HashedText& name) const noexcept
     {
         const Name* const found = find(name);
-        return found == nullptr ? none : indexOf(found->first);
+        return found == nullptr ? none : indexOf(found->option);
     }
 
     // The first option, in table order, that answers to exactly this text.
@@ -165,7 +163,8 @@ public:
 private:
     void grow(std::size_t count);
     void free() noexcept;
-    void share(Name& known, std::uint32_t option, bool boolean) noexcept;
+    [[nodiscard]] std::size_t slotFrom(std::size_t slot, const HashedText& name) const noexcept;
+    void addBehind(std::size_t slot, std::uint32_t number) noexcept;
     [[nodiscard]] std::int64_t findAlsoNegated(const HashedText& text) const noexcept;
     [[nodiscard]] const Name* find(const HashedText& text) const noexcept
     {

@@ -1,6 +1,7 @@
 #include "options/RegisteredOptionStorage.h"
 
 #include <algorithm>
+#include <cstring>
 #include <cwchar>
 #include <memory>
 #include <new>
@@ -32,6 +33,11 @@ constexpr std::size_t largest_table_in_pool = 2048; // bytes; larger ones are fr
         ++text;
     }
     return text;
+}
+
+[[nodiscard]] const wchar_t* orEmpty(const wchar_t* text) noexcept
+{
+    return text == nullptr ? L"" : text;
 }
 
 template <class T>
@@ -67,13 +73,14 @@ const Registration& RegisteredOptionStorage::registerOption(const wchar_t* names
                                                             const wchar_t* groupText)
 {
     m_lastRegistration = {nullptr, refused};
-    const wchar_t* const declaredGroup = groupText == nullptr ? L"" : groupText;
+    names = orEmpty(names);
+    groupText = orEmpty(groupText);
     // Declarations of a group usually stand together.
-    if (!isOfLastGroup(declaredGroup)) [[unlikely]]
+    if (!isOfLastGroup(groupText)) [[unlikely]]
     {
-        changeGroup(declaredGroup);
+        changeGroup(groupText);
     }
-    const std::wstring_view allNames = findNames(names == nullptr ? L"" : names);
+    const std::wstring_view allNames = findNames(names);
     if (!acceptsNames()) [[unlikely]]
     {
         return m_lastRegistration;
@@ -85,22 +92,15 @@ const Registration& RegisteredOptionStorage::registerOption(const wchar_t* names
     }
 
     reserveMore(m_options, 1, expected_options);
-    OptionDescription& option = makeOption(allNames, viewOf(description), isSwitch);
-    option.valueType = valueType;
-    // Where this fails, what it leaves behind lies in the owner's memory and needs no destruction.
-    if (keywords != nullptr)
+    // Where the following fails, what it leaves behind lies in the owner's memory and needs no
+    // destruction.
+    const NewOption made = makeOption(allNames, orEmpty(description), isSwitch, valueType);
+    if (keywords != nullptr || isSwitch)
     {
-        option.addKeywords(keywords);
+        addKeywords(made.option, keywords, names);
     }
-    if (isSwitch)
-    {
-        option.addKeywords(names);
-    }
-
-    option.enterInto(m_index, m_options.size(), {m_slots.data(), m_nameCount});
-    m_options.push_back(&option);
-    m_actionCount += isSwitch ? 1 : 0;
-    m_lastRegistration = {&option, registered};
+    enter(made, allNames);
+    m_lastRegistration = {&made.option, registered};
     return m_lastRegistration;
 }
 
@@ -153,25 +153,28 @@ void RegisteredOptionStorage::changeGroup(const wchar_t* declared)
     m_lastGroup = m_groups[number];
 }
 
-// Splits a text into m_names at every ',' and finds their places in the index. Answers the whole
+// Finds the names of a text, which ',' separates, and their places in the index. Answers the whole
 // text. In one walk: names are so short that finding each of their ends by itself takes longer.
 std::wstring_view RegisteredOptionStorage::findNames(const wchar_t* text)
 {
     m_index.reserve(most_names); // so that what is found out about their places stays true
+    m_isNameTaken = false;
     std::size_t count = 0;
-    bool taken = false;
-    const wchar_t* end = text;
-    for (const wchar_t* begin = text;; begin = end + 1)
+    const wchar_t* begin = text;
+    const wchar_t* end = endOfPiece(text);
+    for (;; begin = end + 1, end = endOfPiece(begin))
     {
-        end = endOfPiece(begin);
         if (end != begin)
         {
             if (count < most_names)
             {
-                const HashedText name(std::wstring_view(begin, end));
-                m_names[count] = name;
-                m_slots[count] = m_index.slotOf(name);
-                taken = taken || m_index.isTaken(m_slots[count]);
+                NewName& name = m_names[count];
+                std::construct_at(&name.text, std::wstring_view(begin, end));
+                name.slot = m_index.slotOf(name.text);
+                if (m_index.isTaken(name.slot)) [[unlikely]]
+                {
+                    m_isNameTaken = true;
+                }
             }
             ++count;
         }
@@ -181,7 +184,6 @@ std::wstring_view RegisteredOptionStorage::findNames(const wchar_t* text)
         }
     }
     m_nameCount = count;
-    m_isNameTaken = taken;
     return {text, end};
 }
 
@@ -190,7 +192,7 @@ bool RegisteredOptionStorage::acceptsNames() const noexcept
 {
     return m_nameCount != 0 &&
            (m_nameCount < most_names ||
-            (m_nameCount == most_names && m_names.back().size() <= longest_short_form));
+            (m_nameCount == most_names && m_names.back().text.size() <= longest_short_form));
 }
 
 void RegisteredOptionStorage::reportTaken(std::wstring_view names)
@@ -201,11 +203,11 @@ void RegisteredOptionStorage::reportTaken(std::wstring_view names)
     static_cast<void>(internal::writeConsole(internal::ConsoleTarget::output, line));
 }
 
-// Makes an option of the last group in one piece of memory: behind the object come its names, then
-// the texts of all names, copied at once, and the description. In the copy a zero takes the place
-// of every separator.
-OptionDescription& RegisteredOptionStorage::makeOption(std::wstring_view allNames,
-                                                       std::wstring_view description, bool isSwitch)
+// Makes an option of the last group in one piece of memory: behind the object come its names, which
+// are yet to be entered, then the texts of all names, copied at once, and the description.
+RegisteredOptionStorage::NewOption
+RegisteredOptionStorage::makeOption(std::wstring_view allNames, std::wstring_view description,
+                                    bool isSwitch, std::int32_t valueType)
 {
     static_assert(sizeof(OptionDescription) % alignof(HashedText) == 0 &&
                   sizeof(HashedText) % alignof(wchar_t) == 0);
@@ -217,19 +219,54 @@ OptionDescription& RegisteredOptionStorage::makeOption(std::wstring_view allName
     auto* const names = placeAt<HashedText>(bytes + sizeof(OptionDescription));
     auto* const text = placeAt<wchar_t>(bytes + textStart);
 
-    Garbage::copyInto(text, allNames);
-    for (std::size_t position = 0; position < m_nameCount; ++position)
-    {
-        const HashedText& name = m_names[position];
-        wchar_t* const own = text + (name.data() - allNames.data());
-        own[name.size()] = L'\0';
-        std::construct_at(names + position, name, std::wstring_view(own, name.size()));
-    }
+    // The zeros that end them are copied with them.
+    std::memcpy(text, allNames.data(), (allNames.size() + 1) * sizeof(wchar_t));
+    wchar_t* const ownDescription = text + allNames.size() + 1;
+    std::memcpy(ownDescription, description.data(), (description.size() + 1) * sizeof(wchar_t));
+
     auto* const option =
         new (memory) OptionDescription(m_lastGroup, isSwitch, m_owner, {names, m_nameCount});
-    option->description = Garbage::copyInto(text + allNames.size() + 1, description);
+    option->description = {ownDescription, description.size()};
     option->separator = m_defaultSeparator;
-    return *option;
+    option->valueType = valueType;
+    return {*option, names, text};
+}
+
+// Adds the keywords of an option that is about to be entered. The names of a switch are its
+// keywords too.
+void RegisteredOptionStorage::addKeywords(OptionDescription& option, const wchar_t* keywords,
+                                          const wchar_t* names)
+{
+    option.addKeywords(keywords);
+    if (!option.takesValue())
+    {
+        option.addKeywords(names);
+        ++m_actionCount;
+    }
+    if (option.isPositional())
+    {
+        m_index.notePositional(m_options.size());
+    }
+}
+
+// Makes a new option and its names known. In its own text a zero takes the place of every
+// separator.
+void RegisteredOptionStorage::enter(const NewOption& made, std::wstring_view declared) noexcept
+{
+    const std::size_t tableIndex = m_options.size();
+    const std::size_t count = m_nameCount;
+    const bool boolean = made.option.valueType == value_type_boolean;
+    made.option.setPlace(m_index, tableIndex);
+    for (std::size_t position = 0; position < count; ++position)
+    {
+        const NewName& found = m_names[position];
+        wchar_t* const text = made.text + (found.text.data() - declared.data());
+        text[found.text.size()] = L'\0';
+        const HashedText* const name = std::construct_at(
+            made.names + position, found.text, std::wstring_view(text, found.text.size()));
+        m_index.add(*name, tableIndex, boolean, found.slot);
+    }
+    m_options.push_back(&made.option);
 }
 
 } // namespace kexa_3_3

@@ -90,13 +90,30 @@ public:
 private:
     static constexpr std::size_t most_names = 3;
 
+    // A name of the declaration at work.
+    struct NewName
+    {
+        HashedText text;      // as it was declared
+        std::size_t slot = 0; // its place in the index
+    };
+
+    // An option that is made and not yet known.
+    struct NewOption
+    {
+        OptionDescription& option;
+        HashedText* names; // room for them
+        wchar_t* text;     // the option's copy of all of them
+    };
+
     [[nodiscard]] bool isOfLastGroup(const wchar_t* declared) const noexcept;
     void changeGroup(const wchar_t* declared);
     [[nodiscard]] std::wstring_view findNames(const wchar_t* text);
     [[nodiscard]] bool acceptsNames() const noexcept;
     static void reportTaken(std::wstring_view names);
-    [[nodiscard]] OptionDescription& makeOption(std::wstring_view allNames,
-                                                std::wstring_view description, bool isSwitch);
+    [[nodiscard]] NewOption makeOption(std::wstring_view allNames, std::wstring_view description,
+                                       bool isSwitch, std::int32_t valueType);
+    void addKeywords(OptionDescription& option, const wchar_t* keywords, const wchar_t* names);
+    void enter(const NewOption& made, std::wstring_view declared) noexcept;
 
     wchar_t m_defaultSeparator;
     Garbage& m_owner;
@@ -110,11 +127,9 @@ private:
     OptionIndex m_index;
     std::size_t m_actionCount = 0;
 
-    // The names of the declaration at work, their places in the index, and whether another name is
-    // at one of them.
+    // The names of the declaration at work, and whether another option has one of them.
     std::size_t m_nameCount = 0;
-    std::array<HashedText, most_names> m_names;
-    std::array<std::size_t, most_names> m_slots = {};
+    std::array<NewName, most_names> m_names;
     bool m_isNameTaken = false;
 };
 

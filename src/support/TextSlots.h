@@ -41,15 +41,35 @@ public:
     [[nodiscard]] std::size_t slotFrom(std::size_t slot, const HashedText& text,
                                        TextOf textOf) const
     {
+        slot = candidateFrom(slot, text);
+        while (!isFree(slot) && !(textOf(m_slots[slot].number) == text))
+        {
+            slot = candidateFrom((slot + 1) & m_mask, text);
+        }
+        return slot;
+    }
+
+    // The first slot, from the text's home or from another one on, that is free or that may be the
+    // text's: no slot before it can. Asks for no text. Needs room.
+    [[nodiscard]] std::size_t candidateOf(const HashedText& text) const noexcept
+    {
+        return candidateFrom(markOf(text) & m_mask, text);
+    }
+    [[nodiscard]] std::size_t candidateFrom(std::size_t slot, const HashedText& text) const noexcept
+    {
         const Slot* const slots = m_slots;
         const std::size_t mask = m_mask;
         const std::uint32_t mark = markOf(text);
-        while (slots[slot].number != absent &&
-               (slots[slot].mark != mark || !(textOf(slots[slot].number) == text)))
+        while (slots[slot].number != absent && slots[slot].mark != mark)
         {
             slot = (slot + 1) & mask;
         }
         return slot;
+    }
+
+    [[nodiscard]] bool isFree(std::size_t slot) const noexcept
+    {
+        return m_slots[slot].number == absent;
     }
 
     // The number in a slot, or `absent` for a free one.

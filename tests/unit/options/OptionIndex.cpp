@@ -210,6 +210,30 @@ TEST(OptionIndex, NameAndNegationOfTwoOptionsGoToTheFirst)
     EXPECT_EQ(index.findAnswering(L"no-a"), 0);
 }
 
+TEST(OptionIndex, SharedNameGoesToTheFirstAndItsNegationToTheFirstBooleanOption)
+{
+    OptionIndex index;
+    NaiveTable table;
+    table.options = {{false, {}}, {true, {}}, {false, {}}, {true, {}}};
+    const auto expectFound = [&index](std::int64_t named, std::int64_t negated)
+    {
+        EXPECT_EQ(index.findNamed(HashedText(L"a")), named);
+        EXPECT_EQ(index.findAnswering(L"no-a"), negated);
+        EXPECT_EQ(index.listPrefix(L"no-").size(), negated == OptionIndex::none ? 0U : 1U);
+    };
+    addName(index, table, 2, L"a");
+    expectFound(2, OptionIndex::none);
+    EXPECT_FALSE(index.sharesNames());
+    addName(index, table, 0, L"a");
+    expectFound(0, OptionIndex::none);
+    EXPECT_TRUE(index.sharesNames());
+    addName(index, table, 3, L"a");
+    expectFound(0, 3);
+    addName(index, table, 1, L"a");
+    EXPECT_EQ(index.findAnswering(L"no-a"), 1);
+    EXPECT_EQ(index.listPrefix(L""), (Texts{L"a", L"a", L"no-a", L"a", L"a", L"no-a"}));
+}
+
 TEST(OptionIndex, FirstPositionalIsTheFirstInTableOrder)
 {
     OptionIndex index;
