@@ -16,7 +16,6 @@ namespace
 {
 
 constexpr std::size_t expected_names = 32; // room taken at once, for programs of usual size
-constexpr std::size_t most_names = 0x7FFFFFFF;
 
 // The smaller index of the two, where `none` counts as larger than any.
 std::int64_t firstOf(std::int64_t left, std::int64_t right) noexcept
@@ -37,35 +36,19 @@ std::uint64_t newIdentity() noexcept
 } // namespace
 
 OptionIndex::OptionIndex(std::pmr::memory_resource& memory) noexcept
-    : m_identity(newIdentity()), m_memory(&memory), m_slots(memory)
+    : m_identity(newIdentity()), m_names(memory), m_slots(memory)
 {
 }
 
+// Each name has a slot, so there is room for a name where the table of names has it.
 void OptionIndex::grow(std::size_t count)
 {
-    const std::size_t room = std::max({m_count + count, std::size_t{2} * m_room, expected_names});
-    if (room > most_names)
-    {
-        throw std::bad_alloc(); // GCOVR_EXCL_LINE: billions of names fit no test machine
-    }
+    const std::size_t room = m_names.nextRoom(count, expected_names);
     m_slots.reserve(room);
-    void* const memory = m_memory->allocate(room * sizeof(Name), alignof(Name));
-    Name* const names = static_cast<Name*>(memory);
-    std::uninitialized_copy_n(m_names, m_count, names);
-    free();
-    m_names = names;
-    m_room = static_cast<std::uint32_t>(room);
+    m_names.grow(room);
 }
 
-void OptionIndex::free() noexcept
-{
-    if (m_names != nullptr)
-    {
-        m_memory->deallocate(m_names, m_room * sizeof(Name), alignof(Name));
-    }
-}
-
-// By itself, for this is seldom run: the declaration of an option is better off without it.
+// By itself, for this is seldom run.
 std::size_t OptionIndex::slotFrom(std::size_t slot, const HashedText& name) const noexcept
 {
     return m_slots.slotFrom(slot, name, textOf());
@@ -103,7 +86,7 @@ std::int64_t OptionIndex::findAlsoNegated(const HashedText& text) const noexcept
 
 void OptionIndex::sortNames() const
 {
-    if (m_sorted.size() == m_count)
+    if (m_sorted.size() == m_names.size())
     {
         return;
     }
@@ -114,8 +97,9 @@ void OptionIndex::sortNames() const
     };
     const auto known = static_cast<std::ptrdiff_t>(m_sorted.size());
     std::vector<SortedName> sorted(m_sorted);
-    sorted.reserve(m_count);
-    for (auto number = static_cast<std::uint32_t>(m_sorted.size()); number < m_count; ++number)
+    sorted.reserve(m_names.size());
+    for (auto number = static_cast<std::uint32_t>(m_sorted.size()); number < m_names.size();
+         ++number)
     {
         const Name& name = m_names[number];
         sorted.push_back(

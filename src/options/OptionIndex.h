@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "support/HashedText.h"
+#include "support/PlainTable.h"
 #include "support/TextSlots.h"
 
 namespace kexa_3_3
@@ -85,7 +86,7 @@ public:
     // memory: lives longer than the index.
     explicit OptionIndex(
         std::pmr::memory_resource& memory = *std::pmr::get_default_resource()) noexcept;
-    ~OptionIndex() { free(); }
+    ~OptionIndex() = default;
     OptionIndex(const OptionIndex&) = delete;
     OptionIndex& operator=(const OptionIndex&) = delete;
 
@@ -96,9 +97,10 @@ public:
     [[nodiscard]] bool sharesNames() const noexcept { return m_sharesNames; }
 
     // Makes room for `count` names more, which adding them needs. Throws std::bad_alloc.
+    [[nodiscard]] bool hasRoom(std::size_t count) const noexcept { return m_names.hasRoom(count); }
     void reserve(std::size_t count)
     {
-        if (m_count + count > m_room)
+        if (!hasRoom(count)) [[unlikely]]
         {
             grow(count);
         }
@@ -115,15 +117,15 @@ public:
     // Spares adding the name a second search.
     [[nodiscard]] std::size_t slotOf(const HashedText& name) const noexcept
     {
-        const std::size_t slot = m_slots.candidateOf(name);
-        return m_slots.isFree(slot) ? slot : slotFrom(slot, name);
+        const std::size_t home = m_slots.homeOf(name);
+        return m_slots.isFree(home) ? home : slotFrom(home, name);
     }
     [[nodiscard]] bool isTaken(std::size_t slot) const noexcept { return !m_slots.isFree(slot); }
     void add(const HashedText& name, std::size_t option, bool boolean, std::size_t slot) noexcept
     {
         const auto index = static_cast<std::uint32_t>(option);
-        const std::uint32_t number = m_count++;
-        m_names[number] = {&name, index, boolean ? index : no_option};
+        const auto number = static_cast<std::uint32_t>(m_names.size());
+        m_names.append({&name, index, boolean ? index : no_option});
         if (isTaken(slot)) [[unlikely]]
         {
             addBehind(slot, number);
@@ -162,13 +164,12 @@ public:
 
 private:
     void grow(std::size_t count);
-    void free() noexcept;
     [[nodiscard]] std::size_t slotFrom(std::size_t slot, const HashedText& name) const noexcept;
     void addBehind(std::size_t slot, std::uint32_t number) noexcept;
     [[nodiscard]] std::int64_t findAlsoNegated(const HashedText& text) const noexcept;
     [[nodiscard]] const Name* find(const HashedText& text) const noexcept
     {
-        if (m_count == 0)
+        if (m_names.empty())
         {
             return nullptr;
         }
@@ -195,11 +196,8 @@ private:
 
     std::uint64_t m_identity;
     bool m_sharesNames = false;
-    std::uint32_t m_room = 0;  // for names, in both of the following
-    std::uint32_t m_count = 0; // of names
-    std::pmr::memory_resource* m_memory;
-    Name* m_names = nullptr;                          // as they were added
-    TextSlots m_slots;                                // of the first name with each text
+    PlainTable<Name> m_names;                         // as they were added
+    TextSlots m_slots;                                // of one name with each text
     mutable std::vector<SortedName> m_sorted;         // the first of m_names, by text
     mutable std::vector<SortedName> m_sortedBooleans; // those of boolean options
     std::int64_t m_firstPositional = none;

@@ -18,27 +18,25 @@ class OptionNames
 public:
     OptionNames() noexcept = default;
     explicit OptionNames(std::span<HashedText> names) noexcept
-        : m_first(names.data()), m_size(static_cast<std::uint32_t>(names.size())), m_room(m_size)
+        : m_first(names.data()), m_size(static_cast<std::uint32_t>(names.size()))
     {
     }
     ~OptionNames() = default;
 
     // The copy shares the names and makes room of its own before it adds any.
-    OptionNames(const OptionNames& other) noexcept
-        : m_first(other.m_first), m_size(other.m_size), m_room(other.m_size)
-    {
-    }
+    OptionNames(const OptionNames& other) noexcept : m_first(other.m_first), m_size(other.m_size) {}
     OptionNames& operator=(const OptionNames&) = delete;
 
     // Throws std::bad_alloc, changing nothing.
     void append(const HashedText& name, Arena& arena)
     {
-        if (m_size == m_room)
+        if (m_spare == 0)
         {
             grow(arena);
         }
         std::construct_at(m_first + m_size, name);
         ++m_size;
+        --m_spare;
     }
 
     [[nodiscard]] std::size_t size() const noexcept { return m_size; }
@@ -54,7 +52,7 @@ private:
 
     HashedText* m_first = nullptr;
     std::uint32_t m_size = 0;
-    std::uint32_t m_room = 0;
+    std::uint32_t m_spare = 0; // room for so many more
 };
 
 } // namespace kexa_3_3

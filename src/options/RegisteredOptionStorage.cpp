@@ -9,7 +9,6 @@
 
 #include "support/ConsoleStreams.h"
 #include "support/Garbage.h"
-#include "support/Growth.h"
 #include "support/Text.h"
 
 namespace kexa_3_3
@@ -24,15 +23,17 @@ constexpr std::size_t longest_short_form = 2;
 constexpr std::size_t expected_options = 32; // room taken at once, for programs of usual size
 constexpr std::size_t largest_table_in_pool = 2048; // bytes; larger ones are freed as they grow
 
-// The first ',' of a text, or its end.
-[[nodiscard]] const wchar_t* endOfPiece(const wchar_t* text) noexcept
+// Whether a character belongs to a name, and is neither between names nor behind them.
+[[nodiscard]] bool isPartOfName(wchar_t character) noexcept
 {
     // Nearly all characters of names have greater codes, so one comparison is enough for them.
-    while (*text > L',' || (*text != L',' && *text != L'\0'))
-    {
-        ++text;
-    }
-    return text;
+    return character > L',' || (character != L',' && character != L'\0');
+}
+
+// Whether so many names, of which the last is given, are few enough. None are as good as refused.
+[[nodiscard]] bool acceptsNames(std::size_t count, std::wstring_view last) noexcept
+{
+    return count < most_names || (count == most_names && last.size() <= longest_short_form);
 }
 
 [[nodiscard]] const wchar_t* orEmpty(const wchar_t* text) noexcept
@@ -50,7 +51,7 @@ template <class T>
 
 RegisteredOptionStorage::RegisteredOptionStorage(Garbage& owner, wchar_t defaultSeparator)
     : m_defaultSeparator(defaultSeparator), m_owner(owner),
-      m_memory(owner.memory(), largest_table_in_pool), m_options(&m_memory), m_groupNames(m_memory),
+      m_memory(owner.memory(), largest_table_in_pool), m_options(m_memory), m_groupNames(m_memory),
       m_index(m_memory)
 {
 }
@@ -80,26 +81,25 @@ const Registration& RegisteredOptionStorage::registerOption(const wchar_t* names
     {
         changeGroup(groupText);
     }
-    const std::wstring_view allNames = findNames(names);
-    if (!acceptsNames()) [[unlikely]]
+    if (!m_index.hasRoom(most_names) || !m_options.hasRoom(1)) [[unlikely]]
+    {
+        makeRoom();
+    }
+    const wchar_t* namesEnd = nullptr;
+    const std::size_t count = findNames(names, namesEnd);
+    if (count == 0) [[unlikely]]
     {
         return m_lastRegistration;
     }
-    if (m_isNameTaken) [[unlikely]]
-    {
-        reportTaken(allNames);
-        return m_lastRegistration;
-    }
-
-    reserveMore(m_options, 1, expected_options);
+    const DeclaredNames declared = {{names, namesEnd}, count};
     // Where the following fails, what it leaves behind lies in the owner's memory and needs no
     // destruction.
-    const NewOption made = makeOption(allNames, orEmpty(description), isSwitch, valueType);
+    const NewOption made = makeOption(declared, orEmpty(description), isSwitch, valueType);
     if (keywords != nullptr || isSwitch)
     {
         addKeywords(made.option, keywords, names);
     }
-    enter(made, allNames);
+    enter(made, declared);
     m_lastRegistration = {&made.option, registered};
     return m_lastRegistration;
 }
@@ -153,50 +153,77 @@ void RegisteredOptionStorage::changeGroup(const wchar_t* declared)
     m_lastGroup = m_groups[number];
 }
 
-// Finds the names of a text, which ',' separates, and their places in the index. Answers the whole
-// text. In one walk: names are so short that finding each of their ends by itself takes longer.
-std::wstring_view RegisteredOptionStorage::findNames(const wchar_t* text)
+void RegisteredOptionStorage::makeRoom()
 {
-    m_index.reserve(most_names); // so that what is found out about their places stays true
-    m_isNameTaken = false;
-    std::size_t count = 0;
-    const wchar_t* begin = text;
-    const wchar_t* end = endOfPiece(text);
-    for (;; begin = end + 1, end = endOfPiece(begin))
+    m_index.reserve(most_names);
+    if (!m_options.hasRoom(1))
     {
-        if (end != begin)
+        m_options.grow(m_options.nextRoom(1, expected_options));
+    }
+}
+
+// Finds the names of a text, which ',' separates, and their places in the index. In one walk: names
+// are so short that each further one would take long beside it. Answers the number of names, none
+// where they are refused.
+//
+// end: set to the end of the text where they are not.
+std::size_t RegisteredOptionStorage::findNames(const wchar_t* text, const wchar_t*& end)
+{
+    NewName* name = m_names.data();
+    for (const wchar_t* next = text;; ++next)
+    {
+        const wchar_t* const begin = next;
+        TextHash hash;
+        while (isPartOfName(next[0]))
         {
-            if (count < most_names)
+            if (!isPartOfName(next[1]))
             {
-                NewName& name = m_names[count];
-                std::construct_at(&name.text, std::wstring_view(begin, end));
-                name.slot = m_index.slotOf(name.text);
-                if (m_index.isTaken(name.slot)) [[unlikely]]
-                {
-                    m_isNameTaken = true;
-                }
+                hash.addLast(*next++);
+                break;
             }
-            ++count;
+            hash.addTwo(next);
+            next += 2;
         }
-        if (*end == L'\0')
+        if (next != begin)
         {
+            if (name == m_names.data() + most_names) [[unlikely]]
+            {
+                return 0;
+            }
+            std::construct_at(&name->text, std::wstring_view(begin, next), hash);
+            name->slot = m_index.slotOf(name->text);
+            if (m_index.isTaken(name->slot)) [[unlikely]]
+            {
+                refuseTaken(text);
+                return 0;
+            }
+            ++name;
+        }
+        if (*next == L'\0')
+        {
+            end = next;
             break;
         }
     }
-    m_nameCount = count;
-    return {text, end};
+    const auto count = static_cast<std::size_t>(name - m_names.data());
+    return acceptsNames(count, m_names.back().text) ? count : 0;
 }
 
-// Applies the rules for names by themselves.
-bool RegisteredOptionStorage::acceptsNames() const noexcept
+// Reports names of which one is taken, unless there are too many of them anyway.
+void RegisteredOptionStorage::refuseTaken(std::wstring_view names)
 {
-    return m_nameCount != 0 &&
-           (m_nameCount < most_names ||
-            (m_nameCount == most_names && m_names.back().text.size() <= longest_short_form));
-}
-
-void RegisteredOptionStorage::reportTaken(std::wstring_view names)
-{
+    std::size_t count = 0;
+    std::wstring_view last;
+    forEachPiece(names, L',',
+                 [&](std::wstring_view name)
+                 {
+                     ++count;
+                     last = name;
+                 });
+    if (!acceptsNames(count, last))
+    {
+        return;
+    }
     // Past the stream: parsers in several threads may be declaring at the same time.
     const std::wstring line = concatenate(
         {L"Tried to register an option with a name, which is alread registered: ", names, L"\n"});
@@ -206,13 +233,13 @@ void RegisteredOptionStorage::reportTaken(std::wstring_view names)
 // Makes an option of the last group in one piece of memory: behind the object come its names, which
 // are yet to be entered, then the texts of all names, copied at once, and the description.
 RegisteredOptionStorage::NewOption
-RegisteredOptionStorage::makeOption(std::wstring_view allNames, std::wstring_view description,
+RegisteredOptionStorage::makeOption(const DeclaredNames& declared, std::wstring_view description,
                                     bool isSwitch, std::int32_t valueType)
 {
     static_assert(sizeof(OptionDescription) % alignof(HashedText) == 0 &&
                   sizeof(HashedText) % alignof(wchar_t) == 0);
-    const std::size_t textStart = sizeof(OptionDescription) + m_nameCount * sizeof(HashedText);
-    const std::size_t characters = allNames.size() + 1 + description.size() + 1;
+    const std::size_t textStart = sizeof(OptionDescription) + declared.count * sizeof(HashedText);
+    const std::size_t characters = declared.text.size() + 1 + description.size() + 1;
     void* const memory =
         m_owner.memory().take(textStart + characters * sizeof(wchar_t), alignof(OptionDescription));
     std::byte* const bytes = static_cast<std::byte*>(memory);
@@ -220,12 +247,12 @@ RegisteredOptionStorage::makeOption(std::wstring_view allNames, std::wstring_vie
     auto* const text = placeAt<wchar_t>(bytes + textStart);
 
     // The zeros that end them are copied with them.
-    std::memcpy(text, allNames.data(), (allNames.size() + 1) * sizeof(wchar_t));
-    wchar_t* const ownDescription = text + allNames.size() + 1;
+    std::memcpy(text, declared.text.data(), (declared.text.size() + 1) * sizeof(wchar_t));
+    wchar_t* const ownDescription = text + declared.text.size() + 1;
     std::memcpy(ownDescription, description.data(), (description.size() + 1) * sizeof(wchar_t));
 
     auto* const option =
-        new (memory) OptionDescription(m_lastGroup, isSwitch, m_owner, {names, m_nameCount});
+        new (memory) OptionDescription(m_lastGroup, isSwitch, m_owner, {names, declared.count});
     option->description = {ownDescription, description.size()};
     option->separator = m_defaultSeparator;
     option->valueType = valueType;
@@ -251,22 +278,20 @@ void RegisteredOptionStorage::addKeywords(OptionDescription& option, const wchar
 
 // Makes a new option and its names known. In its own text a zero takes the place of every
 // separator.
-void RegisteredOptionStorage::enter(const NewOption& made, std::wstring_view declared) noexcept
+void RegisteredOptionStorage::enter(const NewOption& made, const DeclaredNames& declared) noexcept
 {
     const std::size_t tableIndex = m_options.size();
-    const std::size_t count = m_nameCount;
     const bool boolean = made.option.valueType == value_type_boolean;
+    m_options.append(&made.option);
     made.option.setPlace(m_index, tableIndex);
-    for (std::size_t position = 0; position < count; ++position)
+    HashedText* name = made.names;
+    for (const NewName& found : std::span(m_names.data(), declared.count))
     {
-        const NewName& found = m_names[position];
-        wchar_t* const text = made.text + (found.text.data() - declared.data());
+        wchar_t* const text = made.text + (found.text.data() - declared.text.data());
         text[found.text.size()] = L'\0';
-        const HashedText* const name = std::construct_at(
-            made.names + position, found.text, std::wstring_view(text, found.text.size()));
-        m_index.add(*name, tableIndex, boolean, found.slot);
+        std::construct_at(name, found.text, std::wstring_view(text, found.text.size()));
+        m_index.add(*name++, tableIndex, boolean, found.slot);
     }
-    m_options.push_back(&made.option);
 }
 
 } // namespace kexa_3_3

@@ -14,11 +14,14 @@
 #include "options/OptionDescription.h"
 #include "options/OptionIndex.h"
 #include "support/HashedText.h"
+#include "support/PlainTable.h"
 #include "support/SmallBlocks.h"
 #include "support/TextTable.h"
 
 namespace kexa_3_3
 {
+
+inline constexpr std::size_t most_names = 3; // of one declaration
 
 // Owns the options, in the order of their declaration, and the list of groups. Options are never
 // removed.
@@ -88,7 +91,12 @@ public:
     [[nodiscard]] const std::vector<Group>& groups() const noexcept { return m_groups; }
 
 private:
-    static constexpr std::size_t most_names = 3;
+    // The names of a declaration, in front of m_names; none where they are refused.
+    struct DeclaredNames
+    {
+        std::wstring_view text;
+        std::size_t count = 0;
+    };
 
     // A name of the declaration at work.
     struct NewName
@@ -107,18 +115,18 @@ private:
 
     [[nodiscard]] bool isOfLastGroup(const wchar_t* declared) const noexcept;
     void changeGroup(const wchar_t* declared);
-    [[nodiscard]] std::wstring_view findNames(const wchar_t* text);
-    [[nodiscard]] bool acceptsNames() const noexcept;
-    static void reportTaken(std::wstring_view names);
-    [[nodiscard]] NewOption makeOption(std::wstring_view allNames, std::wstring_view description,
+    void makeRoom();
+    [[nodiscard]] std::size_t findNames(const wchar_t* text, const wchar_t*& end);
+    static void refuseTaken(std::wstring_view names);
+    [[nodiscard]] NewOption makeOption(const DeclaredNames& declared, std::wstring_view description,
                                        bool isSwitch, std::int32_t valueType);
     void addKeywords(OptionDescription& option, const wchar_t* keywords, const wchar_t* names);
-    void enter(const NewOption& made, std::wstring_view declared) noexcept;
+    void enter(const NewOption& made, const DeclaredNames& declared) noexcept;
 
     wchar_t m_defaultSeparator;
     Garbage& m_owner;
-    SmallBlocks m_memory;                           // of the tables
-    std::pmr::vector<OptionDescription*> m_options; // in memory of m_owner
+    SmallBlocks m_memory;                     // of the tables
+    PlainTable<OptionDescription*> m_options; // in memory of m_owner
     std::vector<Group> m_groups;
     Registration m_lastRegistration = {nullptr, 1};
 
@@ -127,10 +135,7 @@ private:
     OptionIndex m_index;
     std::size_t m_actionCount = 0;
 
-    // The names of the declaration at work, and whether another option has one of them.
-    std::size_t m_nameCount = 0;
-    std::array<NewName, most_names> m_names;
-    bool m_isNameTaken = false;
+    std::array<NewName, most_names> m_names; // of the declaration at work
 };
 
 } // namespace kexa_3_3

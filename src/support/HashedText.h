@@ -9,55 +9,52 @@
 namespace kexa_3_3
 {
 
-// A hash of the text. Only texts that a host declares are stored in tables, so it needs to be quick
-// and not to withstand an enemy who chooses what is stored.
-[[nodiscard]] inline std::uint64_t hashOf(std::wstring_view text) noexcept
+// The hash of a text, taken of its characters as they are walked over: two at a time, and a last
+// one by itself where their number is odd. Only texts that a host declares are stored in tables, so
+// it needs to be quick and not to withstand an enemy who chooses what is stored.
+class TextHash
 {
-    // Two words of eight bytes at a time are multiplied by odd numbers and folded. One is the
-    // golden ratio's, which spreads small differences over the upper bits (D. E. Knuth, The Art of
-    // Computer Programming, 6.4), the other has no pattern. The last words overlap those before
-    // them, which spares a loop over what is left.
-    constexpr std::uint64_t first_multiplier = 0x9E3779B97F4A7C15;
-    constexpr std::uint64_t second_multiplier = 0xC2B2AE3D27D4EB4F;
-    constexpr std::size_t characters = sizeof(std::uint64_t) / sizeof(wchar_t); // in a word
-    const wchar_t* front = text.data();
-    const std::size_t length = text.size();
-    const auto wordAt = [](const wchar_t* position)
+public:
+    // two: points to the next two characters.
+    void addTwo(const wchar_t* two) noexcept
     {
         std::uint64_t value = 0;
-        std::memcpy(&value, position, sizeof(value));
-        return value;
-    };
-    const auto mix = [](std::uint64_t hash, std::uint64_t first, std::uint64_t second)
-    {
-        hash = (hash ^ (first * second_multiplier) ^ second) * first_multiplier;
-        return hash ^ (hash >> 32);
-    };
-    const auto mixLast = [mix](std::uint64_t hash, std::uint64_t first, std::uint64_t second)
-    {
-        hash = mix(hash, first, second) * second_multiplier;
-        return hash ^ (hash >> 32);
-    };
-    std::uint64_t hash = length * first_multiplier;
-    if (length >= 2 * characters)
-    {
-        const wchar_t* const back = front + (length - 2 * characters);
-        for (; front < back; front += 2 * characters)
-        {
-            hash = mix(hash, wordAt(front), wordAt(front + characters));
-        }
-        return mixLast(hash, wordAt(back), wordAt(back + characters));
+        std::memcpy(&value, two, 2 * sizeof(wchar_t));
+        mix(value);
     }
-    if (length >= characters)
+    void addLast(wchar_t character) noexcept { mix(static_cast<std::uint32_t>(character)); }
+
+    // Of all characters so far. The upper bits of the state, of which the lower ones are made here,
+    // depend on all of the last two characters.
+    [[nodiscard]] std::uint64_t value() const noexcept { return m_state << 20 | m_state >> 44; }
+
+private:
+    void mix(std::uint64_t value) noexcept
     {
-        return mixLast(hash, wordAt(front), wordAt(front + (length - characters)));
+        // Its halves are the golden ratio's and the silver ratio's, one for each of two characters.
+        // Both spread small differences over the upper bits (D. E. Knuth, The Art of Computer
+        // Programming, 6.4).
+        constexpr std::uint64_t multiplier = 0x9E3779B96A09E667;
+        m_state = (m_state ^ value) * multiplier;
     }
-    std::uint64_t word = 0;
-    for (const wchar_t character : text)
+
+    std::uint64_t m_state = 0;
+};
+
+[[nodiscard]] inline std::uint64_t hashOf(std::wstring_view text) noexcept
+{
+    TextHash hash;
+    const wchar_t* next = text.data();
+    const wchar_t* const end = next + text.size();
+    for (; end - next >= 2; next += 2)
     {
-        word = word << 16 ^ static_cast<std::uint64_t>(character);
+        hash.addTwo(next);
     }
-    return mixLast(hash, word, 0);
+    if (next != end)
+    {
+        hash.addLast(*next);
+    }
+    return hash.value();
 }
 
 // For texts that are looked for again and again.
@@ -68,6 +65,12 @@ public:
 
     explicit HashedText(std::wstring_view text) noexcept
         : std::wstring_view(text), m_hash(hashOf(text))
+    {
+    }
+
+    // hash: of the text.
+    HashedText(std::wstring_view text, const TextHash& hash) noexcept
+        : std::wstring_view(text), m_hash(hash.value())
     {
     }
 

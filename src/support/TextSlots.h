@@ -33,7 +33,7 @@ public:
     template <class TextOf>
     [[nodiscard]] std::size_t slotOf(const HashedText& text, TextOf textOf) const
     {
-        return slotFrom(markOf(text) & m_mask, text, textOf);
+        return slotFrom(homeOf(text), text, textOf);
     }
 
     // The same, of a text that is in no slot from its home up to `slot`.
@@ -41,30 +41,21 @@ public:
     [[nodiscard]] std::size_t slotFrom(std::size_t slot, const HashedText& text,
                                        TextOf textOf) const
     {
-        slot = candidateFrom(slot, text);
-        while (!isFree(slot) && !(textOf(m_slots[slot].number) == text))
-        {
-            slot = candidateFrom((slot + 1) & m_mask, text);
-        }
-        return slot;
-    }
-
-    // The first slot, from the text's home or from another one on, that is free or that may be the
-    // text's: no slot before it can. Asks for no text. Needs room.
-    [[nodiscard]] std::size_t candidateOf(const HashedText& text) const noexcept
-    {
-        return candidateFrom(markOf(text) & m_mask, text);
-    }
-    [[nodiscard]] std::size_t candidateFrom(std::size_t slot, const HashedText& text) const noexcept
-    {
         const Slot* const slots = m_slots;
         const std::size_t mask = m_mask;
         const std::uint32_t mark = markOf(text);
-        while (slots[slot].number != absent && slots[slot].mark != mark)
+        while (slots[slot].number != absent &&
+               (slots[slot].mark != mark || !(textOf(slots[slot].number) == text)))
         {
             slot = (slot + 1) & mask;
         }
         return slot;
+    }
+
+    // Where the search for a text begins. Needs room.
+    [[nodiscard]] std::size_t homeOf(const HashedText& text) const noexcept
+    {
+        return markOf(text) & m_mask;
     }
 
     [[nodiscard]] bool isFree(std::size_t slot) const noexcept

@@ -191,6 +191,10 @@ TEST_F(RegisteredOptions, TakenNameIsReportedWithAllNames)
     EXPECT_EQ(captureOutput([this] { add(L"x,o"); }), beginning + "x,o\n");
     EXPECT_EQ(captureOutput([this] { add(L"\u00E9,,o,"); }), beginning + "\xC3\xA9,,o,\n");
     EXPECT_EQ(captureOutput([this] { add(L"Out,ou"); }), "");
+    // Too many names are refused before any of them is looked for.
+    EXPECT_EQ(captureOutput([this] { add(L"out,b,c,d"); }), "");
+    EXPECT_EQ(captureOutput([this] { add(L"a,b,out"); }), "");
+    EXPECT_EQ(captureOutput([this] { add(L"a,out,ab"); }), beginning + "a,out,ab\n");
 }
 
 TEST_F(RegisteredOptions, NameAddedLaterIsTakenToo)

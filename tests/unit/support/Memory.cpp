@@ -14,6 +14,7 @@
 
 #include "support/Arena.h"
 #include "support/Growth.h"
+#include "support/PlainTable.h"
 #include "support/SmallBlocks.h"
 
 #include "AllocationCount.h"
@@ -22,6 +23,7 @@ namespace
 {
 
 using kexa_3_3::Arena;
+using kexa_3_3::PlainTable;
 using kexa_3_3::reserveMore;
 using kexa_3_3::SmallBlocks;
 using unit::allocationCount;
@@ -132,6 +134,65 @@ TEST(Arena, IsAMemoryResourceThatFreesNothingEarly)
     {
         ASSERT_EQ(kept[number], number);
     }
+}
+
+TEST(PlainTable, KeepsItsValuesHoweverOftenItGrows)
+{
+    const std::size_t before = allocationCount();
+    PlainTable<std::size_t> table(*std::pmr::new_delete_resource());
+    EXPECT_TRUE(table.empty());
+    EXPECT_FALSE(table.hasRoom(1));
+    EXPECT_TRUE(table.hasRoom(0));
+    for (std::size_t number = 0; number < 10000; ++number)
+    {
+        if (!table.hasRoom(1))
+        {
+            table.grow(table.nextRoom(1, 8));
+        }
+        ASSERT_TRUE(table.hasRoom(1));
+        table.append(number);
+        ASSERT_EQ(table.size(), number + 1);
+    }
+    EXPECT_FALSE(table.empty());
+    std::size_t expected = 0;
+    for (const std::size_t number : table)
+    {
+        ASSERT_EQ(number, expected);
+        ASSERT_EQ(table[expected], expected);
+        ++expected;
+    }
+    EXPECT_EQ(expected, 10000U);
+    EXPECT_LE(allocationCount() - before, 12U);
+}
+
+TEST(PlainTable, MakesRoomForAllThatIsAskedFor)
+{
+    PlainTable<std::size_t> table(*std::pmr::new_delete_resource());
+    EXPECT_EQ(table.nextRoom(3, 8), 8U);
+    EXPECT_EQ(table.nextRoom(9, 8), 9U);
+    table.grow(8);
+    EXPECT_TRUE(table.hasRoom(8));
+    EXPECT_FALSE(table.hasRoom(9));
+    table.append(1);
+    EXPECT_TRUE(table.hasRoom(7));
+    EXPECT_FALSE(table.hasRoom(8));
+    EXPECT_EQ(table.nextRoom(8, 8), 16U);
+    EXPECT_EQ(table.nextRoom(100, 8), 101U);
+}
+
+TEST(PlainTable, StaysAsItIsWhereThereIsNoMemory)
+{
+    std::array<std::size_t, 4> memory = {};
+    std::pmr::monotonic_buffer_resource resource(memory.data(), sizeof(memory),
+                                                 std::pmr::null_memory_resource());
+    PlainTable<std::size_t> table(resource);
+    table.grow(4);
+    table.append(7);
+    EXPECT_THROW(table.grow(8), std::bad_alloc);
+    EXPECT_EQ(table.size(), 1U);
+    EXPECT_EQ(table[0], 7U);
+    EXPECT_TRUE(table.hasRoom(3));
+    EXPECT_FALSE(table.hasRoom(4));
 }
 
 TEST(SmallBlocks, SmallBlocksComeFromTheArena)

@@ -1,0 +1,94 @@
+// A growing table of plain values.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <memory_resource>
+#include <new>
+#include <type_traits>
+
+namespace kexa_3_3
+{
+
+// As a vector of values that need no destruction, where making room and appending are two steps:
+// the first may fail, the second costs the storing of the value. Several tables that grow together
+// can so be asked for room before the first of them changes.
+template <class T>
+class PlainTable
+{
+    static_assert(std::is_trivially_copyable_v<T>);
+
+public:
+    // memory: lives longer than the table.
+    explicit PlainTable(std::pmr::memory_resource& memory) noexcept : m_memory(&memory) {}
+    ~PlainTable() { free(); }
+    PlainTable(const PlainTable&) = delete;
+    PlainTable& operator=(const PlainTable&) = delete;
+
+    // Whether `count` values more can be appended.
+    [[nodiscard]] bool hasRoom(std::size_t count) const noexcept
+    {
+        return static_cast<std::size_t>(m_limit - m_end) >= count;
+    }
+
+    // How many values to make room for where there is none for `count` more: so many that appending
+    // stays cheap. smallest: at least these.
+    [[nodiscard]] std::size_t nextRoom(std::size_t count, std::size_t smallest) const noexcept
+    {
+        return std::max({size() + count, 2 * room(), smallest});
+    }
+
+    // Makes room for `room` values in all, more than there is. Throws std::bad_alloc, changing
+    // nothing.
+    void grow(std::size_t room)
+    {
+        if (room > most_values)
+        {
+            throw std::bad_alloc(); // GCOVR_EXCL_LINE: billions of values fit no test machine
+        }
+        void* const memory = m_memory->allocate(room * sizeof(T), alignof(T));
+        T* const values = static_cast<T*>(memory);
+        T* const end = std::uninitialized_copy_n(m_values, size(), values);
+        free();
+        m_values = values;
+        m_end = end;
+        m_limit = values + room;
+    }
+
+    // Needs room.
+    void append(const T& value) noexcept { std::construct_at(m_end++, value); }
+
+    [[nodiscard]] bool empty() const noexcept { return m_end == m_values; }
+    [[nodiscard]] std::size_t size() const noexcept
+    {
+        return static_cast<std::size_t>(m_end - m_values);
+    }
+    [[nodiscard]] T& operator[](std::size_t index) noexcept { return m_values[index]; }
+    [[nodiscard]] const T& operator[](std::size_t index) const noexcept { return m_values[index]; }
+    [[nodiscard]] const T* begin() const noexcept { return m_values; }
+    [[nodiscard]] const T* end() const noexcept { return m_end; }
+
+private:
+    static constexpr std::size_t most_values = 0x7FFFFFFF;
+
+    [[nodiscard]] std::size_t room() const noexcept
+    {
+        return static_cast<std::size_t>(m_limit - m_values);
+    }
+    void free() noexcept
+    {
+        if (m_values != nullptr)
+        {
+            m_memory->deallocate(m_values, room() * sizeof(T), alignof(T));
+        }
+    }
+
+    std::pmr::memory_resource* m_memory;
+    T* m_values = nullptr;
+    T* m_end = nullptr;
+    T* m_limit = nullptr; // of the room
+};
+
+} // namespace kexa_3_3
