@@ -27,6 +27,7 @@ IOption& OptionDescription::addName(const wchar_t* name)
 
 IOption& OptionDescription::addAllowedValue(const vexkit2::variant_t& value)
 {
+    noteValues();
     ValueRestriction& restriction = m_restriction.make();
     restriction.allowedValues.push_back(value);
     if (separator == 0)
@@ -40,6 +41,7 @@ IOption& OptionDescription::addAllowedValue(const vexkit2::variant_t& value)
 IOption& OptionDescription::addDeprecatedValue(const vexkit2::variant_t& oldValue,
                                                const vexkit2::variant_t& replacement)
 {
+    noteValues();
     ValueRestriction& restriction = m_restriction.make();
     restriction.deprecatedValues.emplace(oldValue, replacement);
     restriction.index.held.reset();
@@ -48,6 +50,7 @@ IOption& OptionDescription::addDeprecatedValue(const vexkit2::variant_t& oldValu
 
 IOption& OptionDescription::setDefaultValue(const vexkit2::variant_t& value)
 {
+    noteValues();
     defaultValue = value;
     hasDefault = true;
     return *this;

@@ -144,6 +144,14 @@ private:
         return !keywords.empty() && keywords.contains(positional_keyword);
     }
     // NOLINTNEXTLINE(readability-make-member-function-const): it changes the index.
+    void noteValues() noexcept
+    {
+        if (m_place.held.index != nullptr)
+        {
+            m_place.held.index->noteValues();
+        }
+    }
+    // NOLINTNEXTLINE(readability-make-member-function-const): it changes the index.
     void notePositional()
     {
         if (m_place.held.index != nullptr && isPositional())

@@ -156,6 +156,10 @@ public:
     // The same written out, in table order.
     [[nodiscard]] std::vector<std::wstring> listPrefix(std::wstring_view beginning) const;
 
+    // Notes that an option of the table holds values, which the table has to destroy.
+    void noteValues() noexcept { m_holdsValues = true; }
+    [[nodiscard]] bool holdsValues() const noexcept { return m_holdsValues; }
+
     // Notes that an option became positional, which it stays.
     void notePositional(std::size_t option) noexcept;
 
@@ -196,6 +200,7 @@ private:
 
     std::uint64_t m_identity;
     bool m_sharesNames = false;
+    bool m_holdsValues = false;
     PlainTable<Name> m_names;                         // as they were added
     TextSlots m_slots;                                // of one name with each text
     mutable std::vector<SortedName> m_sorted;         // the first of m_names, by text

@@ -58,12 +58,9 @@ RegisteredOptionStorage::RegisteredOptionStorage(Garbage& owner, wchar_t default
 
 RegisteredOptionStorage::~RegisteredOptionStorage()
 {
-    for (OptionDescription* const option : m_options) // in the order of declaration
+    if (m_index.holdsValues())
     {
-        if (option->holdsValues())
-        {
-            std::destroy_at(option);
-        }
+        destroyValues();
     }
 }
 
@@ -291,6 +288,18 @@ void RegisteredOptionStorage::enter(const NewOption& made, const DeclaredNames& 
         text[found.text.size()] = L'\0';
         std::construct_at(name, found.text, std::wstring_view(text, found.text.size()));
         m_index.add(*name++, tableIndex, boolean, found.slot);
+    }
+}
+
+// What the other options hold lies in the owner's memory.
+void RegisteredOptionStorage::destroyValues() noexcept
+{
+    for (OptionDescription* const option : m_options) // in the order of declaration
+    {
+        if (option->holdsValues())
+        {
+            std::destroy_at(option);
+        }
     }
 }
 

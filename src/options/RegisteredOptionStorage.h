@@ -121,6 +121,7 @@ private:
     [[nodiscard]] NewOption makeOption(const DeclaredNames& declared, std::wstring_view description,
                                        bool isSwitch, std::int32_t valueType);
     void addKeywords(OptionDescription& option, const wchar_t* keywords, const wchar_t* names);
+    void destroyValues() noexcept;
     void enter(const NewOption& made, const DeclaredNames& declared) noexcept;
 
     wchar_t m_defaultSeparator;

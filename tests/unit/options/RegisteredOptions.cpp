@@ -307,4 +307,32 @@ TEST(RegisteredOptionsLife, OptionsAreFreedInTheOrderOfRegistration)
     EXPECT_EQ(destroyed, (std::vector<int>{0, 1, 2, 4, 5, 6}));
 }
 
+TEST(RegisteredOptionsLife, OneValueOfAnyKindIsFreed)
+{
+    std::vector<int> destroyed;
+    using Give = void (*)(IOption&, const variant_t&);
+    const Give ways[] = {
+        [](IOption& option, const variant_t& value) { option.setDefaultValue(value); },
+        [](IOption& option, const variant_t& value) { option.addAllowedValue(value); },
+        [](IOption& option, const variant_t& value)
+        { option.addDeprecatedValue(variant_t(1), value); },
+        [](IOption& option, const variant_t& value)
+        {
+            option.addDeprecatedValue(value, variant_t(1));
+        }};
+    int number = 0;
+    for (const Give give : ways)
+    {
+        Garbage pool(4096);
+        RegisteredOptionStorage options(pool, L',');
+        options.registerOption(L"before", nullptr, L"", false, 13, L"");
+        IOption& option = *options.registerSwitch(L"holder", L"", 0, L"").option;
+        options.registerOption(L"behind", nullptr, L"", false, 13, L"");
+        give(option, variant_t::object(new Watched(destroyed, number)));
+        EXPECT_EQ(destroyed.size(), static_cast<std::size_t>(number));
+        ++number;
+    }
+    EXPECT_EQ(destroyed, (std::vector<int>{0, 1, 2, 3}));
+}
+
 } // namespace
