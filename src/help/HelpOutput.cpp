@@ -52,7 +52,7 @@ std::wstring formatTopicList(const RegisteredOptionStorage& options, bool hidden
     for (std::size_t index = 0; index < options.size(); ++index)
     {
         const OptionDescription& option = options[index];
-        if (!option.takesValue() && passesHiddenTest(option.group, hidden))
+        if (!option.takesValue() && passesHiddenTest(option.group(), hidden))
         {
             topics[option.primaryName()] = option.description;
             longest = std::max(longest, option.primaryName().size());

@@ -166,7 +166,7 @@ formatOptionHelp(const std::vector<std::pair<std::wstring_view, std::wstring_vie
     {
         if (!entry->marked)
         {
-            byGroup[entry->group].push_back(entry);
+            byGroup[entry->group()].push_back(entry);
         }
     }
     std::wstring out;

@@ -39,21 +39,24 @@ struct ValueRestriction
     mutable NotCopied<std::unique_ptr<AllowedValueIndex>> index;
 };
 
+// A group of options, and the text of that group.
+using OptionGroup = std::pair<std::wstring_view, std::wstring_view>;
+
 // Changed by the host through IOption; the rest of the library reads the members. Texts live in the
 // owner's pool, so as long as the parser, and are terminated by a zero.
 class OptionDescription final : public IOption
 {
 public:
-    // group:    the option's group and the text of that group.
+    // group:    the option's; lives longer than the option.
     // isSwitch: whether the option is an action, which takes no value.
     // owner:    keeps the texts; lives longer than the option.
     // names:    lie in the memory of the owner.
-    OptionDescription(const std::pair<std::wstring_view, std::wstring_view>& group_, bool isSwitch,
-                      Garbage& owner_, std::span<HashedText> names_ = {}) noexcept
-        : names(names_), group(group_.first), groupText(group_.second), valueMode(isSwitch ? 0 : 1),
-          owner(&owner_)
+    OptionDescription(const OptionGroup& group, bool isSwitch, Garbage& owner_,
+                      std::span<HashedText> names_ = {}) noexcept
+        : names(names_), valueMode(isSwitch ? 0 : 1), owner(&owner_), m_group(&group)
     {
     }
+    OptionDescription(OptionGroup&&, bool, Garbage&, std::span<HashedText> = {}) = delete;
     ~OptionDescription() override = default;
 
     // A copy is a description by itself: no table of options learns of its names.
@@ -74,6 +77,9 @@ public:
     {
         return names.empty() ? std::wstring_view(L"") : std::wstring_view(names.front());
     }
+    [[nodiscard]] std::wstring_view group() const noexcept { return m_group->first; }
+    [[nodiscard]] std::wstring_view groupText() const noexcept { return m_group->second; }
+
     // Whether the text is one of the option's names.
     [[nodiscard]] bool answersTo(std::wstring_view name) const noexcept;
     [[nodiscard]] bool takesValue() const noexcept { return valueMode != 0; }
@@ -121,8 +127,6 @@ public:
     std::int32_t kind = 0;
     OptionNames names;
     KeywordSet keywords;
-    std::wstring_view group;
-    std::wstring_view groupText;
     std::wstring_view description;
     bool marked = false;
     bool hasDefault = false;
@@ -160,6 +164,7 @@ private:
         }
     }
 
+    const OptionGroup* m_group;
     NotCopied<Place> m_place;
     Lazy<ValueRestriction> m_restriction;
 };

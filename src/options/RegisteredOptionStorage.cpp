@@ -21,6 +21,7 @@ constexpr std::int32_t registered = 3;
 constexpr std::int32_t refused = 1;
 constexpr std::size_t longest_short_form = 2;
 constexpr std::size_t expected_options = 32; // room taken at once, for programs of usual size
+constexpr std::size_t expected_groups = 8;
 constexpr std::size_t largest_table_in_pool = 2048; // bytes; larger ones are freed as they grow
 
 // Whether a character belongs to a name, and is neither between names nor behind them.
@@ -51,8 +52,8 @@ template <class T>
 
 RegisteredOptionStorage::RegisteredOptionStorage(Garbage& owner, wchar_t defaultSeparator)
     : m_defaultSeparator(defaultSeparator), m_owner(owner),
-      m_memory(owner.memory(), largest_table_in_pool), m_options(m_memory), m_groupNames(m_memory),
-      m_index(m_memory)
+      m_memory(owner.memory(), largest_table_in_pool), m_options(m_memory), m_groups(m_memory),
+      m_groupNames(m_memory), m_index(m_memory)
 {
 }
 
@@ -124,11 +125,26 @@ const OptionDescription* RegisteredOptionStorage::find(const HashedText& name) c
     return found == OptionIndex::none ? nullptr : m_options[static_cast<std::size_t>(found)];
 }
 
+std::vector<OptionGroup> RegisteredOptionStorage::groups() const
+{
+    std::vector<OptionGroup> groups;
+    groups.reserve(m_groups.size());
+    for (const OptionGroup* const group : m_groups)
+    {
+        groups.push_back(*group);
+    }
+    return groups;
+}
+
 // Whether what is declared, a group with or without a text, is the group declared last.
 bool RegisteredOptionStorage::isOfLastGroup(const wchar_t* declared) const noexcept
 {
-    const std::wstring_view name = m_lastGroup.first;
-    return name.data() != nullptr && std::wcsncmp(declared, name.data(), name.size()) == 0 &&
+    if (m_lastGroup == nullptr)
+    {
+        return false;
+    }
+    const std::wstring_view name = m_lastGroup->first;
+    return std::wcsncmp(declared, name.data(), name.size()) == 0 &&
            (declared[name.size()] == L':' || declared[name.size()] == L'\0');
 }
 
@@ -137,17 +153,23 @@ void RegisteredOptionStorage::changeGroup(const wchar_t* declared)
 {
     const std::wstring_view groupText(declared);
     const std::size_t colon = std::min(groupText.find(L':'), groupText.size());
-    const std::wstring_view name = groupText.substr(0, colon);
-    const HashedText hashedName(name);
-    std::uint32_t number = m_groupNames.find(hashedName);
-    if (number == TextTable::absent)
+    const HashedText name(groupText.substr(0, colon));
+    const std::uint32_t number = m_groupNames.find(name);
+    if (number != TextTable::absent)
     {
-        const std::wstring_view text = groupText.substr(std::min(colon + 1, groupText.size()));
-        m_groupNames.reserve(1);
-        m_groups.emplace_back(m_owner.keep(name), m_owner.keep(text));
-        number = m_groupNames.insert(HashedText(hashedName, m_groups.back().first));
+        m_lastGroup = m_groups[number];
+        return;
     }
-    m_lastGroup = m_groups[number];
+    m_groupNames.reserve(1);
+    if (!m_groups.hasRoom(1))
+    {
+        m_groups.grow(m_groups.nextRoom(1, expected_groups));
+    }
+    const std::wstring_view text = groupText.substr(std::min(colon + 1, groupText.size()));
+    void* const memory = m_owner.memory().take(sizeof(OptionGroup), alignof(OptionGroup));
+    m_lastGroup = new (memory) OptionGroup(m_owner.keep(name), m_owner.keep(text));
+    m_groups.append(m_lastGroup);
+    m_groupNames.insert(HashedText(name, m_lastGroup->first));
 }
 
 void RegisteredOptionStorage::makeRoom()
@@ -249,7 +271,7 @@ RegisteredOptionStorage::makeOption(const DeclaredNames& declared, std::wstring_
     std::memcpy(ownDescription, description.data(), (description.size() + 1) * sizeof(wchar_t));
 
     auto* const option =
-        new (memory) OptionDescription(m_lastGroup, isSwitch, m_owner, {names, declared.count});
+        new (memory) OptionDescription(*m_lastGroup, isSwitch, m_owner, {names, declared.count});
     option->description = {ownDescription, description.size()};
     option->separator = m_defaultSeparator;
     option->valueType = valueType;

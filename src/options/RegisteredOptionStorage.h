@@ -86,9 +86,8 @@ public:
     // Whether an action is declared.
     [[nodiscard]] bool hasActions() const noexcept { return m_actionCount != 0; }
 
-    // Every (group, group text) once, in order of first appearance.
-    using Group = std::pair<std::wstring_view, std::wstring_view>;
-    [[nodiscard]] const std::vector<Group>& groups() const noexcept { return m_groups; }
+    // Every group once, in order of first appearance.
+    [[nodiscard]] std::vector<OptionGroup> groups() const;
 
 private:
     // The names of a declaration, in front of m_names; none where they are refused.
@@ -128,11 +127,11 @@ private:
     Garbage& m_owner;
     SmallBlocks m_memory;                     // of the tables
     PlainTable<OptionDescription*> m_options; // in memory of m_owner
-    std::vector<Group> m_groups;
+    PlainTable<const OptionGroup*> m_groups;  // in memory of m_owner too
     Registration m_lastRegistration = {nullptr, 1};
 
-    TextTable m_groupNames; // numbers are indices of m_groups
-    Group m_lastGroup;      // declared last; without texts before the first one
+    TextTable m_groupNames;                   // numbers are indices of m_groups
+    const OptionGroup* m_lastGroup = nullptr; // declared last
     OptionIndex m_index;
     std::size_t m_actionCount = 0;
 

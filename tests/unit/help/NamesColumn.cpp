@@ -14,11 +14,13 @@ namespace
 using namespace kexa_3_3;
 using vexkit2::variant_t;
 
+const OptionGroup no_group;
+
 std::wstring column(std::int32_t valueType, const std::function<void(IOption&)>& build,
                     bool isSwitch = false)
 {
     Garbage pool(4096);
-    OptionDescription option({L"", L""}, isSwitch, pool);
+    OptionDescription option(no_group, isSwitch, pool);
     option.valueType = valueType;
     build(option);
     return formatNames(option);

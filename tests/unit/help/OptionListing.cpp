@@ -15,7 +15,7 @@ namespace
 
 using namespace kexa_3_3;
 
-using Groups = std::vector<std::pair<std::wstring_view, std::wstring_view>>;
+using Groups = std::vector<OptionGroup>;
 
 class OptionListing : public testing::Test
 {
@@ -23,8 +23,8 @@ protected:
     OptionDescription& add(const wchar_t* name, const wchar_t* group,
                            const wchar_t* description = L"text")
     {
-        OptionDescription& option = options.emplace_back(
-            std::pair<std::wstring_view, std::wstring_view>(group, L"not looked at"), false, pool);
+        OptionDescription& option =
+            options.emplace_back(groups.emplace_back(group, L"not looked at"), false, pool);
         option.addName(name);
         option.valueType = value_type_none;
         option.description = description;
@@ -33,6 +33,7 @@ protected:
     }
 
     Garbage pool{4096};
+    std::deque<OptionGroup> groups;
     std::deque<OptionDescription> options;
     std::vector<const OptionDescription*> entries;
 };
@@ -58,10 +59,10 @@ TEST_F(OptionListing, HiddenGroupIsShownAlone)
 {
     add(L"a", L"kexa_hidden");
     add(L"b", L"");
-    const Groups groups = {{L"", L""}, {L"kexa_hidden", L""}, {L"kexa_hidden2", L""}};
-    EXPECT_EQ(formatOptionHelp(groups, entries, true),
+    const Groups listed = {{L"", L""}, {L"kexa_hidden", L""}, {L"kexa_hidden2", L""}};
+    EXPECT_EQ(formatOptionHelp(listed, entries, true),
               L"kexa_hidden\n" + line(L"-a", L"text") + L"\n");
-    EXPECT_EQ(formatOptionHelp(groups, entries, false),
+    EXPECT_EQ(formatOptionHelp(listed, entries, false),
               line(L"-b", L"text") + L"\nkexa_hidden2\n\n");
 }
 

@@ -16,6 +16,8 @@ using namespace kexa_3_3;
 using vexkit2::s32_t;
 using vexkit2::variant_t;
 
+const OptionGroup no_group;
+
 using Texts = std::vector<std::wstring>;
 
 template <class Container>
@@ -33,7 +35,8 @@ class OptionDescriptionTest : public testing::Test
 {
 protected:
     Garbage pool{4096};
-    OptionDescription option{{L"group", L"text of the group"}, false, pool};
+    OptionGroup group{L"group", L"text of the group"};
+    OptionDescription option{group, false, pool};
 };
 
 using OptionDescriptionConstruction = OptionDescriptionTest;
@@ -45,8 +48,8 @@ TEST_F(OptionDescriptionConstruction, SetsEveryMember)
     EXPECT_EQ(option.kind, 0);
     EXPECT_EQ(textsOf(option.names), Texts());
     EXPECT_EQ(textsOf(option.keywords), Texts());
-    EXPECT_EQ(option.group, L"group");
-    EXPECT_EQ(option.groupText, L"text of the group");
+    EXPECT_EQ(option.group(), L"group");
+    EXPECT_EQ(option.groupText(), L"text of the group");
     EXPECT_EQ(option.description, L"");
     EXPECT_FALSE(option.marked);
     EXPECT_FALSE(option.hasDefault);
@@ -66,11 +69,11 @@ TEST_F(OptionDescriptionConstruction, SetsEveryMember)
 
 TEST_F(OptionDescriptionConstruction, SwitchHasValueModeZero)
 {
-    const OptionDescription action({L"", L""}, true, pool);
+    const OptionDescription action(no_group, true, pool);
     EXPECT_EQ(action.valueMode, 0U);
     EXPECT_FALSE(action.takesValue());
-    EXPECT_EQ(action.group, L"");
-    EXPECT_EQ(action.groupText, L"");
+    EXPECT_EQ(action.group(), L"");
+    EXPECT_EQ(action.groupText(), L"");
 }
 
 TEST_F(OptionDescriptionBuilder, EveryOperationAnswersTheOption)
@@ -172,7 +175,7 @@ TEST_F(OptionDescriptionBuilder, KeywordsAreSplitSortedAndUnique)
 
 TEST_F(OptionDescriptionBuilder, MarkedOrKeywordedOptionIsPositional)
 {
-    OptionDescription byKeyword({L"", L""}, false, pool);
+    OptionDescription byKeyword(no_group, false, pool);
     byKeyword.addKeywords(L"kexa_positional_options,a");
     EXPECT_FALSE(byKeyword.isPositional());
     byKeyword.addKeywords(L"b,kexa_positional_option");
@@ -180,14 +183,14 @@ TEST_F(OptionDescriptionBuilder, MarkedOrKeywordedOptionIsPositional)
     option.setMarked();
     EXPECT_TRUE(option.marked);
     EXPECT_TRUE(option.isPositional());
-    OptionDescription action({L"", L""}, true, pool);
+    OptionDescription action(no_group, true, pool);
     action.setMarked().addKeywords(L"kexa_positional_option");
     EXPECT_FALSE(action.isPositional());
 }
 
 TEST_F(OptionDescriptionBuilder, KeywordIsSharedWhereBothHaveIt)
 {
-    OptionDescription other({L"", L""}, true, pool);
+    OptionDescription other(no_group, true, pool);
     EXPECT_FALSE(shareKeyword(option.keywords, other.keywords));
     option.addKeywords(L"b,d,f");
     EXPECT_FALSE(shareKeyword(option.keywords, other.keywords));
@@ -214,8 +217,8 @@ TEST_F(OptionDescriptionCopy, HasEveryMember)
     EXPECT_EQ(copy.kind, 7);
     EXPECT_EQ(textsOf(copy.names), (Texts{L"name", L"n"}));
     EXPECT_EQ(textsOf(copy.keywords), (Texts{L"k", L"l"}));
-    EXPECT_EQ(copy.group, L"group");
-    EXPECT_EQ(copy.groupText, L"text of the group");
+    EXPECT_EQ(copy.group(), L"group");
+    EXPECT_EQ(copy.groupText(), L"text of the group");
     EXPECT_EQ(copy.description, L"what it does");
     EXPECT_TRUE(copy.marked);
     EXPECT_TRUE(copy.hasDefault);

@@ -13,7 +13,7 @@ namespace
 
 using namespace kexa_3_3;
 
-using Groups = std::vector<std::pair<std::wstring_view, std::wstring_view>>;
+using Groups = std::vector<OptionGroup>;
 
 class OptionGroups : public testing::Test
 {
@@ -45,12 +45,12 @@ TEST_F(OptionGroups, GroupIsCutAtItsFirstColon)
                                         {L"Advanced", L""}}));
     for (const std::size_t index : {0U, 1U, 2U})
     {
-        EXPECT_EQ(options[index].group, L"advanced") << index;
-        EXPECT_EQ(options[index].groupText, L"Advanced options") << index;
+        EXPECT_EQ(options[index].group(), L"advanced") << index;
+        EXPECT_EQ(options[index].groupText(), L"Advanced options") << index;
     }
-    EXPECT_EQ(options[4].groupText, L"");
-    EXPECT_EQ(options[5].groupText, L"y:z");
-    EXPECT_EQ(options[7].groupText, L"Of no group");
+    EXPECT_EQ(options[4].groupText(), L"");
+    EXPECT_EQ(options[5].groupText(), L"y:z");
+    EXPECT_EQ(options[7].groupText(), L"Of no group");
 }
 
 TEST_F(OptionGroups, DeclarationsOfOneGroupMayStandTogetherOrApart)
@@ -65,7 +65,7 @@ TEST_F(OptionGroups, DeclarationsOfOneGroupMayStandTogetherOrApart)
     {
         add(std::to_wstring(found.size()).c_str(), groupText);
         const OptionDescription& option = options[found.size()];
-        found.emplace_back(option.group, option.groupText);
+        found.emplace_back(option.group(), option.groupText());
     }
     EXPECT_EQ(found, expected);
     EXPECT_EQ(options.groups(), (Groups{{L"x", L""}, {L"y", L"Why"}, {L"", L""}, {L"z", L""}}));
@@ -83,8 +83,8 @@ TEST_F(OptionGroups, ManyGroupsAreEachListedOnce)
     for (std::size_t number = 0; number < 300; ++number)
     {
         const std::wstring number7 = std::to_wstring(number * 7 % 100);
-        ASSERT_EQ(options[number].group, L"g" + number7);
-        ASSERT_EQ(options[number].groupText, L"text " + std::to_wstring(number % 100));
+        ASSERT_EQ(options[number].group(), L"g" + number7);
+        ASSERT_EQ(options[number].groupText(), L"text " + std::to_wstring(number % 100));
     }
 }
 

@@ -17,7 +17,7 @@ using toolbox::toUtf8;
 using vexkit2::variant_t;
 
 using Texts = std::vector<std::wstring>;
-using Groups = std::vector<std::pair<std::wstring_view, std::wstring_view>>;
+using Groups = std::vector<OptionGroup>;
 
 template <class Container>
 Texts textsOf(const Container& container)
@@ -54,8 +54,8 @@ TEST_F(RegisteredOptions, FullRegistrationSetsEveryMember)
     EXPECT_EQ(option.kind, 0);
     EXPECT_EQ(textsOf(option.names), (Texts{L"output", L"o"}));
     EXPECT_EQ(textsOf(option.keywords), (Texts{L"a", L"b"}));
-    EXPECT_EQ(option.group, L"files");
-    EXPECT_EQ(option.groupText, L"All files");
+    EXPECT_EQ(option.group(), L"files");
+    EXPECT_EQ(option.groupText(), L"All files");
     EXPECT_EQ(option.description, L"where to write");
     EXPECT_EQ(option.valueMode, 1U);
     EXPECT_EQ(option.valueType, 6);
@@ -73,7 +73,7 @@ TEST_F(RegisteredOptions, SwitchHasItsNamesAsKeywords)
     EXPECT_EQ(options[0].valueMode, 0U);
     EXPECT_EQ(options[0].valueType, 0);
     EXPECT_EQ(options[0].description, L"lists");
-    EXPECT_EQ(options[0].group, L"actions");
+    EXPECT_EQ(options[0].group(), L"actions");
     EXPECT_EQ(textsOf(options[0].keywords), (Texts{L"l", L"list", L"ls"}));
     EXPECT_EQ(options[1].valueMode, 0U);
     EXPECT_EQ(textsOf(options[1].keywords), (Texts{L"list", L"p", L"pack", L"zip"}));
@@ -86,7 +86,7 @@ TEST_F(RegisteredOptions, ValueOptionHasItsKeywordsOnly)
     EXPECT_EQ(options[0].valueMode, 1U);
     EXPECT_EQ(options[0].valueType, 7);
     EXPECT_EQ(options[0].description, L"how much");
-    EXPECT_EQ(options[0].group, L"g");
+    EXPECT_EQ(options[0].group(), L"g");
     EXPECT_EQ(textsOf(options[0].keywords), (Texts{L"pack"}));
 }
 
@@ -96,7 +96,7 @@ TEST_F(RegisteredOptions, NullTextsAreEmpty)
     ASSERT_EQ(options.size(), 1U);
     EXPECT_EQ(textsOf(options[0].keywords), Texts());
     EXPECT_EQ(options[0].description, L"");
-    EXPECT_EQ(options[0].group, L"");
+    EXPECT_EQ(options[0].group(), L"");
     EXPECT_EQ(add(nullptr).status, 1);
 }
 

@@ -17,6 +17,8 @@ using namespace kexa_3_3;
 using toolbox::toUtf8;
 using vexkit2::variant_t;
 
+const OptionGroup no_group;
+
 class ValueCheck : public testing::Test
 {
 protected:
@@ -56,7 +58,7 @@ protected:
     }
 
     Garbage pool{4096};
-    OptionDescription option{{L"", L""}, false, pool};
+    OptionDescription option{no_group, false, pool};
     ValueVerdict verdict = ValueVerdict::refused;
     variant_t value;
     std::string warning;
@@ -93,7 +95,7 @@ TEST_F(ValueCheck, ExactMatchIsTakenBeforeAnAbbreviation)
 TEST_F(ValueCheck, CompletedTextIsOwnedByTheValue)
 {
     {
-        OptionDescription shortLived({L"", L""}, false, pool);
+        OptionDescription shortLived(no_group, false, pool);
         shortLived.valueType = value_type_string;
         shortLived.addAllowedValue(variant_t(L"fast"));
         EXPECT_EQ(checkValue(shortLived, L"f", value), ValueVerdict::changed);
@@ -213,7 +215,7 @@ TEST_F(ValueCheckOfIntegers, ValuesAreComparedAcrossKinds)
 TEST(ValueCheckOfNamelessOption, MessagesHaveAnEmptyName)
 {
     Garbage pool(1024);
-    OptionDescription option({L"", L""}, false, pool);
+    OptionDescription option(no_group, false, pool);
     option.valueType = value_type_double;
     variant_t value;
     EXPECT_EQ(checkValue(option, L"x", value), ValueVerdict::unreadable);

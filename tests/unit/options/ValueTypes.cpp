@@ -13,6 +13,8 @@ namespace
 
 using namespace kexa_3_3;
 
+const OptionGroup no_group;
+
 TEST(ValueTypes, SevenTypesHaveAName)
 {
     for (std::int32_t type = -1; type <= 20; ++type)
@@ -46,7 +48,7 @@ TEST(ValueTypes, SevenTypesHaveAName)
         }
         EXPECT_EQ(std::wstring(typeName(type)), expected) << type;
         Garbage pool(1024);
-        OptionDescription option({L"", L""}, false, pool);
+        OptionDescription option(no_group, false, pool);
         option.valueType = type;
         EXPECT_EQ(std::wstring(typeName(option)), expected) << type;
     }

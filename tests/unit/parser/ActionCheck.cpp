@@ -20,6 +20,8 @@ namespace
 
 using namespace kexa_3_3;
 
+const OptionGroup no_group;
+
 using Keywords = std::set<std::wstring>;
 
 // "code: message".
@@ -40,7 +42,7 @@ protected:
     // Stores something under exactly these names.
     void store(std::initializer_list<const wchar_t*> names, bool occurrence = true)
     {
-        OptionDescription option({L"", L""}, false, pool);
+        OptionDescription option(no_group, false, pool);
         for (const wchar_t* const name : names)
         {
             option.addName(name);
@@ -315,7 +317,7 @@ TEST(ActionCheckComparison, EveryResultIsCheckedAsAWalkDoes)
         std::shuffle(order.begin(), order.end(), random);
         for (const std::wstring& name : order)
         {
-            OptionDescription option({L"", L""}, false, pool);
+            OptionDescription option(no_group, false, pool);
             option.addName(name.c_str());
             OptionResult record;
             record.positions.push_back(0);

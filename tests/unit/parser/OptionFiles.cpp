@@ -20,6 +20,8 @@ namespace
 using namespace kexa_3_3;
 using vexkit2::variant_t;
 
+const OptionGroup no_group;
+
 using Texts = std::vector<std::wstring>;
 
 class OptionFilesTest : public testing::Test
@@ -50,7 +52,7 @@ protected:
 
     toolbox::TemporaryFolder folder;
     Garbage pool{4096};
-    OptionDescription option{{L"", L""}, false, pool};
+    OptionDescription option{no_group, false, pool};
     ParseResult result;
 
     std::vector<Texts> parsed; // the arguments of each file
@@ -192,7 +194,7 @@ TEST_F(OptionFilesTest, TextIsUtf8)
 // name stood for. There may be fewer values then than were looked at.
 TEST_F(OptionFilesTest, NameMayMoveToAShorterRecordMeanwhile)
 {
-    OptionDescription other({L"", L""}, false, pool);
+    OptionDescription other(no_group, false, pool);
     other.addName(L"f").addName(option_file_name);
     OptionFiles files(result.options());
     name(folder.write(L"a", "--a"));

@@ -17,6 +17,8 @@ namespace
 using namespace kexa_3_3;
 using vexkit2::variant_t;
 
+const OptionGroup no_group;
+
 constexpr std::int32_t lowest = std::numeric_limits<std::int32_t>::min();
 
 // What a query answered: "code text value position".
@@ -220,7 +222,7 @@ void expectAgreement(ParseResult& result, Walk& walk, RandomEntries& random)
 TEST(RangeQueries, EveryWalkOverSeveralRecordsFollowsItsSteps)
 {
     Garbage pool(1024);
-    OptionDescription option({L"", L""}, false, pool);
+    OptionDescription option(no_group, false, pool);
     option.addName(L"name").addName(L"n");
     for (unsigned seed = 0; seed < 1500; ++seed)
     {
@@ -247,7 +249,7 @@ TEST(RangeQueries, EveryWalkOverSeveralRecordsFollowsItsSteps)
 TEST(RangeQueries, EveryWalkFollowsItsSteps)
 {
     Garbage pool(1024);
-    OptionDescription option({L"", L""}, false, pool);
+    OptionDescription option(no_group, false, pool);
     option.addName(L"name").addName(L"n");
     for (unsigned seed = 0; seed < 1500; ++seed)
     {
@@ -266,7 +268,7 @@ TEST(RangeQueries, EveryWalkFollowsItsSteps)
 TEST(RangeQueries, NullOutAdvancesAllTheSame)
 {
     Garbage pool(1024);
-    OptionDescription option({L"", L""}, false, pool);
+    OptionDescription option(no_group, false, pool);
     option.addName(L"name");
     ParseResult result;
     OptionResult record;
@@ -287,7 +289,7 @@ TEST(RangeQueries, NullOutAdvancesAllTheSame)
 TEST(RangeQueries, UnknownNameEndsTheWalk)
 {
     Garbage pool(1024);
-    OptionDescription option({L"", L""}, false, pool);
+    OptionDescription option(no_group, false, pool);
     option.addName(L"name");
     ParseResult result;
     EXPECT_EQ(result.getNextPosition(), no_position);

@@ -23,6 +23,8 @@ using namespace kexa_3_3;
 using toolbox::toUtf8;
 using vexkit2::variant_t;
 
+const OptionGroup no_group;
+
 // One value, of either kind of entry.
 template <class Entry>
 std::wstring describeValue(const Entry& entry)
@@ -129,8 +131,7 @@ public:
         for (std::size_t number = 0; number < 8; ++number)
         {
             m_nameEndings.push_back(usual ? std::to_wstring(number) : L"");
-            m_options.emplace_back(std::pair<std::wstring_view, std::wstring_view>(), false,
-                                   m_pool);
+            m_options.emplace_back(no_group, false, m_pool);
             addName(number);
             for (unsigned more = below(4); more != 0; --more)
             {
@@ -226,7 +227,7 @@ class SharedNamesTest : public testing::Test
 protected:
     OptionDescription option(std::initializer_list<const wchar_t*> names)
     {
-        OptionDescription made({L"", L""}, false, pool);
+        OptionDescription made(no_group, false, pool);
         for (const wchar_t* const name : names)
         {
             made.addName(name);
@@ -314,8 +315,8 @@ TEST_F(SharedNamesTest, TextsOfOneHashAreToldApart)
     const HashedText first(L"first");
     HashedText firstName[] = {first};
     HashedText secondName[] = {HashedText(first, L"other"), HashedText(first, L"second")};
-    const OptionDescription one({L"", L""}, false, pool, firstName);
-    const OptionDescription another({L"", L""}, false, pool, secondName);
+    const OptionDescription one(no_group, false, pool, firstName);
+    const OptionDescription another(no_group, false, pool, secondName);
     store(another, 1);
     EXPECT_EQ(positions(L"first"), (Positions{-1}));
     store(one, 2);

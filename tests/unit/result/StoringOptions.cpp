@@ -17,6 +17,8 @@ namespace
 using namespace kexa_3_3;
 using vexkit2::variant_t;
 
+const OptionGroup no_group;
+
 class StoringOptions : public testing::Test
 {
 protected:
@@ -42,13 +44,13 @@ protected:
     const StoredOption* stored(std::wstring_view name) { return result.options().find(name); }
 
     Garbage pool{4096};
-    OptionDescription option{{L"", L""}, false, pool};
+    OptionDescription option{no_group, false, pool};
     ParseResult result;
 };
 
 TEST_F(StoringOptions, OptionWithoutNamesIsOutOfRange)
 {
-    const OptionDescription nameless({L"", L""}, false, pool);
+    const OptionDescription nameless(no_group, false, pool);
     OptionResult record;
     record.positions.push_back(1);
     try
@@ -106,7 +108,7 @@ TEST_F(StoringOptions, NamesAreKept)
 {
     {
         Garbage own(1024);
-        OptionDescription shortLived({L"", L""}, false, own);
+        OptionDescription shortLived(no_group, false, own);
         shortLived.addName(L"a name that is gone when it is looked for");
         store(shortLived, L"x", variant_t(L"x"), 0);
     }
@@ -154,7 +156,7 @@ TEST_F(StoringOptions, RecordStaysWhereItIs)
     const wchar_t* const text = unit::valuesOf(*before)[0].text;
     for (std::int32_t number = 1; number < 2000; ++number)
     {
-        OptionDescription other({L"", L""}, false, pool);
+        OptionDescription other(no_group, false, pool);
         other.addName(std::to_wstring(number).c_str());
         store(other, L"y", variant_t(L"y"), number);
         store(option, L"x", variant_t(number), number);
