@@ -267,7 +267,7 @@ void OptionResultTable::storeApart(Names names, OptionResult& record)
     }
 }
 
-std::vector<OptionResultTable::Part> OptionResultTable::partsOf(Names names)
+std::vector<OptionResultTable::Part> OptionResultTable::partsOf(Names names) const
 {
     std::vector<Part> parts;
     std::size_t absent = 0;
@@ -359,16 +359,17 @@ template <class Entry>
 void OptionResultTable::moveInto(Entry*& entries, std::size_t used, std::size_t before,
                                  std::size_t room)
 {
+    // NOLINTNEXTLINE(bugprone-sizeof-expression): entries may be pointers.
+    constexpr std::size_t size = sizeof(Entry);
     Entry* moved = nullptr;
     if (room != 0)
     {
-        void* const memory = m_memory.allocate(room * sizeof(Entry), alignof(Entry));
-        moved = static_cast<Entry*>(memory);
+        moved = static_cast<Entry*>(m_memory.allocate(room * size, alignof(Entry)));
         std::uninitialized_copy_n(entries, used, moved);
     }
     if (entries != nullptr)
     {
-        m_memory.deallocate(entries, before * sizeof(Entry), alignof(Entry));
+        m_memory.deallocate(entries, before * size, alignof(Entry));
     }
     entries = moved;
 }

@@ -146,7 +146,7 @@ private:
         std::vector<HashedText> names;
         bool isWhole = false;
     };
-    [[nodiscard]] std::vector<Part> partsOf(Names names);
+    [[nodiscard]] std::vector<Part> partsOf(Names names) const;
 
     // A record for names, which find it once they are bound to it, and the room that binding needs.
     [[nodiscard]] StoredOption& makeRecord(Names names);
