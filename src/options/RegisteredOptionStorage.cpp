@@ -5,7 +5,6 @@
 #include <cwchar>
 #include <memory>
 #include <new>
-#include <span>
 
 #include "support/ConsoleStreams.h"
 #include "support/Garbage.h"
@@ -303,13 +302,13 @@ void RegisteredOptionStorage::enter(const NewOption& made, const DeclaredNames& 
     const bool boolean = made.option.valueType == value_type_boolean;
     m_options.append(&made.option);
     made.option.setPlace(m_index, tableIndex);
-    HashedText* name = made.names;
-    for (const NewName& found : std::span(m_names.data(), declared.count))
+    const NewName* found = m_names.data();
+    for (HashedText* name = made.names; name != made.names + declared.count; ++name, ++found)
     {
-        wchar_t* const text = made.text + (found.text.data() - declared.text.data());
-        text[found.text.size()] = L'\0';
-        std::construct_at(name, found.text, std::wstring_view(text, found.text.size()));
-        m_index.add(*name++, tableIndex, boolean, found.slot);
+        wchar_t* const text = made.text + (found->text.data() - declared.text.data());
+        text[found->text.size()] = L'\0';
+        std::construct_at(name, found->text, std::wstring_view(text, found->text.size()));
+        m_index.add(*name, tableIndex, boolean, found->slot);
     }
 }
 
