@@ -48,7 +48,7 @@ public:
         {
             throw std::bad_alloc(); // GCOVR_EXCL_LINE: billions of values fit no test machine
         }
-        void* const memory = m_memory->allocate(room * sizeof(T), alignof(T));
+        void* const memory = m_memory->allocate(bytesOf(room), alignof(T));
         T* const values = static_cast<T*>(memory);
         T* const end = std::uninitialized_copy_n(m_values, size(), values);
         free();
@@ -73,6 +73,10 @@ public:
 private:
     static constexpr std::size_t most_values = 0x7FFFFFFF;
 
+    [[nodiscard]] static constexpr std::size_t bytesOf(std::size_t count) noexcept
+    {
+        return count * sizeof(T); // NOLINT(bugprone-sizeof-expression): of a pointer where T is one
+    }
     [[nodiscard]] std::size_t room() const noexcept
     {
         return static_cast<std::size_t>(m_limit - m_values);
@@ -81,7 +85,7 @@ private:
     {
         if (m_values != nullptr)
         {
-            m_memory->deallocate(m_values, room() * sizeof(T), alignof(T));
+            m_memory->deallocate(m_values, bytesOf(room()), alignof(T));
         }
     }
 
