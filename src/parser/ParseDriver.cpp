@@ -264,9 +264,9 @@ result_t BasicParser::checkActions(const ArgumentQueue& /*arguments*/, IParseRes
 void BasicParser::storeDefaults(IParseResult& result) const
 {
     ParseResult* const filled = fillable(&result);
-    if (filled == nullptr)
+    if (filled == nullptr || !m_options.index().holdsValues())
     {
-        return;
+        return; // nothing to fill, or no option has a default
     }
     for (std::size_t index = 0; index < m_options.size(); ++index)
     {
