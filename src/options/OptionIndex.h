@@ -144,10 +144,13 @@ public:
     }
 
     // The first option, in table order, that answers to exactly this text.
+    [[nodiscard]] std::int64_t findAnswering(const HashedText& text) const noexcept
+    {
+        return beginsWithNegation(text) ? findAlsoNegated(text) : findNamed(text);
+    }
     [[nodiscard]] std::int64_t findAnswering(std::wstring_view text) const noexcept
     {
-        const HashedText hashed(text);
-        return beginsWithNegation(text) ? findAlsoNegated(hashed) : findNamed(hashed);
+        return findAnswering(HashedText(text));
     }
 
     // The names and negations that begin with the text.

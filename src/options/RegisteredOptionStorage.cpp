@@ -192,16 +192,7 @@ std::size_t RegisteredOptionStorage::findNames(const wchar_t* text, const wchar_
     {
         const wchar_t* const begin = next;
         TextHash hash;
-        while (isPartOfName(next[0]))
-        {
-            if (!isPartOfName(next[1]))
-            {
-                hash.addLast(*next++);
-                break;
-            }
-            hash.addTwo(next);
-            next += 2;
-        }
+        next = hashUntil(next, hash, [](const wchar_t* place) { return !isPartOfName(*place); });
         if (next != begin)
         {
             if (name == m_names.data() + most_names) [[unlikely]]

@@ -104,11 +104,12 @@ ValueVerdict checkAllowed(const OptionDescription& option, std::wstring_view tex
 ValueVerdict checkValue(const OptionDescription& option, std::wstring_view text, variant_t& value,
                         SharedTexts* texts)
 {
-    value = convertValue(option.valueType, text, texts);
-    if (value.kind() == vexkit2::kind_null)
+    variant_t converted = convertValue(option.valueType, text, texts);
+    if (converted.kind() == vexkit2::kind_null)
     {
         return ValueVerdict::unreadable;
     }
+    value.swap(converted);
     return option.allowedValues().empty() ? ValueVerdict::accepted
                                           : checkAllowed(option, text, value, texts);
 }

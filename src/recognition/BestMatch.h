@@ -38,7 +38,7 @@ struct BestMatch
 
 // A name that equals a candidate stands for it alone, even where it begins others; otherwise the
 // candidates that begin with it match. Case counts. The texts of the answer are those given.
-inline void findBestMatch(BestMatch& match, const OptionIndex& index, std::wstring_view typedName)
+inline void findBestMatch(BestMatch& match, const OptionIndex& index, const HashedText& typedName)
 {
     const std::int64_t exact = index.findAnswering(typedName);
     if (exact != OptionIndex::none)

@@ -15,9 +15,9 @@ OptionArgument splitOptionArgument(std::wstring_view argument, const WhiteSpace&
     begin += hyphenPrefixLength(argument, begin);
     std::wstring_view rest = argument;
     rest.remove_prefix(begin);
-    const std::size_t end = whiteSpace.endOfName(rest);
     OptionArgument split;
-    split.name = rest.substr(0, end);
+    split.name = whiteSpace.nameIn(rest);
+    const std::size_t end = split.name.size();
     if (end == rest.size())
     {
         return split;

@@ -5,6 +5,7 @@
 #include <locale>
 #include <string_view>
 
+#include "support/HashedText.h"
 #include "support/Text.h"
 
 namespace kexa_3_3
@@ -30,25 +31,24 @@ class WhiteSpace
 {
 public:
     WhiteSpace();
-    // The index of the first character that is white space or "=", or the text's length.
-    [[nodiscard]] std::size_t endOfName(std::wstring_view text) const
+    // What stands before the first character that is white space or "=", or the whole text.
+    [[nodiscard]] HashedText nameIn(std::wstring_view text) const
     {
-        std::size_t end = 0;
-        if (m_facet != nullptr)
-        {
-            while (end != text.size() && text[end] != L'=' && !contains(text[end]))
-            {
-                ++end;
-            }
-            return end;
-        }
-        // Letters stand above both in the basic set.
-        while (end != text.size() &&
-               (text[end] > L'=' || (text[end] != L'=' && !isClassicSpace(text[end]))))
-        {
-            ++end;
-        }
-        return end;
+        const wchar_t* const behind = text.data() + text.size();
+        TextHash hash;
+        const wchar_t* const end =
+            m_facet != nullptr
+                ? hashUntil(text.data(), hash,
+                            [this, behind](const wchar_t* place)
+                            { return place == behind || *place == L'=' || contains(*place); })
+                // Letters stand above both in the basic set.
+                : hashUntil(text.data(), hash,
+                            [behind](const wchar_t* place) {
+                                return place == behind ||
+                                       (*place <= L'=' &&
+                                        (*place == L'=' || isClassicSpace(*place)));
+                            });
+        return HashedText(text.substr(0, static_cast<std::size_t>(end - text.data())), hash);
     }
 
     [[nodiscard]] bool contains(wchar_t character) const
@@ -64,7 +64,7 @@ private:
 
 struct OptionArgument
 {
-    std::wstring_view name;
+    HashedText name;
     std::wstring_view value; // empty where the argument has no value part
     bool hasValue = false;
 };

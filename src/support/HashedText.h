@@ -41,6 +41,25 @@ private:
     std::uint64_t m_state = 0;
 };
 
+// The hash of the characters before the first that `ends` answers true for, and the place of that.
+// There must be one, or it answers true for the place behind the last.
+//
+// ends: takes a place of a character.
+template <class Ends>
+[[nodiscard]] const wchar_t* hashUntil(const wchar_t* text, TextHash& hash, Ends ends) noexcept
+{
+    for (; !ends(text); text += 2)
+    {
+        if (ends(text + 1))
+        {
+            hash.addLast(*text);
+            return text + 1;
+        }
+        hash.addTwo(text);
+    }
+    return text;
+}
+
 [[nodiscard]] inline std::uint64_t hashOf(std::wstring_view text) noexcept
 {
     TextHash hash;
@@ -57,8 +76,8 @@ private:
     return hash.value();
 }
 
-// Whether two texts of the same length are equal. What is compared here are names, which are so short
-// that a call of the C library's comparison takes longer than they do.
+// Whether two texts of the same length are equal. What is compared here are names, which are so
+// short that a call of the C library's comparison takes longer than they do.
 [[nodiscard]] inline bool equalCharacters(const wchar_t* left, const wchar_t* right,
                                           std::size_t length) noexcept
 {
@@ -90,6 +109,15 @@ public:
     HashedText(std::wstring_view text, const TextHash& hash) noexcept
         : std::wstring_view(text), m_hash(hash.value())
     {
+    }
+
+    // A text that ends with its first zero. Takes its length and its hash in one walk.
+    [[nodiscard]] static HashedText ofTerminated(const wchar_t* text) noexcept
+    {
+        TextHash hash;
+        const wchar_t* const end =
+            hashUntil(text, hash, [](const wchar_t* place) { return *place == L'\0'; });
+        return HashedText(std::wstring_view(text, static_cast<std::size_t>(end - text)), hash);
     }
 
     // The same text at another place.

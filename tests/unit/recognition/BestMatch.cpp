@@ -18,7 +18,7 @@ protected:
     [[nodiscard]] BestMatch find(const std::wstring& typedName) const
     {
         BestMatch match;
-        findBestMatch(match, options.index(), typedName);
+        findBestMatch(match, options.index(), HashedText(typedName));
         return match;
     }
 

@@ -9,6 +9,7 @@
 namespace
 {
 
+using kexa_3_3::HashedText;
 using kexa_3_3::hyphenPrefixLength;
 using kexa_3_3::OptionArgument;
 using kexa_3_3::splitOptionArgument;
@@ -57,6 +58,7 @@ void expectSplit(const std::vector<Row>& rows)
     {
         const OptionArgument split = splitOptionArgument(row.argument, whiteSpace);
         EXPECT_EQ(std::wstring(split.name), row.name) << toUtf8(row.argument);
+        EXPECT_EQ(split.name.hash(), HashedText(row.name).hash()) << toUtf8(row.argument);
         EXPECT_EQ(split.hasValue, row.hasValue) << toUtf8(row.argument);
         EXPECT_EQ(std::wstring(split.value), row.value) << toUtf8(row.argument);
     }
@@ -172,9 +174,9 @@ TEST(WhiteSpace, StaysWhenTheLocaleThatGaveItIsGone)
     EXPECT_TRUE(odd.contains(L'_'));
     EXPECT_FALSE(odd.contains(L' '));
     const OptionArgument split = splitOptionArgument(L"--name__ value", odd);
-    EXPECT_EQ(split.name, L"name");
+    EXPECT_EQ(split.name, HashedText(L"name"));
     EXPECT_EQ(split.value, L" value");
-    EXPECT_EQ(splitOptionArgument(L"--na me=x", odd).name, L"na me");
+    EXPECT_EQ(splitOptionArgument(L"--na me=x", odd).name, HashedText(L"na me"));
 }
 
 } // namespace

@@ -11,6 +11,8 @@
 namespace
 {
 
+using kexa_3_3::equalCharacters;
+using kexa_3_3::HashedText;
 using kexa_3_3::hashOf;
 using kexa_3_3::TextTable;
 
@@ -92,6 +94,34 @@ TEST(TextTable, TextsAreComparedWhole)
     }
 }
 
+TEST(TextTable, TerminatedTextHasTheHashOfItsCharacters)
+{
+    const std::wstring text = L"abcdefghi";
+    for (std::size_t length = 0; length <= text.size(); ++length)
+    {
+        const std::wstring part = text.substr(0, length);
+        const HashedText walked = HashedText::ofTerminated(part.c_str());
+        EXPECT_EQ(std::wstring(walked), part);
+        EXPECT_EQ(walked.hash(), HashedText(part).hash()) << length;
+    }
+}
+
+TEST(TextTable, EveryCharacterIsCompared)
+{
+    const std::wstring text = L"abcdefghi";
+    for (std::size_t length = 0; length <= text.size(); ++length)
+    {
+        EXPECT_TRUE(equalCharacters(text.data(), std::wstring(text).data(), length)) << length;
+        for (std::size_t place = 0; place < text.size(); ++place)
+        {
+            std::wstring other = text;
+            other[place] = static_cast<wchar_t>(other[place] | 0x8000);
+            EXPECT_EQ(equalCharacters(text.data(), other.data(), length), place >= length)
+                << length << ' ' << place;
+        }
+    }
+}
+
 TEST(TextTable, HashDependsOnTheTextOnly)
 {
     const std::wstring text = L"no-verbose";
@@ -102,8 +132,8 @@ TEST(TextTable, HashDependsOnTheTextOnly)
 
 TEST(TextTable, TextMadeFromNothingIsTheEmptyOne)
 {
-    EXPECT_EQ(kexa_3_3::HashedText(), kexa_3_3::HashedText(L""));
-    EXPECT_EQ(kexa_3_3::HashedText().hash(), hashOf(L""));
+    EXPECT_EQ(HashedText(), HashedText(L""));
+    EXPECT_EQ(HashedText().hash(), hashOf(L""));
 }
 
 // Names that differ in few characters, at different places, share out the slots of a table as
