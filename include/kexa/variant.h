@@ -149,19 +149,15 @@ public:
 
     s32_t kind() const noexcept { return m_type; }
 
-    // The following four are for the library, which keeps the words of many variants in its own
+    // The following three are for the library, which keeps the words of many variants in its own
     // records. A host has no use for them.
 
     // The memory that the block of the variant lies in; null where it has none.
-    const detail::shared_memory_t* memory() const noexcept
+    detail::shared_memory_t* memory() const noexcept
     {
         return owns_block() && m_value.m_data != nullptr ? detail::header_of(m_value.m_data)->memory
                                                          : nullptr;
     }
-
-    // Whether both hold a wide text and these lie in one piece of memory, so that they could trade
-    // their shares.
-    bool lies_beside(const variant_t& other) const noexcept;
 
     // Answers the data word and becomes null. The share of a block goes to the caller with it.
     u64_t detach() noexcept;

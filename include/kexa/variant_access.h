@@ -35,11 +35,6 @@ inline void variant_t::set_data(s32_t kind, const void* bytes, std::size_t lengt
     swap(copy);
 }
 
-inline bool variant_t::lies_beside(const variant_t& other) const noexcept
-{
-    return m_type == kind_wide_text && other.m_type == kind_wide_text && memory() == other.memory();
-}
-
 inline u64_t variant_t::detach() noexcept
 {
     u64_t word = 0;

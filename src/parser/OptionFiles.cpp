@@ -28,10 +28,10 @@ std::wstring_view reasonOf(FileProblem problem) noexcept
 }
 
 // The whole text of a value, zero characters included: a name that holds one names no file.
-std::wstring wholeText(const Occurrence& stored)
+std::wstring wholeText(const Occurrence& stored, SharedTexts& texts)
 {
     vexkit2::variant_t value;
-    stored.copyValueTo(value);
+    stored.copyValueTo(value, texts);
     const std::size_t units =
         value.kind() == vexkit2::kind_wide_text ? value.byte_length() / sizeof(wchar_t) : 0;
     return units == 0 ? std::wstring(stored.text) : std::wstring(stored.text, units - 1);
@@ -97,7 +97,7 @@ result_t OptionFiles::readAll(const ParseFile& parseFile, std::wstring& message)
         {
             continue;
         }
-        const std::wstring name = wholeText(occurrence);
+        const std::wstring name = wholeText(occurrence, m_options.texts());
         if (!m_read.insert(canonicalPath(name)).second)
         {
             continue;

@@ -43,7 +43,12 @@ inline void findBestMatch(BestMatch& match, const OptionIndex& index, const Hash
     const std::int64_t exact = index.findAnswering(typedName);
     if (exact != OptionIndex::none)
     {
-        match = {1, exact, typedName, false};
+        // One by one: an object to copy from would be written in words and read in larger ones,
+        // for which the processor waits.
+        match.count = 1;
+        match.option = exact;
+        match.name = typedName;
+        match.negated = false;
     }
     else
     {

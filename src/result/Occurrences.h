@@ -9,6 +9,7 @@
 
 #include "support/Arena.h"
 #include "support/Prefetch.h"
+#include "support/SharedTexts.h"
 
 namespace kexa_3_3
 {
@@ -25,23 +26,19 @@ struct Occurrence
     bool isValue = false;
 
     // Makes the target a copy of the value, which shares the block of a text.
+    //
+    // texts: made the stored texts. Its shares spare the atomic operations on theirs.
     // NOLINTNEXTLINE(bugprone-exception-escape): the copy shares a block that is there.
-    void copyValueTo(vexkit2::variant_t& target) const noexcept
+    void copyValueTo(vexkit2::variant_t& target, SharedTexts& texts) const noexcept
     {
-        using vexkit2::variant_t;
-        variant_t kept = variant_t::attach(kind, word);
-        const bool sharesNothing = kept.memory() == nullptr && target.memory() == nullptr;
-        // A walk over many texts stays in one piece of memory for a while. There a share of one
-        // text does as well for another, which spares two atomic operations.
-        if (sharesNothing || kept.lies_beside(target))
+        texts.reclaim(target);
+        vexkit2::variant_t copy = vexkit2::variant_t::attach(kind, word); // without a share yet
+        if (!texts.lend(copy) && copy.memory() != nullptr)
         {
-            kept.swap(target);
+            vexkit2::variant_t shared = copy;
+            static_cast<void>(shared.detach());
         }
-        else
-        {
-            target = kept;
-        }
-        static_cast<void>(kept.detach()); // the share that came out is the one that was lent
+        target.swap(copy);
     }
 };
 
@@ -106,13 +103,21 @@ public:
     // Needs room made before.
     void append(const Occurrence& occurrence) noexcept
     {
-        if (m_last->end == m_last->limit)
-        {
-            m_last = m_last->next;
-        }
-        *m_last->end++ = occurrence;
-        m_hasPositions |= occurrence.isPosition;
-        m_hasValues |= occurrence.isValue;
+        appendMade([&occurrence] { return occurrence; });
+    }
+
+    // The same for what `make` answers, which is made where it stays: copied, it would be written
+    // in words and read in larger ones, for which processors wait. Where `make` throws nothing
+    // changes.
+    template <class Make>
+    void appendMade(Make make)
+    {
+        Piece* const piece = m_last->end == m_last->limit ? m_last->next : m_last;
+        const Occurrence& made = *new (static_cast<void*>(piece->end)) Occurrence(make());
+        m_last = piece;
+        ++piece->end;
+        m_hasPositions |= made.isPosition;
+        m_hasValues |= made.isValue;
     }
 
     [[nodiscard]] bool hasPositions() const noexcept { return m_hasPositions; }

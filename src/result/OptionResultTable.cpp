@@ -132,7 +132,7 @@ void OptionResultTable::storeAnyValue(const OptionDescription& option, ValueEntr
 void OptionResultTable::storeNewValue(const OptionDescription& option, ValueEntry& value)
 {
     StoredOption& stored = prepareRecord(option);
-    stored.occurrences.append(adoptPaired(value));
+    stored.occurrences.appendMade([&] { return adoptPaired(value); });
     enter(option, stored);
 }
 
@@ -207,7 +207,7 @@ void OptionResultTable::remember(std::size_t tableIndex, StoredOption* stored)
 inline void OptionResultTable::append(StoredOption& target, ValueEntry& value)
 {
     target.occurrences.reserveMore(1, m_strings.memory());
-    target.occurrences.append(adoptPaired(value));
+    target.occurrences.appendMade([&] { return adoptPaired(value); });
 }
 
 void OptionResultTable::append(StoredOption& target, OptionResult& record)

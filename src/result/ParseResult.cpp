@@ -226,7 +226,7 @@ result_t ParseResult::answer(Value* out, const Occurrence* found) noexcept
         out->status = result_success;
         out->data = found->text;
         out->position = found->position;
-        found->copyValueTo(out->value);
+        found->copyValueTo(out->value, m_options.texts());
     }
     return result_success;
 }

@@ -59,7 +59,7 @@ private:
     [[nodiscard]] const Occurrence* nextInRange() noexcept;
     [[nodiscard]] const Occurrence* nextUnusual() noexcept;
     // NOLINTNEXTLINE(bugprone-exception-escape): as in the definition.
-    [[nodiscard]] static result_t answer(Value* out, const Occurrence* found) noexcept;
+    [[nodiscard]] result_t answer(Value* out, const Occurrence* found) noexcept;
     static result_t answerNothing(Value* out) noexcept;
 
     InlineBlock<6144> m_firstBlock; // holds what a command line of usual size leaves

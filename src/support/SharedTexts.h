@@ -60,6 +60,28 @@ public:
         return word;
     }
 
+    // The same for any variant, which then is null where its block was made here.
+    void reclaim(vexkit2::variant_t& text) noexcept
+    {
+        if (made(text))
+        {
+            static_cast<void>(takeBack(text));
+        }
+    }
+
+    // Gives a share to a variant that has none, where its block was made here. Answers whether it
+    // was.
+    [[nodiscard]] bool lend(const vexkit2::variant_t& text) noexcept
+    {
+        if (!made(text))
+        {
+            return false;
+        }
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-static-cast-downcast): it makes nothing else.
+        --static_cast<Region*>(text.memory())->held;
+        return true;
+    }
+
     // Gives a text up that was made here and that nobody shares. The room of the one made last is
     // used again.
     void discard(vexkit2::variant_t& text) noexcept

@@ -81,33 +81,4 @@ TEST(VariantShares, ObjectIsDestroyedByWhoeverTookTheWord)
     EXPECT_EQ(destroyed, 1);
 }
 
-TEST(VariantShares, OnlyCopiesOfATextLieBesideEachOther)
-{
-    const variant_t text(L"text");
-    const variant_t copy = text;
-    EXPECT_TRUE(text.lies_beside(copy));
-    EXPECT_TRUE(text.lies_beside(text));
-    EXPECT_FALSE(text.lies_beside(variant_t(L"text")));
-}
-
-TEST(VariantShares, NothingButWideTextsLieBesideEachOther)
-{
-    const variant_t text(L"text");
-    const variant_t narrow("text");
-    const std::vector<variant_t> others = {variant_t(),
-                                           variant_t(true),
-                                           variant_t(s32_t{0}),
-                                           variant_t(2.5),
-                                           narrow,
-                                           variant_t::reference(text.get<const wchar_t*>()),
-                                           variant_t::blob("x", 1),
-                                           variant_t::object(nullptr)};
-    for (const variant_t& other : others)
-    {
-        EXPECT_FALSE(text.lies_beside(other)) << other.kind();
-        EXPECT_FALSE(other.lies_beside(text)) << other.kind();
-        EXPECT_FALSE(other.lies_beside(other)) << other.kind();
-    }
-}
-
 } // namespace

@@ -23,7 +23,8 @@ struct StoredValue
 inline StoredValue storedValueOf(const kexa_3_3::Occurrence& occurrence)
 {
     StoredValue stored = {occurrence.text, {}, occurrence.position};
-    occurrence.copyValueTo(stored.value);
+    kexa_3_3::SharedTexts none;
+    occurrence.copyValueTo(stored.value, none);
     return stored;
 }
 

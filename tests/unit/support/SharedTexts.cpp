@@ -334,18 +334,37 @@ TEST(SharedTexts, TextsOfAnObjectThatLivedAtTheSameAddressAreOthers)
     EXPECT_TRUE(texts->made(texts->add(L"own")));
 }
 
-TEST(SharedTexts, TextsOfOneRegionLieBesideEachOther)
+TEST(SharedTexts, ShareThatWasTakenBackIsLentAgain)
+{
+    SharedTexts texts;
+    variant_t text = texts.add(L"text");
+    const std::uint64_t word = [&text]
+    {
+        variant_t copy = text;
+        return copy.detach(); // and its share, which nobody has then
+    }();
+    variant_t second = variant_t::attach(vexkit2::kind_wide_text, word);
+    texts.reclaim(second);
+    EXPECT_EQ(second.kind(), vexkit2::kind_null);
+    second = variant_t::attach(vexkit2::kind_wide_text, word);
+    EXPECT_TRUE(texts.lend(second));
+    texts.reclaim(text);
+    EXPECT_EQ(wholeText(second), L"text");
+}
+
+TEST(SharedTexts, WhatWasMadeElsewhereIsNeitherLentNorTakenBack)
 {
     SharedTexts texts;
     SharedTexts others;
-    variant_t first = texts.add(L"first");
-    variant_t second = texts.add(L"second");
-    EXPECT_TRUE(first.lies_beside(second));
-    EXPECT_TRUE(first.lies_beside(first));
-    EXPECT_FALSE(first.lies_beside(others.add(L"first")));
-    EXPECT_FALSE(first.lies_beside(variant_t(L"first")));
-    const variant_t behind = texts.add(std::wstring(5000, L'x')); // in a region of its own
-    EXPECT_FALSE(first.lies_beside(behind));
+    std::vector<variant_t> values = {variant_t(), variant_t(7), variant_t(L"text"),
+                                     variant_t::blob("x", 1), others.add(L"text")};
+    for (variant_t& value : values)
+    {
+        const variant_t before = value;
+        EXPECT_FALSE(texts.lend(value)) << value.kind();
+        texts.reclaim(value);
+        EXPECT_EQ(value, before) << value.kind();
+    }
 }
 
 TEST(SharedTexts, RoomOfADiscardedTextIsUsedAgain)
