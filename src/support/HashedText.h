@@ -83,10 +83,11 @@ template <class Ends>
 {
     for (; length >= 2; length -= 2, left += 2, right += 2)
     {
-        std::uint64_t pairs[2] = {};
-        std::memcpy(&pairs[0], left, 2 * sizeof(wchar_t));
-        std::memcpy(&pairs[1], right, 2 * sizeof(wchar_t));
-        if (pairs[0] != pairs[1])
+        std::uint64_t one = 0;
+        std::uint64_t other = 0;
+        std::memcpy(&one, left, 2 * sizeof(wchar_t));
+        std::memcpy(&other, right, 2 * sizeof(wchar_t));
+        if (one != other)
         {
             return false;
         }
