@@ -166,16 +166,32 @@ OptionResultTable::Place OptionResultTable::locate(const OptionDescription& opti
     return {known, false};
 }
 
-// Whether the record was made for these names, in this order, and all of them find it still. May
-// miss that a record is shared where names joined it later.
+// Whether just these names, each of them listed once, find the record.
 bool OptionResultTable::isSharedBy(const StoredOption& stored, Names names) const noexcept
 {
+    if (stored.names != names.size())
+    {
+        return false;
+    }
+    // Names that a record was made for follow each other.
     const auto isNameOf = [&stored](const HashedText& name, const Name& known)
     {
         return known.record == &stored && known.text == name;
     };
-    return stored.names == names.size() && m_size - stored.firstName >= names.size() &&
-           std::equal(names.begin(), names.end(), m_names + stored.firstName, isNameOf);
+    if (m_size - stored.firstName >= names.size() &&
+        std::equal(names.begin(), names.end(), m_names + stored.firstName, isNameOf))
+    {
+        return true;
+    }
+    // Others joined it later.
+    for (const HashedText* name = names.data(); name != names.data() + names.size(); ++name)
+    {
+        if (find(*name) != &stored || std::find(names.data(), name, *name) != name)
+        {
+            return false;
+        }
+    }
+    return true;
 }
 
 // Notes where an option comes from.

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <ostream>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -100,6 +101,30 @@ TEST_P(GrowthWithArguments, ParsingIsLinear)
             EXPECT_EQ(line.countValues(*result), line.expectedValues());
             return count;
         }));
+}
+
+// The names of an option are stored in anew where one joined those that a result knows, once.
+TEST(GrowthWithLateNames, ParsingTakesFarFewerBlocksThanArguments)
+{
+    constexpr std::size_t count = 16 * smallest;
+    const ParserPointer parser = declareOptions(0);
+    kexa_3_3::IOption* const option =
+        parser->addOption(L"a", L"", kexa_3_3::value_type_string, L"").option;
+    parser->addOption(L"other", L"", kexa_3_3::value_type_string, L"");
+    const ResultPointer result = makeResult(*parser);
+    const std::vector<const wchar_t*> first = {L"program", L"-a=value", L"-other=value"};
+    ASSERT_EQ(parser->parse(3, first.data(), result.get()), kexa_3_3::result_success);
+    option->addName(L"b");
+    std::vector<const wchar_t*> arguments(count, L"-a=value");
+    arguments.front() = L"program";
+    const AllocationCount allocations = countAllocations(
+        [&]
+        {
+            EXPECT_EQ(parser->parse(static_cast<int>(count), arguments.data(), result.get()),
+                      kexa_3_3::result_success);
+        });
+    EXPECT_LE(allocations.blocks, count / 256);
+    EXPECT_EQ(result->isPresent(L"b", 0, kexa_3_3::no_position), 1);
 }
 
 // Neither a value nor the text of one, nor a left-over argument, takes a block of its own.

@@ -41,6 +41,28 @@ public:
     IOption& option;
 };
 
+TEST(ResultContents, OptionDeclaredAfterManyHasValuesOfItsOwn)
+{
+    for (const int before : {30, 31, 32, 33, 64, 100})
+    {
+        Host host;
+        for (int number = 0; number < before; ++number)
+        {
+            host.addOption((L"o" + std::to_wstring(number)).c_str());
+        }
+        host.addOption(L"late");
+        EXPECT_EQ(host.parse({L"-o0=first"}), 0) << before;
+        EXPECT_EQ(host.parse({L"-late=second"}), 0) << before;
+        Value value;
+        EXPECT_EQ(host.result().getFirstValue(&value, L"late", 0, no_position), 0) << before;
+        EXPECT_STREQ(value.as<const wchar_t*>(), L"second") << before;
+        EXPECT_NE(host.result().getNextValue(&value, L"late"), 0) << before;
+        EXPECT_EQ(host.result().getFirstValue(&value, L"o0", 0, no_position), 0) << before;
+        EXPECT_STREQ(value.as<const wchar_t*>(), L"first") << before;
+        EXPECT_NE(host.result().getNextValue(&value, L"o0"), 0) << before;
+    }
+}
+
 TEST(ResultDefaults, DefaultIsGivenWhateverTheRange)
 {
     DefaultHost host;

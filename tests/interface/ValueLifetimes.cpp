@@ -198,6 +198,31 @@ std::vector<variant_t> declaredValues()
             variant_t::reference(L"not owned"), variant_t(25)};
 }
 
+TEST(ValueLifetimes, WhatAValueHeldBeforeIsReleasedOnce)
+{
+    Host host;
+    host.addOption(L"number", value_type_integer);
+    host.addOption(L"text");
+    ASSERT_EQ(host.parse({L"--number=1", L"--number=2", L"--text=t"}), 0);
+    const auto isReleasedBy = [](auto query)
+    {
+        int destroyed = 0;
+        Value value;
+        value.value = variant_t::object(new CountedObject(destroyed));
+        query(value);
+        return destroyed == 1;
+    };
+    IParseResult& result = host.result();
+    EXPECT_TRUE(isReleasedBy([&](Value& value)
+                             { result.getFirstValue(&value, L"number", 0, no_position); }));
+    EXPECT_TRUE(isReleasedBy([&](Value& value) { result.getNextValue(&value, L"number"); }));
+    EXPECT_TRUE(isReleasedBy([&](Value& value) { result.getNextValue(&value, L"number"); }));
+    EXPECT_TRUE(
+        isReleasedBy([&](Value& value) { result.getFirstValue(&value, L"text", 0, no_position); }));
+    EXPECT_TRUE(
+        isReleasedBy([&](Value& value) { result.getFirstValue(&value, L"none", 0, no_position); }));
+}
+
 TEST(ValueLifetimes, DefaultIsHandedBackAndOutlivesAll)
 {
     for (const variant_t& declared : declaredValues())

@@ -259,6 +259,41 @@ TEST_F(RegisteredOptions, OptionsStayWhereTheyAre)
     }
 }
 
+// Tables grow between declarations, whatever is left of their room.
+TEST(RegisteredOptionsGrowth, NamesOfOneDeclarationStayTogether)
+{
+    for (int before = 0; before < 140; ++before)
+    {
+        Garbage pool{4096};
+        RegisteredOptionStorage options(pool, L',');
+        const auto add = [&options](const std::wstring& names)
+        {
+            options.registerOption(names.c_str(), nullptr, L"", false, value_type_string, L"");
+            ASSERT_EQ(options.lastRegistration().status, 3) << toUtf8(names);
+        };
+        for (int number = 0; number < before; ++number)
+        {
+            add(L"n" + std::to_wstring(number));
+        }
+        add(L"first,second,3");
+        add(L"behind");
+        const auto index = static_cast<std::size_t>(before);
+        for (const wchar_t* const name : {L"first", L"second", L"3"})
+        {
+            ASSERT_EQ(options.find(name), &options[index]) << before;
+            ASSERT_EQ(options.index().matchPrefix(name).option, before) << before;
+        }
+        ASSERT_EQ(options.find(L"behind"), &options[index + 1]) << before;
+        for (std::size_t number = 0; number < index; ++number)
+        {
+            const std::wstring name = L"n" + std::to_wstring(number);
+            ASSERT_EQ(options.find(name), &options[number]) << before;
+            ASSERT_EQ(options[number].names.size(), 1U) << before;
+            ASSERT_TRUE(options[number].answersTo(name)) << before;
+        }
+    }
+}
+
 // Notes its number when it is destroyed.
 class Watched final : public vexkit2::polymorphic_t
 {
