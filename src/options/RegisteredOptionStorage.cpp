@@ -94,10 +94,10 @@ const Registration& RegisteredOptionStorage::registerOption(const wchar_t* names
     const NewOption made = makeOption(declared, orEmpty(description), isSwitch, valueType);
     if (keywords != nullptr || isSwitch)
     {
-        addKeywords(made.option, keywords, names);
+        addKeywords(*made.option, keywords, names);
     }
     enter(made, declared);
-    m_lastRegistration = {&made.option, registered};
+    m_lastRegistration = {made.option, registered};
     return m_lastRegistration;
 }
 
@@ -265,7 +265,7 @@ RegisteredOptionStorage::makeOption(const DeclaredNames& declared, std::wstring_
     option->description = {ownDescription, description.size()};
     option->separator = m_defaultSeparator;
     option->valueType = valueType;
-    return {*option, names, text};
+    return {option, names, text};
 }
 
 // Adds the keywords of an option that is about to be entered. The names of a switch are its
@@ -290,9 +290,9 @@ void RegisteredOptionStorage::addKeywords(OptionDescription& option, const wchar
 void RegisteredOptionStorage::enter(const NewOption& made, const DeclaredNames& declared) noexcept
 {
     const std::size_t tableIndex = m_options.size();
-    const bool boolean = made.option.valueType == value_type_boolean;
-    m_options.append(&made.option);
-    made.option.setPlace(m_index, tableIndex);
+    const bool boolean = made.option->valueType == value_type_boolean;
+    m_options.append(made.option);
+    made.option->setPlace(m_index, tableIndex);
     const NewName* found = m_names.data();
     for (HashedText* name = made.names; name != made.names + declared.count; ++name, ++found)
     {

@@ -107,7 +107,7 @@ private:
     // An option that is made and not yet known.
     struct NewOption
     {
-        OptionDescription& option;
+        OptionDescription* option;
         HashedText* names; // room for them
         wchar_t* text;     // the option's copy of all of them
     };

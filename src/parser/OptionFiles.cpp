@@ -37,7 +37,7 @@ std::wstring wholeText(const Occurrence& stored, SharedTexts& texts)
     return units == 0 ? std::wstring(stored.text) : std::wstring(stored.text, units - 1);
 }
 
-const StoredOption* resultOf(OptionResultTable& options) noexcept
+const StoredOption* resultOf(const OptionResultTable& options) noexcept
 {
     // The usual parse fills an empty result, where nothing needs to be looked for.
     return options.size() == 0 ? nullptr : options.find(std::wstring_view(option_file_name));

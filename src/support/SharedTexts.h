@@ -61,6 +61,7 @@ public:
     }
 
     // The same for any variant, which then is null where its block was made here.
+    // NOLINTNEXTLINE(readability-make-member-function-const): it changes the shares that are held.
     void reclaim(vexkit2::variant_t& text) noexcept
     {
         if (made(text))
@@ -71,6 +72,7 @@ public:
 
     // Gives a share to a variant that has none, where its block was made here. Answers whether it
     // was.
+    // NOLINTNEXTLINE(readability-make-member-function-const): it changes the shares that are held.
     [[nodiscard]] bool lend(const vexkit2::variant_t& text) noexcept
     {
         if (!made(text))
