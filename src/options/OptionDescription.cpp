@@ -93,6 +93,10 @@ void OptionDescription::enterInto(OptionIndex& index, std::size_t tableIndex)
         index.add(name, tableIndex, valueType == value_type_boolean);
     }
     notePositional();
+    if (holdsValues())
+    {
+        noteValues();
+    }
 }
 
 const AllowedValueIndex& OptionDescription::allowedValueIndex() const

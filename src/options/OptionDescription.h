@@ -88,9 +88,9 @@ public:
         return takesValue() && (marked || hasPositionalKeyword());
     }
 
-    // Makes the option known to an index, which from then on learns of further names and of the
-    // option becoming positional. table index: the option's place in the table of options, which
-    // no other has. Throws std::bad_alloc, and the index is unchanged then.
+    // Makes the option known to an index, which from then on learns of further names, of values and
+    // of the option becoming positional. table index: the option's place in the table of options,
+    // which no other has. Throws std::bad_alloc, and the index is unchanged then.
     void enterInto(OptionIndex& index, std::size_t tableIndex);
 
     // The same of an option whose names its caller adds to the index, and what made it positional.

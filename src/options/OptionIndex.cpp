@@ -3,9 +3,8 @@
 #include <algorithm>
 #include <atomic>
 #include <iterator>
-#include <memory>
-#include <new>
 #include <tuple>
+#include <utility>
 
 #include "support/Text.h"
 

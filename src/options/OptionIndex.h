@@ -96,8 +96,10 @@ public:
     // Whether some name was added twice, of one option or of two.
     [[nodiscard]] bool sharesNames() const noexcept { return m_sharesNames; }
 
-    // Makes room for `count` names more, which adding them needs. Throws std::bad_alloc.
+    // Whether `count` names more can be added.
     [[nodiscard]] bool hasRoom(std::size_t count) const noexcept { return m_names.hasRoom(count); }
+
+    // Makes room for `count` names more, which adding them needs. Throws std::bad_alloc.
     void reserve(std::size_t count)
     {
         if (!hasRoom(count)) [[unlikely]]

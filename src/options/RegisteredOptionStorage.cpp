@@ -30,7 +30,8 @@ constexpr std::size_t largest_table_in_pool = 2048; // bytes; larger ones are fr
     return character > L',' || (character != L',' && character != L'\0');
 }
 
-// Whether so many names, of which the last is given, are few enough. None are as good as refused.
+// Whether so many names are few enough. last: the last of them, which counts for the third only. No
+// name at all passes here: callers take a count of zero as refused.
 [[nodiscard]] bool acceptsNames(std::size_t count, std::wstring_view last) noexcept
 {
     return count < most_names || (count == most_names && last.size() <= longest_short_form);
@@ -184,7 +185,7 @@ void RegisteredOptionStorage::makeRoom()
 // are so short that each further one would take long beside it. Answers the number of names, none
 // where they are refused.
 //
-// end: set to the end of the text where they are not.
+// end: receives the end of the text; not set where a name is taken or there are too many.
 std::size_t RegisteredOptionStorage::findNames(const wchar_t* text, const wchar_t*& end)
 {
     NewName* name = m_names.data();
@@ -268,8 +269,8 @@ RegisteredOptionStorage::makeOption(const DeclaredNames& declared, std::wstring_
     return {option, names, text};
 }
 
-// Adds the keywords of an option that is about to be entered. The names of a switch are its
-// keywords too.
+// Adds the keywords of an option that is about to be entered, and notes where they make it
+// positional: nothing behind them fails. The names of a switch are its keywords too.
 void RegisteredOptionStorage::addKeywords(OptionDescription& option, const wchar_t* keywords,
                                           const wchar_t* names)
 {
@@ -277,7 +278,6 @@ void RegisteredOptionStorage::addKeywords(OptionDescription& option, const wchar
     if (!option.takesValue())
     {
         option.addKeywords(names);
-        ++m_actionCount;
     }
     if (option.isPositional())
     {
@@ -293,6 +293,7 @@ void RegisteredOptionStorage::enter(const NewOption& made, const DeclaredNames& 
     const bool boolean = made.option->valueType == value_type_boolean;
     m_options.append(made.option);
     made.option->setPlace(m_index, tableIndex);
+    m_actionCount += made.option->takesValue() ? 0U : 1U;
     const NewName* found = m_names.data();
     for (HashedText* name = made.names; name != made.names + declared.count; ++name, ++found)
     {

@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <memory_resource>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "kexa/option.h"
@@ -90,7 +89,7 @@ public:
     [[nodiscard]] std::vector<OptionGroup> groups() const;
 
 private:
-    // The names of a declaration, in front of m_names; none where they are refused.
+    // The names of a declaration as they were written. m_names begins with them one by one.
     struct DeclaredNames
     {
         std::wstring_view text;
@@ -135,7 +134,8 @@ private:
     OptionIndex m_index;
     std::size_t m_actionCount = 0;
 
-    std::array<NewName, most_names> m_names; // of the declaration at work
+    // Of the declaration at work; behind its names, what earlier ones left, which nobody looks at.
+    std::array<NewName, most_names> m_names;
 };
 
 } // namespace kexa_3_3

@@ -29,7 +29,7 @@ enum class ValueVerdict : std::uint8_t
 }
 
 // text:  what was given for the option.
-// value: receives the final value, unless rejected.
+// value: receives the final value; where the text is rejected it may hold anything.
 // texts: where a string value is made; null for a block of its own.
 // The replacement of a deprecated value is announced on standard error.
 [[nodiscard]] ValueVerdict checkValue(const OptionDescription& option, std::wstring_view text,

@@ -1,5 +1,7 @@
 #include "recognition/AbbreviationParser.h"
 
+#include <string_view>
+
 #include "kexa/option.h"
 
 #include "options/OptionDescription.h"
@@ -105,7 +107,7 @@ void AbbreviationParser::remove(ArgumentQueue& arguments) const
     arguments.removeFront();
 }
 
-// Makes the value of the argument, which is given, the value for the option.
+// given.value: the value in the same argument; becomes the one to store.
 bool AbbreviationParser::takeValue(GivenValue& given, bool& takesNext, ArgumentQueue& arguments,
                                    std::wstring& error) const
 {

@@ -1,7 +1,6 @@
 // Named options, recognised by full name or unambiguous beginning.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -29,8 +28,8 @@ public:
     [[nodiscard]] std::int32_t priority() const noexcept override { return -10; }
 
 private:
-    // Answer whether an option is given what it needs, and whether that is the next argument;
-    // otherwise `error` receives the message.
+    // Answer whether an option is given what it needs; otherwise `error` receives the message.
+    // takesNext: set where the value is the next argument, which then is used up too.
     [[nodiscard]] bool takeValue(GivenValue& given, bool& takesNext, ArgumentQueue& arguments,
                                  std::wstring& error) const;
     [[nodiscard]] bool takeNextArgument(GivenValue& given, ArgumentQueue& arguments,

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "options/OptionIndex.h"
+#include "support/HashedText.h"
 
 namespace kexa_3_3
 {

@@ -1,5 +1,7 @@
 #include "recognition/PositionalOptionsParser.h"
 
+#include <string_view>
+
 #include "kexa/parser.h"
 
 #include "options/OptionDescription.h"

@@ -2,7 +2,6 @@
 
 #include <limits>
 #include <ostream>
-#include <utility>
 
 #include "kexa/event_handler.h"
 
@@ -196,9 +195,10 @@ int ValueStoring::refuse(const GivenValue& given, std::wstring& error) const
 // Lets the event handlers, which there must be, see a value. Answers whether they accept it.
 bool ValueStoring::offer(const OptionDescription& option, ValueEntry& entry) const
 {
-    ValueRecord record = {option.primaryName().data(), std::move(entry.value), entry.position};
+    ValueRecord record = {option.primaryName().data(), vexkit2::variant_t(), entry.position};
+    record.value.swap(entry.value);
     const bool accepted = m_parser.owner()->onValueParsed(record.optionName, &record);
-    entry.value = std::move(record.value);
+    record.value.swap(entry.value);
     return accepted;
 }
 

@@ -32,7 +32,8 @@ std::size_t entriesOf(const OptionResult& record) noexcept
     return isPaired(record) ? record.values.size() : record.positions.size() + record.values.size();
 }
 
-// Hands the entries of the record to `append`, which does not throw.
+// Hands the entries of the record to `append`: its positions, and what `take` makes of its values.
+// Neither of the two throws.
 template <class Take, class Append>
 void forEachEntry(OptionResult& record, Take take, Append append) noexcept
 {
@@ -173,7 +174,8 @@ bool OptionResultTable::isSharedBy(const StoredOption& stored, Names names) cons
     {
         return false;
     }
-    // Names that a record was made for follow each other.
+    // Names that a record was made for usually follow each other. A name that left shows another
+    // record.
     const auto isNameOf = [&stored](const HashedText& name, const Name& known)
     {
         return known.record == &stored && known.text == name;
@@ -368,7 +370,8 @@ void OptionResultTable::growRecalled(std::size_t size)
     m_recalledSize = room;
 }
 
-// Gives entries other memory, or none. Throws std::bad_alloc, changing nothing.
+// Gives entries other memory, or none. They are no tables of their own: one size and one room serve
+// the names and their slots. Throws std::bad_alloc, changing nothing.
 //
 // used: how many entries to copy; before, room: how many there was and is memory for.
 template <class Entry>
@@ -481,6 +484,8 @@ void OptionResultTable::keep(OptionResult& record)
         }
     }
 }
+
+// The second step.
 Occurrence OptionResultTable::take(ValueEntry& entry) noexcept
 {
     return m_texts.made(entry.value)         ? takeText(entry)
@@ -518,6 +523,8 @@ void OptionResultTable::keepShare(ValueEntry& entry)
                      ? std::wstring_view(entry.value.get<const wchar_t*>(), entry.text.size())
                      : m_strings.keep(entry.text);
 }
+
+// Takes a value whose share was kept.
 Occurrence OptionResultTable::takeShare(ValueEntry& entry) noexcept
 {
     const Occurrence occurrence = takeWord(entry, entry.text.data());

@@ -41,7 +41,7 @@ class OptionResultTable
         };
     }
 
-    // Stands for a text whose hash is taken for all of it.
+    // Stands for the text with this hash: comparing it spares the characters.
     struct OnlyHash
     {
         std::uint64_t hash;
@@ -50,7 +50,7 @@ class OptionResultTable
             return left.hash == right.hash();
         }
     };
-    [[nodiscard]] auto hashOf() const noexcept
+    [[nodiscard]] auto onlyHashOf() const noexcept
     {
         return [this](std::uint32_t number)
         {
@@ -107,7 +107,7 @@ private:
     // it small: what it finds is the name, or else a rare other one with the same hash.
     [[nodiscard]] std::size_t slotOf(const HashedText& name) const noexcept
     {
-        const std::size_t slot = m_slots.slotOf(name, hashOf());
+        const std::size_t slot = m_slots.slotOf(name, onlyHashOf());
         const std::uint32_t number = m_slots.numberAt(slot);
         if (number == TextSlots::absent || m_names[number].text == name)
         {
@@ -115,6 +115,7 @@ private:
         }
         return slotBehind(slot, name);
     }
+    // name: by value, or the inlined search would have to keep it in memory for this rare call.
     [[nodiscard]] std::size_t slotBehind(std::size_t slot, HashedText name) const noexcept;
 
     [[nodiscard]] bool isOnlySource(const OptionIndex* index) const noexcept;

@@ -13,8 +13,11 @@ namespace kexa_3_3
 // occurred. Nothing of it needs to be destroyed: what it points at belongs to the result.
 struct StoredOption
 {
-    std::uint32_t names = 0;     // how many find it
-    std::uint32_t firstName = 0; // the number of the one that was first to
+    std::uint32_t names = 0; // how many find it
+
+    // Where to look for its names: the number of the first that was bound to it. Those that it was
+    // made for follow each other from there, unless some were known before, joined later or left.
+    std::uint32_t firstName = 0;
     Occurrences occurrences;
     const Occurrence* byDefault = nullptr; // null: no default, or one whose text is empty
 };

@@ -24,16 +24,16 @@ public:
     }
     void addLast(wchar_t character) noexcept { mix(static_cast<std::uint32_t>(character)); }
 
-    // Of all characters so far. The upper bits of the state, of which the lower ones are made here,
-    // depend on all of the last two characters.
+    // Of all characters so far. Rotated: the upper bits of the state depend on all of the last two
+    // characters, and tables use the lower ones of the hash.
     [[nodiscard]] std::uint64_t value() const noexcept { return m_state << 20 | m_state >> 44; }
 
 private:
     void mix(std::uint64_t value) noexcept
     {
-        // Its halves are the golden ratio's and the silver ratio's, one for each of two characters.
-        // Both spread small differences over the upper bits (D. E. Knuth, The Art of Computer
-        // Programming, 6.4).
+        // Its halves are the golden ratio's and the silver ratio's: where a character has 32 bits,
+        // one for each of the two. Both spread small differences over the upper bits (D. E. Knuth,
+        // The Art of Computer Programming, 6.4).
         constexpr std::uint64_t multiplier = 0x9E3779B96A09E667;
         m_state = (m_state ^ value) * multiplier;
     }
@@ -44,9 +44,9 @@ private:
 // The hash of the characters before the first that `ends` answers true for, and the place of that.
 // There must be one, or it answers true for the place behind the last.
 //
-// ends: takes a place of a character.
+// ends: takes a place of a character. Asked once of each, in order. What it throws is passed on.
 template <class Ends>
-[[nodiscard]] const wchar_t* hashUntil(const wchar_t* text, TextHash& hash, Ends ends) noexcept
+[[nodiscard]] const wchar_t* hashUntil(const wchar_t* text, TextHash& hash, Ends ends)
 {
     for (; !ends(text); text += 2)
     {

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdint>
 #include <memory>
 #include <memory_resource>
 #include <new>
@@ -71,6 +70,7 @@ public:
     [[nodiscard]] const T* end() const noexcept { return m_end; }
 
 private:
+    // Their numbers fit into 31 bits, which is what the tables' owners keep of them.
     static constexpr std::size_t most_values = 0x7FFFFFFF;
 
     [[nodiscard]] static constexpr std::size_t bytesOf(std::size_t count) noexcept

@@ -64,7 +64,10 @@ public:
     }
 
     // The number in a slot, or `absent` for a free one.
-    [[nodiscard]] std::uint32_t numberAt(std::size_t slot) const { return m_slots[slot].number; }
+    [[nodiscard]] std::uint32_t numberAt(std::size_t slot) const noexcept
+    {
+        return m_slots[slot].number;
+    }
 
     void put(std::size_t slot, std::uint32_t number, const HashedText& text) noexcept
     {

@@ -1,5 +1,6 @@
 // Where an option's value comes from: behind "=", behind white space, or the next argument.
 #include <locale>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -75,6 +76,34 @@ TEST(ValueInTheArgument, WhiteSpaceIsWhatTheGlobalLocaleSays)
     std::locale::global(before);
     EXPECT_EQ(outcome, Texts{L"v_w"});
     EXPECT_EQ(outcomeOf({L"--name_v"}), Texts{L"Unknown option: --name_v"});
+}
+
+// Refuses to say what "_" is.
+class UnderlineIsUnclear : public std::ctype<wchar_t>
+{
+protected:
+    bool do_is(mask classes, wchar_t character) const override
+    {
+        if (character == L'_')
+        {
+            throw std::runtime_error("unclear");
+        }
+        return std::ctype<wchar_t>::do_is(classes, character);
+    }
+};
+
+TEST(ValueInTheArgument, ExceptionOfTheGlobalLocaleIsReported)
+{
+    for (const wchar_t* const argument : {L"--_name", L"--n_ame", L"--name_"})
+    {
+        Host host;
+        host.addOption(L"name");
+        const std::locale before =
+            std::locale::global(std::locale(std::locale::classic(), new UnderlineIsUnclear));
+        const int code = host.parse({argument});
+        std::locale::global(before);
+        EXPECT_EQ(code, result_standard_exception) << toUtf8(argument);
+    }
 }
 
 TEST(ValueInTheNextArgument, NextArgumentIsTheValueAsItStands)
