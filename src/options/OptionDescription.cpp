@@ -84,21 +84,6 @@ bool OptionDescription::answersTo(std::wstring_view name) const noexcept
     return std::find(names.begin(), names.end(), name) != names.end();
 }
 
-void OptionDescription::enterInto(OptionIndex& index, std::size_t tableIndex)
-{
-    index.reserve(names.size());
-    setPlace(index, tableIndex);
-    for (const HashedText& name : names)
-    {
-        index.add(name, tableIndex, valueType == value_type_boolean);
-    }
-    notePositional();
-    if (holdsValues())
-    {
-        noteValues();
-    }
-}
-
 const AllowedValueIndex& OptionDescription::allowedValueIndex() const
 {
     std::unique_ptr<AllowedValueIndex>& index = restriction()->index.held;

@@ -88,12 +88,9 @@ public:
         return takesValue() && (marked || hasPositionalKeyword());
     }
 
-    // Makes the option known to an index, which from then on learns of further names, of values and
-    // of the option becoming positional. table index: the option's place in the table of options,
-    // which no other has. Throws std::bad_alloc, and the index is unchanged then.
-    void enterInto(OptionIndex& index, std::size_t tableIndex);
-
-    // The same of an option whose names its caller adds to the index, and what made it positional.
+    // Tells the option where it is entered. From then on the index learns of further names, of
+    // values and of the option becoming positional; of those so far it learns from the caller.
+    // tableIndex: the option's place in the table of options, which no other has.
     void setPlace(OptionIndex& index, std::size_t tableIndex) noexcept
     {
         m_place.held = {&index, tableIndex};

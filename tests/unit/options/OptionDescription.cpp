@@ -7,6 +7,7 @@
 #include "options/OptionIndex.h"
 #include "support/Garbage.h"
 
+#include "EnteredOption.h"
 #include "TextPrinting.h"
 
 namespace
@@ -243,7 +244,7 @@ TEST_F(OptionDescriptionCopy, IsADescriptionByItself)
     option.addName(L"name").addAllowedValue(variant_t(L"a"));
     option.valueType = 13;
     OptionIndex index;
-    option.enterInto(index, 3);
+    unit::enterOption(option, index, 3);
     ASSERT_NE(option.allowedValueIndex().findEqual(variant_t(L"a")), nullptr);
 
     OptionDescription copy(option);
@@ -286,7 +287,7 @@ TEST_F(OptionDescriptionBuilder, IndexKnowsAllOfManyLaterNames)
 {
     option.addName(L"name");
     OptionIndex index;
-    option.enterInto(index, 3);
+    unit::enterOption(option, index, 3);
     const std::size_t count = 100;
     while (option.names.size() < count)
     {
@@ -305,7 +306,7 @@ TEST_F(OptionDescriptionBuilder, IndexLearnsOfLaterChanges)
     option.addName(L"name");
     option.valueType = value_type_boolean;
     OptionIndex index;
-    option.enterInto(index, 3);
+    unit::enterOption(option, index, 3);
     EXPECT_EQ(index.findAnswering(L"name"), 3);
     EXPECT_EQ(index.findAnswering(L"no-name"), 3);
     EXPECT_EQ(index.firstPositional(), OptionIndex::none);

@@ -13,6 +13,7 @@
 #include "result/ParseResult.h"
 #include "support/Garbage.h"
 
+#include "../options/EnteredOption.h"
 #include "StoredContents.h"
 #include "TextPrinting.h"
 
@@ -139,7 +140,7 @@ public:
             }
             if (usual || below(4) != 0)
             {
-                m_options.back().enterInto(m_tables[usual ? 0 : below(2)], number);
+                unit::enterOption(m_options.back(), m_tables[usual ? 0 : below(2)], number);
             }
         }
     }
