@@ -9,7 +9,7 @@ namespace kexa_3_3
 
 void TextSlots::reserve(std::size_t count)
 {
-    constexpr std::size_t fewest_slots = 64;
+    constexpr std::size_t fewest_slots = 128;
     const std::size_t slots = std::bit_ceil(std::max(2 * count, fewest_slots));
     if (m_slots != nullptr && slots <= m_mask + 1)
     {
