@@ -1,6 +1,7 @@
 // BasicParser's way through the arguments of a parse.
 
 #include <exception>
+#include <optional>
 #include <span>
 #include <typeinfo>
 
@@ -11,6 +12,7 @@
 #include "recognition/AbbreviationParser.h"
 #include "recognition/ArgumentQueue.h"
 #include "recognition/PositionalOptionsParser.h"
+#include "recognition/Runs.h"
 #include "result/ParseResult.h"
 #include "support/Text.h"
 #include "support/Trace.h"
@@ -47,26 +49,38 @@ void switchTraceBy(ArgumentQueue& arguments)
     }
 }
 
-// The parser with the highest priority among those that claim the front argument, or null. They are
-// asked in the order given.
-template <class... Parsers>
-IArgumentParser* chooseParser(const ArgumentQueue& arguments,
+// Lets the parser with the highest priority among those that claim the front argument parse it.
+// They are asked in the order given. Answers the code, or nothing where none claims the argument.
+template <class Run, class... Parsers>
+std::optional<int> parseFront(ArgumentQueue& arguments, typename Run::Collector* collector,
                               const RegisteredOptionStorage& options, std::wstring& message,
                               Parsers&... chain)
 {
-    IArgumentParser* best = nullptr;
+    const IArgumentParser* best = nullptr;
     std::int32_t bestPriority = -99999999;
     const auto ask = [&](auto& parser) // by its own type, which spares virtual calls
     {
-        if (parser.recognize(arguments, options, message) == IArgumentParser::claimed &&
-            parser.priority() > bestPriority)
+        const int answer = parser.template recognizeIn<Run>(arguments, options, message);
+        if (answer == IArgumentParser::claimed && parser.priority() > bestPriority)
         {
             best = &parser;
             bestPriority = parser.priority();
         }
     };
     (ask(chain), ...);
-    return best;
+
+    std::optional<int> code;
+    const auto parseIfBest = [&](auto& parser)
+    {
+        if (&parser == best)
+        {
+            std::int64_t optionIndex = -1;
+            code =
+                parser.template parseIn<Run>(arguments, collector, options, optionIndex, message);
+        }
+    };
+    (parseIfBest(chain), ...);
+    return code;
 }
 
 } // namespace
@@ -162,19 +176,21 @@ result_t BasicParser::parseVector(std::wstring_view endMarker, ArgumentQueue& ar
     const auto flags = static_cast<std::uint32_t>(m_flags);
     PositionalOptionsParser positional(listeners(), m_strings, flags);
     AbbreviationParser abbreviation(listeners(), m_strings, flags);
-    IResultCollector* const collector = fillable(result);
+    ParseResult* const collector = fillable(result);
 
     while (!arguments.empty() && arguments.front() != endMarker)
     {
-        IArgumentParser* const parser =
-            chooseParser(arguments, m_options, message, positional, abbreviation);
-        if (parser != nullptr)
+        // Asked for each argument: a handler may switch it.
+        const std::optional<int> code =
+            traceIsOn() ? parseFront<AnyRun>(arguments, collector, m_options, message, positional,
+                                             abbreviation)
+                        : parseFront<UsualRun>(arguments, collector, m_options, message, positional,
+                                               abbreviation);
+        if (code.has_value())
         {
-            std::int64_t optionIndex = -1;
-            const int code = parser->parse(arguments, collector, m_options, optionIndex, message);
-            if (code != 0)
+            if (*code != 0)
             {
-                return static_cast<result_t>(code);
+                return static_cast<result_t>(*code);
             }
             continue;
         }
@@ -219,7 +235,7 @@ result_t BasicParser::collectNonparsingArguments(std::wstring_view endMarker,
         flags &= ~static_cast<std::uint32_t>(flag_no_hyphen_positional);
     }
     PositionalOptionsParser positional(listeners(), m_strings, flags);
-    IResultCollector* const collector = fillable(result);
+    ParseResult* const collector = fillable(result);
 
     if (!arguments.empty() && arguments.front() == endMarker)
     {

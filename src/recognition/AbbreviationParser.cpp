@@ -6,6 +6,8 @@
 
 #include "options/OptionDescription.h"
 #include "options/RegisteredOptionStorage.h"
+#include "recognition/Runs.h"
+#include "result/ParseResult.h"
 #include "support/Text.h"
 
 namespace kexa_3_3
@@ -20,6 +22,15 @@ constexpr int parsed = 0;
 constexpr int invalid = 2;
 constexpr std::size_t shortest_option = 2; // a hyphen and a character
 
+// Says that the value in the next argument may be none.
+std::wstring looksLikeAnOption(const GivenValue& given)
+{
+    return concatenate({L"Option '", given.option.primaryName(),
+                        L"' received value from the next argument: '", given.value,
+                        (L"', but it seems to be an option. Use '-option=value' declaration form "
+                         L"or make sure that value is not missed")});
+}
+
 } // namespace
 
 AbbreviationParser::AbbreviationParser(EventHandler* owner, Garbage& settings, std::uint32_t flags)
@@ -29,44 +40,60 @@ AbbreviationParser::AbbreviationParser(EventHandler* owner, Garbage& settings, s
 }
 
 int AbbreviationParser::recognize(const ArgumentQueue& arguments,
-                                  const RegisteredOptionStorage& options, std::wstring& /*message*/)
+                                  const RegisteredOptionStorage& options, std::wstring& message)
 {
-    const std::wstring_view argument = arguments.front();
-    trace(L": recognizing argument '", argument, L"'");
-    if (argument.size() < shortest_option || hyphenPrefixLength(argument, 0) == 0)
-    {
-        return declined;
-    }
-    m_split = splitOptionArgument(argument, m_whiteSpace);
-    findBestMatch(m_match, options.index(), m_split.name);
-    if (m_match.count == 1)
-    {
-        trace(L": best match option for '", m_split.name, L"' in argument '", argument, L"' is '",
-              m_match.prefix(), m_match.name, L"'");
-    }
-    else if (m_match.count > 1)
-    {
-        // Claimed all the same: parse reports the ambiguity.
-        m_candidateList = listCandidates(options.index(), m_split.name);
-        trace(L": failed to get best match for '", m_split.name, L"' in argument '", argument,
-              L"':", L"Ambiguous option, possible options are: ", viewOf(m_candidateList));
-    }
-    return m_match.count != 0 ? claimed : declined;
+    return recognizeIn<AnyRun>(arguments, options, message);
 }
 
 int AbbreviationParser::parse(ArgumentQueue& arguments, IResultCollector* collector,
                               const RegisteredOptionStorage& options, std::int64_t& optionIndex,
                               std::wstring& error)
 {
+    return parseIn<AnyRun>(arguments, collector, options, optionIndex, error);
+}
+
+template <class Run>
+int AbbreviationParser::recognizeIn(const ArgumentQueue& arguments,
+                                    const RegisteredOptionStorage& options,
+                                    std::wstring& /*message*/)
+{
+    const std::wstring_view argument = arguments.front();
+    trace<Run>(L": recognizing argument '", argument, L"'");
+    if (argument.size() < shortest_option || hyphenPrefixLength(argument, 0) == 0)
+    {
+        return declined;
+    }
+    splitOptionArgument(argument, m_whiteSpace, m_split);
+    findBestMatch(m_match, options.index(), m_split.name);
+    if (m_match.count == 1)
+    {
+        trace<Run>(L": best match option for '", m_split.name, L"' in argument '", argument,
+                   L"' is '", m_match.prefix(), m_match.name, L"'");
+    }
+    else if (m_match.count > 1) [[unlikely]]
+    {
+        // Claimed all the same: parse reports the ambiguity.
+        m_candidateList = listCandidates(options.index(), m_split.name);
+        trace<Run>(L": failed to get best match for '", m_split.name, L"' in argument '", argument,
+                   L"':", L"Ambiguous option, possible options are: ", viewOf(m_candidateList));
+    }
+    return m_match.count != 0 ? claimed : declined;
+}
+
+template <class Run>
+int AbbreviationParser::parseIn(ArgumentQueue& arguments, typename Run::Collector* collector,
+                                const RegisteredOptionStorage& options, std::int64_t& optionIndex,
+                                std::wstring& error)
+{
     const std::wstring_view argument = arguments.front();
     optionIndex = m_match.option;
-    trace(L": parsing argument '", argument, L"'");
-    if (m_split.name.empty() || m_split.name.front() == L'-')
+    trace<Run>(L": parsing argument '", argument, L"'");
+    if (m_split.name.empty() || m_split.name.front() == L'-') [[unlikely]]
     {
         error = concatenate({L"Unknown option '", argument, L"'"});
         return invalid;
     }
-    if (m_match.count > 1)
+    if (m_match.count > 1) [[unlikely]]
     {
         error = concatenate({L"Ambiguous option '", m_split.name, L"'",
                              formatArgumentContext(argument), L", could be: ", m_candidateList});
@@ -74,94 +101,108 @@ int AbbreviationParser::parse(ArgumentQueue& arguments, IResultCollector* collec
     }
 
     const OptionDescription& option = options[static_cast<std::size_t>(m_match.option)];
-    trace(L": detected option: '", option.primaryName(), L"'");
+    trace<Run>(L": detected option: '", option.primaryName(), L"'");
     if (m_split.hasValue)
     {
-        trace(L": value from the same argument taken: '", m_split.value, L"'");
+        trace<Run>(L": value from the same argument taken: '", m_split.value, L"'");
     }
-    GivenValue given = {option, m_split.value, argument, collector};
+    GivenValue given = {option, m_split.value, argument};
     bool takesNext = false;
-    if (!takeValue(given, takesNext, arguments, error))
+    if (!takeValue<Run>(given, takesNext, arguments, error)) [[unlikely]]
     {
-        trace(L": ", viewOf(error));
+        trace<Run>(L": ", viewOf(error));
         return invalid;
     }
-
+    if (owner() == nullptr)
+    {
+        trace<Run>(L": sent event on option parsed");
+        return storeAndRemove<Run>(given, collector, takesNext, arguments, error);
+    }
     reportOption(option);
-    trace(L": sent event on option parsed");
-    const int code = m_storing.store(given, error);
+    // From here on a handler may have switched the trace on.
+    trace<AnyRun>(L": sent event on option parsed");
+    return storeAndRemove<AnyRun>(given, collector, takesNext, arguments, error);
+}
+
+template <class Run>
+int AbbreviationParser::storeAndRemove(const GivenValue& given, typename Run::Collector* collector,
+                                       bool takesNext, ArgumentQueue& arguments,
+                                       std::wstring& error)
+{
+    const int code = m_storing.storeIn<Run>(given, collector, error);
     if (code == parsed)
     {
-        remove(arguments);
+        remove<Run>(arguments);
         if (takesNext)
         {
-            remove(arguments);
+            remove<Run>(arguments);
         }
     }
     return code;
 }
 
+template <class Run>
 void AbbreviationParser::remove(ArgumentQueue& arguments) const
 {
-    trace(L": removing argument: '", arguments.front(), L"'");
+    trace<Run>(L": removing argument: '", arguments.front(), L"'");
     arguments.removeFront();
 }
 
 // given.value: the value in the same argument; becomes the one to store.
+template <class Run>
 bool AbbreviationParser::takeValue(GivenValue& given, bool& takesNext, ArgumentQueue& arguments,
                                    std::wstring& error) const
 {
-    const OptionDescription& option = given.option;
     const bool empty = given.value.empty();
-    if (option.valueType == value_type_none)
+    if (given.option.valueType == value_type_none || given.option.valueType == value_type_boolean)
     {
-        if (!empty)
+        if (!empty) [[unlikely]]
         {
-            error = concatenate({L"Option '", option.primaryName(), L"'does not requires a value",
-                                 formatArgumentContext(given.argument)});
+            error = superfluousValue(given);
         }
-        return empty;
-    }
-    if (option.valueType == value_type_boolean)
-    {
-        given.value = m_match.beginsWithNegation() ? L"0"sv : L"1"sv;
-        if (!empty)
+        else if (given.option.valueType == value_type_boolean)
         {
-            error = concatenate({L"Option '", option.primaryName(),
-                                 L"' is boolean and should be declared in form '--option' "
-                                 L"or '--no-option'",
-                                 formatArgumentContext(given.argument)});
+            given.value = m_match.beginsWithNegation() ? L"0"sv : L"1"sv;
         }
         return empty;
     }
     takesNext = empty;
-    return !empty || takeNextArgument(given, arguments, error);
+    return !empty || takeNextArgument<Run>(given, arguments, error);
 }
 
+template <class Run>
 bool AbbreviationParser::takeNextArgument(GivenValue& given, ArgumentQueue& arguments,
                                           std::wstring& error) const
 {
-    trace(L": no value in the same argument, looking next");
-    if (!arguments.hasSecond())
+    trace<Run>(L": no value in the same argument, looking next");
+    if (!arguments.hasSecond()) [[unlikely]]
     {
         error = valueMissing(given);
         return false;
     }
     given.value = arguments.second();
-    if (!given.value.empty() && given.value.front() == L'-')
+    if (!given.value.empty() && given.value.front() == L'-') [[unlikely]]
     {
-        error = concatenate({L"Option '", given.option.primaryName(),
-                             L"' received value from the next argument: '", given.value,
-                             (L"', but it seems to be an option. Use '-option=value' declaration "
-                              L"form or make sure that value is not missed")});
+        error = looksLikeAnOption(given);
         return false;
     }
-    trace(L": got value from the next argument: '", given.value, L"'");
-    if (given.value.empty())
+    trace<Run>(L": got value from the next argument: '", given.value, L"'");
+    if (given.value.empty()) [[unlikely]]
     {
         error = valueMissing(given);
     }
     return !given.value.empty();
+}
+
+// Says that an option was given a value and takes none.
+std::wstring AbbreviationParser::superfluousValue(const GivenValue& given) const
+{
+    const std::wstring_view complaint =
+        given.option.valueType == value_type_none
+            ? L"'does not requires a value"sv
+            : L"' is boolean and should be declared in form '--option' or '--no-option'"sv;
+    return concatenate({L"Option '", given.option.primaryName(), complaint,
+                        formatArgumentContext(given.argument)});
 }
 
 std::wstring AbbreviationParser::valueMissing(const GivenValue& given) const
@@ -169,5 +210,17 @@ std::wstring AbbreviationParser::valueMissing(const GivenValue& given) const
     return concatenate({L"Option '", given.option.primaryName(), L"' requires a value",
                         formatArgumentContext(given.argument)});
 }
+
+template int AbbreviationParser::recognizeIn<AnyRun>(const ArgumentQueue&,
+                                                     const RegisteredOptionStorage&, std::wstring&);
+template int AbbreviationParser::parseIn<AnyRun>(ArgumentQueue&, IResultCollector*,
+                                                 const RegisteredOptionStorage&, std::int64_t&,
+                                                 std::wstring&);
+template int AbbreviationParser::recognizeIn<UsualRun>(const ArgumentQueue&,
+                                                       const RegisteredOptionStorage&,
+                                                       std::wstring&);
+template int AbbreviationParser::parseIn<UsualRun>(ArgumentQueue&, ParseResult*,
+                                                   const RegisteredOptionStorage&, std::int64_t&,
+                                                   std::wstring&);
 
 } // namespace kexa_3_3

@@ -25,17 +25,34 @@ public:
     int parse(ArgumentQueue& arguments, IResultCollector* collector,
               const RegisteredOptionStorage& options, std::int64_t& optionIndex,
               std::wstring& error) override;
+
+    // The two in a run of a kind.
+    template <class Run>
+    int recognizeIn(const ArgumentQueue& arguments, const RegisteredOptionStorage& options,
+                    std::wstring& message);
+    template <class Run>
+    int parseIn(ArgumentQueue& arguments, typename Run::Collector* collector,
+                const RegisteredOptionStorage& options, std::int64_t& optionIndex,
+                std::wstring& error);
+
     [[nodiscard]] std::int32_t priority() const noexcept override { return -10; }
 
 private:
     // Answer whether an option is given what it needs; otherwise `error` receives the message.
     // takesNext: set where the value is the next argument, which then is used up too.
+    template <class Run>
     [[nodiscard]] bool takeValue(GivenValue& given, bool& takesNext, ArgumentQueue& arguments,
                                  std::wstring& error) const;
+    template <class Run>
     [[nodiscard]] bool takeNextArgument(GivenValue& given, ArgumentQueue& arguments,
                                         std::wstring& error) const;
-    [[nodiscard]] std::wstring valueMissing(const GivenValue& given) const;
+    template <class Run>
+    [[nodiscard]] int storeAndRemove(const GivenValue& given, typename Run::Collector* collector,
+                                     bool takesNext, ArgumentQueue& arguments, std::wstring& error);
+    template <class Run>
     void remove(ArgumentQueue& arguments) const;
+    [[nodiscard]] std::wstring superfluousValue(const GivenValue& given) const;
+    [[nodiscard]] std::wstring valueMissing(const GivenValue& given) const;
 
     WhiteSpace m_whiteSpace;
     ValueStoring m_storing;

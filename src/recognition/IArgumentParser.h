@@ -56,11 +56,14 @@ public:
     [[nodiscard]] EventHandler* owner() const noexcept { return m_owner; }
     [[nodiscard]] std::wstring_view name() const noexcept { return m_name; }
 
-    // Writes a trace line that begins with the parser's name.
-    template <class... Pieces>
-    void trace(Pieces... pieces) const
+    // Writes a trace line that begins with the parser's name, where the run writes any.
+    template <class Run, class... Pieces>
+    void trace([[maybe_unused]] Pieces... pieces) const
     {
-        traceLine(Name{this}, pieces...);
+        if constexpr (Run::mayBeWatched)
+        {
+            traceLine(Name{this}, pieces...);
+        }
     }
 
 protected:

@@ -9,27 +9,37 @@ WhiteSpace::WhiteSpace()
 {
 }
 
-OptionArgument splitOptionArgument(std::wstring_view argument, const WhiteSpace& whiteSpace)
+HashedText WhiteSpace::nameByFacet(std::wstring_view text) const
+{
+    TextHash hash;
+    const wchar_t* const behind = text.data() + text.size();
+    const wchar_t* const end =
+        hashUntil(text.data(), hash,
+                  [this, behind](const wchar_t* place)
+                  { return place == behind || *place == L'=' || contains(*place); });
+    return HashedText({text.data(), static_cast<std::size_t>(end - text.data())}, hash);
+}
+
+void splitOptionArgument(std::wstring_view argument, const WhiteSpace& whiteSpace,
+                         OptionArgument& split)
 {
     std::size_t begin = hyphenPrefixLength(argument, 0);
     begin += hyphenPrefixLength(argument, begin);
     std::wstring_view rest = argument;
     rest.remove_prefix(begin);
-    OptionArgument split;
     split.name = whiteSpace.nameIn(rest);
-    const std::size_t end = split.name.size();
-    if (end == rest.size())
+    rest.remove_prefix(split.name.size());
+    split.hasValue = !rest.empty();
+    if (split.hasValue)
     {
-        return split;
+        const bool behindSpace = rest.front() != L'=';
+        rest.remove_prefix(1);
+        while (behindSpace && !rest.empty() && whiteSpace.contains(rest.front()))
+        {
+            rest.remove_prefix(1);
+        }
     }
-    split.hasValue = true;
     split.value = rest;
-    split.value.remove_prefix(end + 1);
-    while (rest[end] != L'=' && !split.value.empty() && whiteSpace.contains(split.value.front()))
-    {
-        split.value.remove_prefix(1);
-    }
-    return split;
 }
 
 } // namespace kexa_3_3

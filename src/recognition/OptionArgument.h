@@ -7,6 +7,7 @@
 
 #include "support/HashedText.h"
 #include "support/Text.h"
+#include "support/TwoCharacters.h"
 
 namespace kexa_3_3
 {
@@ -15,8 +16,12 @@ namespace kexa_3_3
 // processors replace it (figure, en, em dash, horizontal bar; swung dash).
 [[nodiscard]] constexpr bool isHyphen(wchar_t character) noexcept
 {
-    return character == 0x002D || (character >= 0x2012 && character <= 0x2015) ||
-           character == 0x2053;
+    constexpr wchar_t figure_dash = 0x2012;
+    if (character < figure_dash) // as next to all are
+    {
+        return character == 0x002D;
+    }
+    return character <= 0x2015 || character == 0x2053;
 }
 
 // 1 where the character at the position is a hyphen character, else 0.
@@ -31,24 +36,36 @@ class WhiteSpace
 {
 public:
     WhiteSpace();
+
     // What stands before the first character that is white space or "=", or the whole text.
     [[nodiscard]] HashedText nameIn(std::wstring_view text) const
     {
-        const wchar_t* const behind = text.data() + text.size();
+        if (m_facet != nullptr) [[unlikely]]
+        {
+            return nameByFacet(text);
+        }
+        const auto endsName = [](wchar_t character)
+        {
+            return character == L'=' || isClassicSpace(character);
+        };
+        const wchar_t* next = text.data();
+        const wchar_t* const behind = next + text.size();
         TextHash hash;
-        const wchar_t* const end =
-            m_facet != nullptr
-                ? hashUntil(text.data(), hash,
-                            [this, behind](const wchar_t* place)
-                            { return place == behind || *place == L'=' || contains(*place); })
-                // Letters stand above both in the basic set.
-                : hashUntil(text.data(), hash,
-                            [behind](const wchar_t* place) {
-                                return place == behind ||
-                                       (*place <= L'=' &&
-                                        (*place == L'=' || isClassicSpace(*place)));
-                            });
-        return HashedText(text.substr(0, static_cast<std::size_t>(end - text.data())), hash);
+        for (; behind - next >= 2; next += 2)
+        {
+            // Letters stand above all that ends a name, in the basic set.
+            if (anyBelow<L'=' + 1>(twoCharacters(next)) && (endsName(next[0]) || endsName(next[1])))
+            {
+                break;
+            }
+            hash.addTwo(next);
+        }
+        if (next != behind && !endsName(*next))
+        {
+            hash.addLast(*next);
+            ++next;
+        }
+        return HashedText({text.data(), static_cast<std::size_t>(next - text.data())}, hash);
     }
 
     [[nodiscard]] bool contains(wchar_t character) const
@@ -58,6 +75,8 @@ public:
     }
 
 private:
+    [[nodiscard]] HashedText nameByFacet(std::wstring_view text) const;
+
     std::locale m_locale;
     const std::ctype<wchar_t>* m_facet; // null for the classic locale
 };
@@ -71,7 +90,9 @@ struct OptionArgument
 
 // Skips up to two hyphen characters, then ends the name at the first "=" or white space. The value
 // is all that follows the "=", or all that follows the run of white space.
-[[nodiscard]] OptionArgument splitOptionArgument(std::wstring_view argument,
-                                                 const WhiteSpace& whiteSpace);
+//
+// split: receives the parts, which lie in the argument.
+void splitOptionArgument(std::wstring_view argument, const WhiteSpace& whiteSpace,
+                         OptionArgument& split);
 
 } // namespace kexa_3_3

@@ -6,6 +6,8 @@
 
 #include "options/OptionDescription.h"
 #include "options/RegisteredOptionStorage.h"
+#include "recognition/Runs.h"
+#include "result/ParseResult.h"
 
 namespace kexa_3_3
 {
@@ -21,10 +23,25 @@ PositionalOptionsParser::PositionalOptionsParser(EventHandler* owner, Garbage& s
 
 int PositionalOptionsParser::recognize(const ArgumentQueue& arguments,
                                        const RegisteredOptionStorage& options,
-                                       std::wstring& /*message*/)
+                                       std::wstring& message)
+{
+    return recognizeIn<AnyRun>(arguments, options, message);
+}
+
+int PositionalOptionsParser::parse(ArgumentQueue& arguments, IResultCollector* collector,
+                                   const RegisteredOptionStorage& options,
+                                   std::int64_t& optionIndex, std::wstring& error)
+{
+    return parseIn<AnyRun>(arguments, collector, options, optionIndex, error);
+}
+
+template <class Run>
+int PositionalOptionsParser::recognizeIn(const ArgumentQueue& arguments,
+                                         const RegisteredOptionStorage& options,
+                                         std::wstring& /*message*/)
 {
     const std::wstring_view argument = arguments.front();
-    trace(L": recognizing argument '", argument, L"'");
+    trace<Run>(L": recognizing argument '", argument, L"'");
     if (hasFlag(flag_no_hyphen_positional) && !argument.empty() && argument.front() == L'-')
     {
         return declined;
@@ -32,27 +49,63 @@ int PositionalOptionsParser::recognize(const ArgumentQueue& arguments,
     return options.index().firstPositional() != OptionIndex::none ? claimed : declined;
 }
 
-int PositionalOptionsParser::parse(ArgumentQueue& arguments, IResultCollector* collector,
-                                   const RegisteredOptionStorage& options,
-                                   std::int64_t& optionIndex, std::wstring& error)
+template <class Run>
+int PositionalOptionsParser::parseIn(ArgumentQueue& arguments, typename Run::Collector* collector,
+                                     const RegisteredOptionStorage& options,
+                                     std::int64_t& optionIndex, std::wstring& error)
 {
-    trace(L": parsing argument '", arguments.front(), L"'");
+    trace<Run>(L": parsing argument '", arguments.front(), L"'");
     optionIndex = options.index().firstPositional();
     const OptionDescription& option = options[static_cast<std::size_t>(optionIndex)];
-    trace(L": option is '", option.primaryName(), L"'");
+    trace<Run>(L": option is '", option.primaryName(), L"'");
     do
     {
         const std::wstring_view argument = arguments.front();
-        reportOption(option);
-        const int code = m_storing.store({option, argument, argument, collector}, error);
+        const GivenValue given = {option, argument, argument};
+        int code = 0;
+        if (owner() == nullptr)
+        {
+            code = storeAndRemove<Run>(given, collector, arguments, error);
+        }
+        else
+        {
+            reportOption(option);
+            // From here on a handler may have switched the trace on.
+            code = storeAndRemove<AnyRun>(given, collector, arguments, error);
+        }
         if (code != 0)
         {
             return code;
         }
-        trace(L": removing argument: '", argument, L"'");
-        arguments.removeFront();
     } while (!arguments.empty() && hasFlag(flag_positional_takes_rest));
     return 0;
 }
+
+template <class Run>
+int PositionalOptionsParser::storeAndRemove(const GivenValue& given,
+                                            typename Run::Collector* collector,
+                                            ArgumentQueue& arguments, std::wstring& error)
+{
+    const int code = m_storing.storeIn<Run>(given, collector, error);
+    if (code == 0)
+    {
+        trace<Run>(L": removing argument: '", given.argument, L"'");
+        arguments.removeFront();
+    }
+    return code;
+}
+
+template int PositionalOptionsParser::recognizeIn<AnyRun>(const ArgumentQueue&,
+                                                          const RegisteredOptionStorage&,
+                                                          std::wstring&);
+template int PositionalOptionsParser::parseIn<AnyRun>(ArgumentQueue&, IResultCollector*,
+                                                      const RegisteredOptionStorage&, std::int64_t&,
+                                                      std::wstring&);
+template int PositionalOptionsParser::recognizeIn<UsualRun>(const ArgumentQueue&,
+                                                            const RegisteredOptionStorage&,
+                                                            std::wstring&);
+template int PositionalOptionsParser::parseIn<UsualRun>(ArgumentQueue&, ParseResult*,
+                                                        const RegisteredOptionStorage&,
+                                                        std::int64_t&, std::wstring&);
 
 } // namespace kexa_3_3

@@ -21,9 +21,23 @@ public:
     int parse(ArgumentQueue& arguments, IResultCollector* collector,
               const RegisteredOptionStorage& options, std::int64_t& optionIndex,
               std::wstring& error) override;
+
+    // The two in a run of a kind.
+    template <class Run>
+    int recognizeIn(const ArgumentQueue& arguments, const RegisteredOptionStorage& options,
+                    std::wstring& message);
+    template <class Run>
+    int parseIn(ArgumentQueue& arguments, typename Run::Collector* collector,
+                const RegisteredOptionStorage& options, std::int64_t& optionIndex,
+                std::wstring& error);
+
     [[nodiscard]] std::int32_t priority() const noexcept override { return -100; }
 
 private:
+    template <class Run>
+    int storeAndRemove(const GivenValue& given, typename Run::Collector* collector,
+                       ArgumentQueue& arguments, std::wstring& error);
+
     ValueStoring m_storing;
 };
 

@@ -9,7 +9,8 @@
 #include "options/ValueCheck.h"
 #include "options/ValueText.h"
 #include "recognition/IArgumentParser.h"
-#include "result/IResultCollector.h"
+#include "recognition/Runs.h"
+#include "result/ParseResult.h"
 #include "support/Garbage.h"
 #include "support/SharedTexts.h"
 #include "support/Text.h"
@@ -59,6 +60,23 @@ std::wstring_view finalText(const OptionDescription& option, const vexkit2::vari
                                                    : option.owner->internText(valueText(value));
 }
 
+template <class Collector>
+SharedTexts* textsOf(Collector* collector) noexcept
+{
+    return collector == nullptr ? nullptr : &collector->texts();
+}
+
+template <class Collector>
+void storeWithoutValue(const GivenValue& given, Collector* collector)
+{
+    OptionResult record;
+    record.positions.push_back(nextSequenceNumber());
+    if (collector != nullptr)
+    {
+        static_cast<void>(collector->storeOption(given.option, record));
+    }
+}
+
 } // namespace
 
 std::int32_t nextSequenceNumber() noexcept
@@ -71,54 +89,69 @@ void setNextSequenceNumber(std::int32_t number) noexcept
     sequence_counter = number;
 }
 
-int ValueStoring::store(const GivenValue& given, std::wstring& error)
+int ValueStoring::store(const GivenValue& given, IResultCollector* collector, std::wstring& error)
 {
-    const int code = given.value.empty() ? storeWithoutValue(given) : storeValue(given, error);
-    if (code == stored)
-    {
-        m_parser.trace(L": stored option to result container.");
-    }
-    return code;
+    return storeIn<AnyRun>(given, collector, error);
 }
 
-int ValueStoring::storeWithoutValue(const GivenValue& given)
+template <class Run, class... Pieces>
+void ValueStoring::trace(Pieces... pieces) const
 {
-    OptionResult record;
-    record.positions.push_back(nextSequenceNumber());
-    if (given.collector != nullptr)
-    {
-        static_cast<void>(given.collector->storeOption(given.option, record));
-    }
-    return stored;
+    m_parser.trace<Run>(pieces...);
 }
 
-int ValueStoring::storeValue(const GivenValue& given, std::wstring& error)
+template <class Run>
+int ValueStoring::storeIn(const GivenValue& given, typename Run::Collector* collector,
+                          std::wstring& error)
 {
-    const wchar_t separator = given.option.separator; // which handlers may change later
-    m_parser.trace(L": adding values to result container:");
-    if (separator != 0)
+    int code = stored;
+    if (given.value.empty())
     {
-        m_parser.trace(L": using tokenizer on char: '", separator, L"'");
-        if (given.value.find(separator) != std::wstring_view::npos)
-        {
-            return storePieces(given, separator, error);
-        }
-        m_parser.trace(L": value is: '", given.value, L"'");
+        storeWithoutValue(given, collector);
     }
     else
     {
-        m_parser.trace(L": not using tokenizer");
+        code = storeValue<Run>(given, collector, error);
     }
-    ValueEntry entry;
-    const int code = accept(given.value, given, separator != 0, entry, error);
-    if (code == stored && given.collector != nullptr)
+    if (code == stored)
     {
-        static_cast<void>(given.collector->storeValue(given.option, entry));
+        trace<Run>(L": stored option to result container.");
     }
     return code;
 }
 
-int ValueStoring::storePieces(const GivenValue& given, wchar_t separator, std::wstring& error)
+template <class Run>
+int ValueStoring::storeValue(const GivenValue& given, typename Run::Collector* collector,
+                             std::wstring& error)
+{
+    const wchar_t separator = given.option.separator; // which handlers may change later
+    trace<Run>(L": adding values to result container:");
+    if (separator != 0)
+    {
+        trace<Run>(L": using tokenizer on char: '", separator, L"'");
+        if (containsCharacter(given.value, separator))
+        {
+            return storePieces<Run>(given, separator, collector, error);
+        }
+        trace<Run>(L": value is: '", given.value, L"'");
+    }
+    else
+    {
+        trace<Run>(L": not using tokenizer");
+    }
+    ValueEntry entry;
+    const int code =
+        accept<Run>(given.value, given, separator != 0, textsOf(collector), entry, error);
+    if (code == stored && collector != nullptr)
+    {
+        static_cast<void>(collector->storeValue(given.option, entry));
+    }
+    return code;
+}
+
+template <class Run>
+int ValueStoring::storePieces(const GivenValue& given, wchar_t separator,
+                              typename Run::Collector* collector, std::wstring& error)
 {
     OptionResult record;
     int code = stored;
@@ -127,47 +160,51 @@ int ValueStoring::storePieces(const GivenValue& given, wchar_t separator, std::w
                  {
                      if (code == stored)
                      {
-                         m_parser.trace(L": value is: '", piece, L"'");
+                         trace<Run>(L": value is: '", piece, L"'");
                          // Room first: behind a failure with a message nothing may throw.
                          record.positions.push_back(no_position);
                          ValueEntry& entry = record.values.emplace_back();
-                         code = accept(piece, given, true, entry, error);
+                         code = accept<Run>(piece, given, true, textsOf(collector), entry, error);
                          record.positions.back() = entry.position;
                      }
                  });
     if (record.values.empty())
     {
         error = noValueMessage(given.value, given.option);
-        m_parser.trace(L": ", viewOf(error));
+        trace<Run>(L": ", viewOf(error));
         return invalid;
     }
-    if (code == stored && given.collector != nullptr)
+    if (code == stored && collector != nullptr)
     {
-        static_cast<void>(given.collector->storeOption(given.option, record));
+        static_cast<void>(collector->storeOption(given.option, record));
     }
     return code;
 }
 
 // Converts a piece of the value, numbers it and offers it to the event handlers.
-int ValueStoring::accept(std::wstring_view piece, const GivenValue& given, bool isCut,
-                         ValueEntry& entry, std::wstring& error)
+template <class Run>
+int ValueStoring::accept(std::wstring_view piece, const GivenValue& given,
+                         [[maybe_unused]] bool isCut, SharedTexts* texts, ValueEntry& entry,
+                         std::wstring& error)
 {
-    SharedTexts* const texts = given.collector == nullptr ? nullptr : &given.collector->texts();
     const ValueVerdict verdict = checkValue(given.option, piece, entry.value, texts);
     if (isRejected(verdict)) [[unlikely]]
     {
         return reject(verdict, piece, given, error);
     }
     entry.position = takeSequenceNumber();
-    const bool accepted = m_parser.owner() == nullptr || offer(given.option, entry);
-    if (isCut)
+    if constexpr (Run::mayBeWatched)
     {
-        m_parser.trace(L": sent event on value parsed, option: '", PrimaryName{&given.option},
+        const bool accepted = m_parser.owner() == nullptr || offer(given.option, entry);
+        if (isCut)
+        {
+            trace<Run>(L": sent event on value parsed, option: '", PrimaryName{&given.option},
                        L"', value: '", piece, L"'");
-    }
-    if (!accepted) [[unlikely]]
-    {
-        return refuse(given, error);
+        }
+        if (!accepted)
+        {
+            return refuse(given, error);
+        }
     }
     entry.text = verdict == ValueVerdict::accepted ? piece : finalText(given.option, entry.value);
     return stored;
@@ -179,7 +216,7 @@ int ValueStoring::reject(ValueVerdict verdict, std::wstring_view piece, const Gi
 {
     error = concatenate({L"Value validation problem in argument '", given.argument, L"': ",
                          rejectionMessage(verdict, given.option, piece)});
-    m_parser.trace(L": ", viewOf(error));
+    trace<AnyRun>(L": ", viewOf(error));
     return invalid;
 }
 
@@ -188,7 +225,7 @@ int ValueStoring::refuse(const GivenValue& given, std::wstring& error) const
 {
     error = concatenate({L"Value '", given.value, L"' is not valid for option '",
                          given.option.primaryName(), L"' in argument '", given.argument, L"'"});
-    m_parser.trace(viewOf(error), L" One of the handler signaled the value is not valid.");
+    trace<AnyRun>(viewOf(error), L" One of the handler signaled the value is not valid.");
     return refused;
 }
 
@@ -201,5 +238,8 @@ bool ValueStoring::offer(const OptionDescription& option, ValueEntry& entry) con
     record.value.swap(entry.value);
     return accepted;
 }
+
+template int ValueStoring::storeIn<AnyRun>(const GivenValue&, IResultCollector*, std::wstring&);
+template int ValueStoring::storeIn<UsualRun>(const GivenValue&, ParseResult*, std::wstring&);
 
 } // namespace kexa_3_3

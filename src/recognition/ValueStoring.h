@@ -14,6 +14,7 @@ namespace kexa_3_3
 class IArgumentParser;
 class IResultCollector;
 class OptionDescription;
+class SharedTexts;
 enum class ValueVerdict : std::uint8_t;
 
 // The number that the next converted value will get. One counter for the whole process, unguarded:
@@ -27,9 +28,8 @@ void setNextSequenceNumber(std::int32_t number) noexcept;
 struct GivenValue
 {
     const OptionDescription& option;
-    std::wstring_view value;     // empty for an occurrence without values
-    std::wstring_view argument;  // the argument that is parsed, as messages name it
-    IResultCollector* collector; // what to store into; may be null
+    std::wstring_view value;    // empty for an occurrence without values
+    std::wstring_view argument; // the argument that is parsed, as messages name it
 };
 
 // Stores the occurrences that one argument parser finds.
@@ -38,17 +38,30 @@ class ValueStoring
 public:
     explicit ValueStoring(const IArgumentParser& parser) noexcept : m_parser(parser) {}
 
-    // error: receives the message of a failure.
+    // collector: what to store into; may be null.
+    // error:     receives the message of a failure.
     // Answers 0; 2 where the value does not convert or is not allowed; 1 where a handler refused
     // it. Nothing of the occurrence is stored then.
-    [[nodiscard]] int store(const GivenValue& given, std::wstring& error);
+    [[nodiscard]] int store(const GivenValue& given, IResultCollector* collector,
+                            std::wstring& error);
+
+    // The same in a run of a kind.
+    template <class Run>
+    [[nodiscard]] int storeIn(const GivenValue& given, typename Run::Collector* collector,
+                              std::wstring& error);
 
 private:
-    [[nodiscard]] static int storeWithoutValue(const GivenValue& given);
-    [[nodiscard]] int storeValue(const GivenValue& given, std::wstring& error);
-    [[nodiscard]] int storePieces(const GivenValue& given, wchar_t separator, std::wstring& error);
+    template <class Run, class... Pieces>
+    void trace(Pieces... pieces) const;
+    template <class Run>
+    [[nodiscard]] int storeValue(const GivenValue& given, typename Run::Collector* collector,
+                                 std::wstring& error);
+    template <class Run>
+    [[nodiscard]] int storePieces(const GivenValue& given, wchar_t separator,
+                                  typename Run::Collector* collector, std::wstring& error);
+    template <class Run>
     [[nodiscard]] int accept(std::wstring_view piece, const GivenValue& given, bool isCut,
-                             ValueEntry& entry, std::wstring& error);
+                             SharedTexts* texts, ValueEntry& entry, std::wstring& error);
     [[nodiscard]] int reject(ValueVerdict verdict, std::wstring_view piece, const GivenValue& given,
                              std::wstring& error) const;
     [[nodiscard]] int refuse(const GivenValue& given, std::wstring& error) const;

@@ -3,8 +3,9 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <string_view>
+
+#include "support/TwoCharacters.h"
 
 namespace kexa_3_3
 {
@@ -16,12 +17,7 @@ class TextHash
 {
 public:
     // two: points to the next two characters.
-    void addTwo(const wchar_t* two) noexcept
-    {
-        std::uint64_t value = 0;
-        std::memcpy(&value, two, 2 * sizeof(wchar_t));
-        mix(value);
-    }
+    void addTwo(const wchar_t* two) noexcept { mix(twoCharacters(two)); }
     void addLast(wchar_t character) noexcept { mix(static_cast<std::uint32_t>(character)); }
 
     // Of all characters so far. Rotated: the upper bits of the state depend on all of the last two
@@ -83,11 +79,7 @@ template <class Ends>
 {
     for (; length >= 2; length -= 2, left += 2, right += 2)
     {
-        std::uint64_t one = 0;
-        std::uint64_t other = 0;
-        std::memcpy(&one, left, 2 * sizeof(wchar_t));
-        std::memcpy(&other, right, 2 * sizeof(wchar_t));
-        if (one != other)
+        if (twoCharacters(left) != twoCharacters(right))
         {
             return false;
         }

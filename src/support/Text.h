@@ -54,6 +54,25 @@ void forEachPiece(std::wstring_view text, wchar_t separator, Use use)
     }
 }
 
+// Whether the character stands in a text. Meant for texts that mostly are short: the C library's
+// search would take longer to call than to run.
+[[nodiscard]] inline bool containsCharacter(std::wstring_view text, wchar_t character) noexcept
+{
+    constexpr std::size_t short_text = 16;
+    if (text.size() > short_text)
+    {
+        return text.find(character) != std::wstring_view::npos;
+    }
+    for (const wchar_t other : text)
+    {
+        if (other == character)
+        {
+            return true;
+        }
+    }
+    return false;
+}
+
 // White space of the classic locale. The same six characters everywhere, since the C runtimes
 // disagree on which wide characters beyond them are blank.
 [[nodiscard]] constexpr bool isClassicSpace(wchar_t character) noexcept

@@ -36,6 +36,11 @@ inline void switchTrace(bool on) noexcept
     internal::trace_switch = on;
 }
 
+[[nodiscard]] inline bool traceIsOn() noexcept
+{
+    return internal::trace_switch;
+}
+
 namespace internal
 {
 

@@ -59,7 +59,7 @@ TEST_F(ArgumentParserBase, KindWithoutANameTracesAsUndefined)
                   [&]
                   {
                       switchTrace(true);
-                      EXPECT_EQ(storing.store({option, L"", L"--out", nullptr}, error), 0);
+                      EXPECT_EQ(storing.store({option, L"", L"--out"}, nullptr, error), 0);
                   }),
               "UndefinedParser: stored option to result container.\n");
 }

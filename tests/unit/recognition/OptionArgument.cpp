@@ -12,9 +12,15 @@ namespace
 using kexa_3_3::HashedText;
 using kexa_3_3::hyphenPrefixLength;
 using kexa_3_3::OptionArgument;
-using kexa_3_3::splitOptionArgument;
 using kexa_3_3::WhiteSpace;
 using toolbox::toUtf8;
+
+OptionArgument split(std::wstring_view argument, const WhiteSpace& whiteSpace)
+{
+    OptionArgument parts = {HashedText(L"before"), L"before", argument.empty()};
+    kexa_3_3::splitOptionArgument(argument, whiteSpace, parts);
+    return parts;
+}
 
 TEST(HyphenPrefix, SixCharactersCount)
 {
@@ -56,11 +62,11 @@ void expectSplit(const std::vector<Row>& rows)
     const WhiteSpace whiteSpace;
     for (const Row& row : rows)
     {
-        const OptionArgument split = splitOptionArgument(row.argument, whiteSpace);
-        EXPECT_EQ(std::wstring(split.name), row.name) << toUtf8(row.argument);
-        EXPECT_EQ(split.name.hash(), HashedText(row.name).hash()) << toUtf8(row.argument);
-        EXPECT_EQ(split.hasValue, row.hasValue) << toUtf8(row.argument);
-        EXPECT_EQ(std::wstring(split.value), row.value) << toUtf8(row.argument);
+        const OptionArgument parts = split(row.argument, whiteSpace);
+        EXPECT_EQ(std::wstring(parts.name), row.name) << toUtf8(row.argument);
+        EXPECT_EQ(parts.name.hash(), HashedText(row.name).hash()) << toUtf8(row.argument);
+        EXPECT_EQ(parts.hasValue, row.hasValue) << toUtf8(row.argument);
+        EXPECT_EQ(std::wstring(parts.value), row.value) << toUtf8(row.argument);
     }
 }
 
@@ -173,10 +179,10 @@ TEST(WhiteSpace, StaysWhenTheLocaleThatGaveItIsGone)
     }();
     EXPECT_TRUE(odd.contains(L'_'));
     EXPECT_FALSE(odd.contains(L' '));
-    const OptionArgument split = splitOptionArgument(L"--name__ value", odd);
-    EXPECT_EQ(split.name, HashedText(L"name"));
-    EXPECT_EQ(split.value, L" value");
-    EXPECT_EQ(splitOptionArgument(L"--na me=x", odd).name, HashedText(L"na me"));
+    const OptionArgument parts = split(L"--name__ value", odd);
+    EXPECT_EQ(parts.name, HashedText(L"name"));
+    EXPECT_EQ(parts.value, L" value");
+    EXPECT_EQ(split(L"--na me=x", odd).name, HashedText(L"na me"));
 }
 
 } // namespace

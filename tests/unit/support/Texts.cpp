@@ -1,8 +1,12 @@
 // Small operations on wide texts.
+#include <cstddef>
+#include <limits>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "support/Text.h"
+#include "support/TwoCharacters.h"
 
 #include "TextPrinting.h"
 
@@ -34,6 +38,42 @@ TEST(Texts, ConcatenationKeepsEveryCharacter)
     EXPECT_EQ(concatenate({L"Option '", L"", L"name", L"'"}), L"Option 'name'");
     const std::wstring_view zero(L"a\0", 2);
     EXPECT_EQ(concatenate({zero, zero}), std::wstring(L"a\0a\0", 4));
+}
+
+TEST(Texts, ContainedCharacterIsFoundAtEveryPlace)
+{
+    for (const std::size_t length : {1U, 2U, 15U, 16U, 17U, 18U, 100U})
+    {
+        const std::wstring without(length, L'a');
+        EXPECT_FALSE(containsCharacter(without, L',')) << length;
+        for (std::size_t place = 0; place < length; ++place)
+        {
+            std::wstring with = without;
+            with[place] = L',';
+            EXPECT_TRUE(containsCharacter(with, L',')) << length << " " << place;
+            EXPECT_FALSE(containsCharacter(std::wstring_view(with).substr(0, place), L','));
+        }
+    }
+    EXPECT_FALSE(containsCharacter({}, L','));
+}
+
+// Around the limit, at the ends of the codes and beyond the sign.
+TEST(Texts, OneOfTwoCharactersBelowALimit)
+{
+    using Unsigned = std::make_unsigned_t<wchar_t>;
+    const Unsigned highest = std::numeric_limits<Unsigned>::max();
+    const Unsigned half = highest / 2;
+    const Unsigned codes[] = {0,    1,        L'=' - 1, L'=',     L'=' + 1,        L'a',
+                              0x7F, half - 1, half,     half + 1, half + 1 + L'=', highest};
+    for (const Unsigned first : codes)
+    {
+        for (const Unsigned second : codes)
+        {
+            const wchar_t two[] = {static_cast<wchar_t>(first), static_cast<wchar_t>(second)};
+            EXPECT_EQ(anyBelow<L'='>(twoCharacters(two)), first < L'=' || second < L'=')
+                << first << " " << second;
+        }
+    }
 }
 
 TEST(Texts, PiecesAreTheMaximalRunsWithoutTheSeparator)

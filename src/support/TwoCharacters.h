@@ -1,0 +1,30 @@
+// Two characters looked at as one number.
+#pragma once
+
+#include <cstdint>
+#include <cstring>
+
+namespace kexa_3_3
+{
+
+// Two wide characters that follow each other, side by side in a number whose other bits are zero.
+[[nodiscard]] inline std::uint64_t twoCharacters(const wchar_t* text) noexcept
+{
+    std::uint64_t two = 0;
+    std::memcpy(&two, text, 2 * sizeof(wchar_t));
+    return two;
+}
+
+// Whether at least one of two characters lies below a limit, itself below the upper half of the
+// codes. Where one does, subtracting the limit from it sets its highest bit, unless that was set
+// before; only then it may borrow from the other one ("Bit Twiddling Hacks", S. E. Anderson).
+template <wchar_t limit>
+[[nodiscard]] constexpr bool anyBelow(std::uint64_t two) noexcept
+{
+    constexpr unsigned bits = 8 * sizeof(wchar_t);
+    constexpr std::uint64_t ones = std::uint64_t{1} << bits | 1;
+    static_assert((static_cast<std::uint64_t>(limit) >> (bits - 1)) == 0);
+    return ((two - ones * static_cast<std::uint64_t>(limit)) & ~two & ones << (bits - 1)) != 0;
+}
+
+} // namespace kexa_3_3
