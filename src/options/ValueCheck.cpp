@@ -4,7 +4,6 @@
 
 #include "kexa/option.h"
 
-#include "options/OptionDescription.h"
 #include "options/ValueConversion.h"
 #include "options/ValueText.h"
 #include "options/ValueType.h"
@@ -58,9 +57,10 @@ void warnOfDeprecation(const OptionDescription& option, const variant_t& oldValu
     static_cast<void>(internal::writeConsole(internal::ConsoleTarget::error, warning));
 }
 
-// The check of a value that has the type of an option with allowed values.
-ValueVerdict checkAllowed(const OptionDescription& option, std::wstring_view text, variant_t& value,
-                          SharedTexts* texts)
+} // namespace
+
+ValueVerdict checkAllowedValue(const OptionDescription& option, std::wstring_view text,
+                               variant_t& value, SharedTexts* texts)
 {
     const AllowedValueIndex& candidates = option.allowedValueIndex();
     ValueVerdict verdict = ValueVerdict::accepted;
@@ -97,21 +97,6 @@ ValueVerdict checkAllowed(const OptionDescription& option, std::wstring_view tex
         verdict = ValueVerdict::changed;
     }
     return verdict;
-}
-
-} // namespace
-
-ValueVerdict checkValue(const OptionDescription& option, std::wstring_view text, variant_t& value,
-                        SharedTexts* texts)
-{
-    variant_t converted = convertValue(option.valueType, text, texts);
-    if (converted.kind() == vexkit2::kind_null)
-    {
-        return ValueVerdict::unreadable;
-    }
-    value.swap(converted);
-    return option.allowedValues().empty() ? ValueVerdict::accepted
-                                          : checkAllowed(option, text, value, texts);
 }
 
 std::wstring rejectionMessage(ValueVerdict verdict, const OptionDescription& option,

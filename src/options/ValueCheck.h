@@ -1,4 +1,4 @@
-// Converts the text of a value and checks it against the option's allowed and deprecated values.
+// Checks a value against the option's allowed and deprecated values.
 #pragma once
 
 #include <cstdint>
@@ -7,10 +7,11 @@
 
 #include "kexa/variant.h"
 
+#include "options/OptionDescription.h"
+
 namespace kexa_3_3
 {
 
-class OptionDescription;
 class SharedTexts;
 
 enum class ValueVerdict : std::uint8_t
@@ -28,12 +29,27 @@ enum class ValueVerdict : std::uint8_t
     return verdict >= ValueVerdict::unreadable;
 }
 
+// The same of an option with allowed values, and of a text that is readable.
+[[nodiscard]] ValueVerdict checkAllowedValue(const OptionDescription& option,
+                                             std::wstring_view text, vexkit2::variant_t& value,
+                                             SharedTexts* texts);
+
 // text:  what was given for the option.
-// value: receives the final value; where the text is rejected it may hold anything.
-// texts: where a string value is made; null for a block of its own.
+// value: what the text was converted to, null where it is unreadable. Receives the final value;
+//        where the text is rejected it may hold anything.
+// texts: where string values are made; null for blocks of their own.
 // The replacement of a deprecated value is announced on standard error.
-[[nodiscard]] ValueVerdict checkValue(const OptionDescription& option, std::wstring_view text,
-                                      vexkit2::variant_t& value, SharedTexts* texts = nullptr);
+[[nodiscard]] inline ValueVerdict checkValue(const OptionDescription& option,
+                                             std::wstring_view text, vexkit2::variant_t& value,
+                                             SharedTexts* texts)
+{
+    if (value.kind() == vexkit2::kind_null)
+    {
+        return ValueVerdict::unreadable;
+    }
+    return option.allowedValues().empty() ? ValueVerdict::accepted
+                                          : checkAllowedValue(option, text, value, texts);
+}
 
 // The message that says why a text was rejected.
 [[nodiscard]] std::wstring rejectionMessage(ValueVerdict verdict, const OptionDescription& option,

@@ -1,7 +1,9 @@
 #include "options/ValueConversion.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
+#include <cstddef>
 #include <limits>
 #include <optional>
 #include <string>
@@ -90,7 +92,7 @@ template <unsigned base>
 }
 
 template <class Integer>
-[[nodiscard]] variant_t convertDecimal(std::wstring_view text)
+[[nodiscard]] variant_t convertDecimal(std::wstring_view text, SharedTexts* /*texts*/)
 {
     constexpr auto highest = static_cast<u64_t>(std::numeric_limits<Integer>::max());
     text = trim(text);
@@ -107,7 +109,7 @@ template <class Integer>
     return variant_t(static_cast<Integer>(negative ? u64_t{0} - *number : *number));
 }
 
-[[nodiscard]] variant_t convertUnsigned64(std::wstring_view text)
+[[nodiscard]] variant_t convertUnsigned64(std::wstring_view text, SharedTexts* texts)
 {
     constexpr u64_t highest = std::numeric_limits<u64_t>::max();
     const auto isHexadecimal = [](std::wstring_view digits)
@@ -127,7 +129,7 @@ template <class Integer>
     }
     else
     {
-        return convertDecimal<u64_t>(text);
+        return convertDecimal<u64_t>(text, texts);
     }
     const std::optional<u64_t> number = readDigits<16>(digits, highest);
     return number ? variant_t(*number) : variant_t();
@@ -169,7 +171,7 @@ template <class Integer>
     return magnitude < 0;
 }
 
-[[nodiscard]] variant_t convertDouble(std::wstring_view text)
+[[nodiscard]] variant_t convertDouble(std::wstring_view text, SharedTexts* /*texts*/)
 {
     text = trim(text);
     const bool negative = takeSign(text);
@@ -208,19 +210,39 @@ template <class Integer>
     return variant_t(negative ? -number : number);
 }
 
-[[nodiscard]] variant_t convertBoolean(std::wstring_view text)
+[[nodiscard]] variant_t convertBoolean(std::wstring_view text, SharedTexts* /*texts*/)
 {
     using namespace std::string_view_literals;
-    if (text == L"1"sv || text == L"true"sv)
+    if (text.size() == 1 && (text.front() == L'1' || text.front() == L'0'))
     {
-        return variant_t(true);
+        return variant_t(text.front() == L'1');
     }
-    if (text == L"0"sv || text == L"false"sv)
-    {
-        return variant_t(false);
-    }
+    const bool isTrue = text == L"true"sv;
+    return isTrue || text == L"false"sv ? variant_t(isTrue) : variant_t();
+}
+
+[[nodiscard]] variant_t convertNothing(std::wstring_view /*text*/, SharedTexts* /*texts*/)
+{
     return variant_t();
 }
+
+// By value type. A table instead of a switch, in which the compiler would let the shortest of them
+// prepare and clear away what the longest needs.
+using Conversion = variant_t (*)(std::wstring_view text, SharedTexts* texts);
+constexpr std::size_t value_types = value_type_string + 1;
+constexpr auto conversions = []
+{
+    std::array<Conversion, value_types> table = {};
+    table.fill(convertNothing);
+    table[value_type_boolean] = convertBoolean;
+    table[value_type_integer] = convertDecimal<vexkit2::s32_t>;
+    table[value_type_unsigned] = convertDecimal<vexkit2::u32_t>;
+    table[value_type_integer64] = convertDecimal<vexkit2::s64_t>;
+    table[value_type_unsigned64] = convertUnsigned64;
+    table[value_type_double] = convertDouble;
+    table[value_type_string] = makeText;
+    return table;
+}();
 
 } // namespace
 
@@ -231,25 +253,8 @@ variant_t makeText(std::wstring_view text, SharedTexts* texts)
 
 variant_t convertValue(std::int32_t valueType, std::wstring_view text, SharedTexts* texts)
 {
-    switch (valueType)
-    {
-    case value_type_boolean:
-        return convertBoolean(text);
-    case value_type_integer:
-        return convertDecimal<vexkit2::s32_t>(text);
-    case value_type_unsigned:
-        return convertDecimal<vexkit2::u32_t>(text);
-    case value_type_integer64:
-        return convertDecimal<vexkit2::s64_t>(text);
-    case value_type_unsigned64:
-        return convertUnsigned64(text);
-    case value_type_double:
-        return convertDouble(text);
-    case value_type_string:
-        return makeText(text, texts);
-    default:
-        return variant_t();
-    }
+    const auto type = static_cast<std::uint32_t>(valueType); // a negative one is beyond all
+    return type < conversions.size() ? conversions[type](text, texts) : variant_t();
 }
 
 } // namespace kexa_3_3

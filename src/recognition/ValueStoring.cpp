@@ -7,6 +7,7 @@
 
 #include "options/OptionDescription.h"
 #include "options/ValueCheck.h"
+#include "options/ValueConversion.h"
 #include "options/ValueText.h"
 #include "recognition/IArgumentParser.h"
 #include "recognition/Runs.h"
@@ -139,9 +140,9 @@ int ValueStoring::storeValue(const GivenValue& given, typename Run::Collector* c
     {
         trace<Run>(L": not using tokenizer");
     }
-    ValueEntry entry;
-    const int code =
-        accept<Run>(given.value, given, separator != 0, textsOf(collector), entry, error);
+    SharedTexts* const texts = textsOf(collector);
+    ValueEntry entry = {given.value, convertValue(given.option.valueType, given.value, texts)};
+    const int code = accept<Run>(given.value, given, separator != 0, texts, entry, error);
     if (code == stored && collector != nullptr)
     {
         static_cast<void>(collector->storeValue(given.option, entry));
@@ -153,6 +154,7 @@ template <class Run>
 int ValueStoring::storePieces(const GivenValue& given, wchar_t separator,
                               typename Run::Collector* collector, std::wstring& error)
 {
+    SharedTexts* const texts = textsOf(collector);
     OptionResult record;
     int code = stored;
     forEachPiece(given.value, separator,
@@ -164,7 +166,9 @@ int ValueStoring::storePieces(const GivenValue& given, wchar_t separator,
                          // Room first: behind a failure with a message nothing may throw.
                          record.positions.push_back(no_position);
                          ValueEntry& entry = record.values.emplace_back();
-                         code = accept<Run>(piece, given, true, textsOf(collector), entry, error);
+                         entry.value = convertValue(given.option.valueType, piece, texts);
+                         entry.text = piece;
+                         code = accept<Run>(piece, given, true, texts, entry, error);
                          record.positions.back() = entry.position;
                      }
                  });
@@ -181,11 +185,11 @@ int ValueStoring::storePieces(const GivenValue& given, wchar_t separator,
     return code;
 }
 
-// Converts a piece of the value, numbers it and offers it to the event handlers.
+// Checks a converted piece of the value, numbers it and offers it to the event handlers.
 template <class Run>
-int ValueStoring::accept(std::wstring_view piece, const GivenValue& given,
-                         [[maybe_unused]] bool isCut, SharedTexts* texts, ValueEntry& entry,
-                         std::wstring& error)
+inline int ValueStoring::accept(std::wstring_view piece, const GivenValue& given,
+                                [[maybe_unused]] bool isCut, SharedTexts* texts, ValueEntry& entry,
+                                std::wstring& error)
 {
     const ValueVerdict verdict = checkValue(given.option, piece, entry.value, texts);
     if (isRejected(verdict)) [[unlikely]]
@@ -206,7 +210,10 @@ int ValueStoring::accept(std::wstring_view piece, const GivenValue& given,
             return refuse(given, error);
         }
     }
-    entry.text = verdict == ValueVerdict::accepted ? piece : finalText(given.option, entry.value);
+    if (verdict != ValueVerdict::accepted) [[unlikely]]
+    {
+        entry.text = finalText(given.option, entry.value);
+    }
     return stored;
 }
 
@@ -240,6 +247,8 @@ bool ValueStoring::offer(const OptionDescription& option, ValueEntry& entry) con
 }
 
 template int ValueStoring::storeIn<AnyRun>(const GivenValue&, IResultCollector*, std::wstring&);
+template int ValueStoring::storeIn<WatchedRun<ParseResult>>(const GivenValue&, ParseResult*,
+                                                            std::wstring&);
 template int ValueStoring::storeIn<UsualRun>(const GivenValue&, ParseResult*, std::wstring&);
 
 } // namespace kexa_3_3

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "options/OptionDescription.h"
+#include "options/ValueConversion.h"
 #include "support/Garbage.h"
 #include "support/SharedTexts.h"
 
@@ -19,6 +20,14 @@ using vexkit2::variant_t;
 
 const OptionGroup no_group;
 
+// As a parse treats a text.
+ValueVerdict convertAndCheck(const OptionDescription& option, std::wstring_view text,
+                             variant_t& value, SharedTexts* texts = nullptr)
+{
+    value = convertValue(option.valueType, text, texts);
+    return checkValue(option, text, value, texts);
+}
+
 class ValueCheck : public testing::Test
 {
 protected:
@@ -31,7 +40,7 @@ protected:
     ValueVerdict check(std::wstring_view text)
     {
         value = variant_t();
-        warning = toolbox::captureError([&] { verdict = checkValue(option, text, value); });
+        warning = toolbox::captureError([&] { verdict = convertAndCheck(option, text, value); });
         return verdict;
     }
 
@@ -98,7 +107,7 @@ TEST_F(ValueCheck, CompletedTextIsOwnedByTheValue)
         OptionDescription shortLived(no_group, false, pool);
         shortLived.valueType = value_type_string;
         shortLived.addAllowedValue(variant_t(L"fast"));
-        EXPECT_EQ(checkValue(shortLived, L"f", value), ValueVerdict::changed);
+        EXPECT_EQ(convertAndCheck(shortLived, L"f", value), ValueVerdict::changed);
     }
     EXPECT_EQ(value, variant_t(L"fast"));
 }
@@ -111,7 +120,7 @@ TEST_F(ValueCheck, AbbreviationLeavesNothingBesideItsCompletion)
     variant_t probe = texts.add(L"a text that takes the place of the next one");
     const wchar_t* const place = probe.get<const wchar_t*>();
     texts.discard(probe);
-    ASSERT_EQ(checkValue(option, L"auto", value, &texts), ValueVerdict::changed);
+    ASSERT_EQ(convertAndCheck(option, L"auto", value, &texts), ValueVerdict::changed);
     EXPECT_EQ(value, variant_t(L"automatic"));
     EXPECT_EQ(value.get<const wchar_t*>(), place);
 }
@@ -218,7 +227,7 @@ TEST(ValueCheckOfNamelessOption, MessagesHaveAnEmptyName)
     OptionDescription option(no_group, false, pool);
     option.valueType = value_type_double;
     variant_t value;
-    EXPECT_EQ(checkValue(option, L"x", value), ValueVerdict::unreadable);
+    EXPECT_EQ(convertAndCheck(option, L"x", value), ValueVerdict::unreadable);
     EXPECT_EQ(rejectionMessage(ValueVerdict::unreadable, option, L"x"),
               L"Option '' can not parse 'x' value, requires a type 'double' here.");
 }
