@@ -59,25 +59,37 @@ int AbbreviationParser::recognizeIn(const ArgumentQueue& arguments,
 {
     const std::wstring_view argument = arguments.front();
     trace<Run>(L": recognizing argument '", argument, L"'");
-    if (argument.size() < shortest_option || hyphenPrefixLength(argument, 0) == 0)
+    if (!findMatch(argument, options.index()))
     {
         return declined;
     }
-    splitOptionArgument(argument, m_whiteSpace, m_split);
-    findBestMatch(m_match, options.index(), m_split.name);
     if (m_match.count == 1)
     {
         trace<Run>(L": best match option for '", m_split.name, L"' in argument '", argument,
                    L"' is '", m_match.prefix(), m_match.name, L"'");
     }
-    else if (m_match.count > 1) [[unlikely]]
+    else
     {
-        // Claimed all the same: parse reports the ambiguity.
-        m_candidateList = listCandidates(options.index(), m_split.name);
         trace<Run>(L": failed to get best match for '", m_split.name, L"' in argument '", argument,
                    L"':", L"Ambiguous option, possible options are: ", viewOf(m_candidateList));
     }
-    return m_match.count != 0 ? claimed : declined;
+    return claimed;
+}
+
+// Answers whether the argument names an option, or several: parse then reports the ambiguity.
+bool AbbreviationParser::findMatch(std::wstring_view argument, const OptionIndex& index)
+{
+    if (argument.size() < shortest_option || hyphenPrefixLength(argument, 0) == 0)
+    {
+        return false;
+    }
+    splitOptionArgument(argument, m_whiteSpace, m_split);
+    findBestMatch(m_match, index, m_split.name);
+    if (m_match.count > 1) [[unlikely]]
+    {
+        m_candidateList = listCandidates(index, m_split.name);
+    }
+    return m_match.count != 0;
 }
 
 template <class Run>
@@ -120,8 +132,9 @@ int AbbreviationParser::parseIn(ArgumentQueue& arguments, typename Run::Collecto
     }
     reportOption(option);
     // From here on a handler may have switched the trace on.
-    trace<AnyRun>(L": sent event on option parsed");
-    return storeAndRemove<AnyRun>(given, collector, takesNext, arguments, error);
+    using Watched = WatchedRun<typename Run::Collector>;
+    trace<Watched>(L": sent event on option parsed");
+    return storeAndRemove<Watched>(given, collector, takesNext, arguments, error);
 }
 
 template <class Run>

@@ -38,6 +38,8 @@ public:
     [[nodiscard]] std::int32_t priority() const noexcept override { return -10; }
 
 private:
+    [[nodiscard]] bool findMatch(std::wstring_view argument, const OptionIndex& index);
+
     // Answer whether an option is given what it needs; otherwise `error` receives the message.
     // takesNext: set where the value is the next argument, which then is used up too.
     template <class Run>

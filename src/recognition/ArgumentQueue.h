@@ -83,22 +83,18 @@ private:
 
     [[nodiscard]] bool fetch(std::wstring_view& argument)
     {
-        if (m_source != nullptr)
-        {
-            return m_source->next(argument);
-        }
         if (m_left == 0)
         {
-            return false;
+            return m_source != nullptr && m_source->next(argument);
         }
         --m_left;
         argument = viewOf(*m_next++);
         return true;
     }
 
-    ArgumentSource* m_source = nullptr; // null: the pointers follow
+    ArgumentSource* m_source = nullptr; // or null, and
     const wchar_t* const* m_next = nullptr;
-    std::size_t m_left = 0;
+    std::size_t m_left = 0; // of the pointers
     std::wstring_view m_front;
     std::wstring_view m_behindFront;
     Second m_second = Second::unknown;

@@ -20,26 +20,4 @@ HashedText WhiteSpace::nameByFacet(std::wstring_view text) const
     return HashedText({text.data(), static_cast<std::size_t>(end - text.data())}, hash);
 }
 
-void splitOptionArgument(std::wstring_view argument, const WhiteSpace& whiteSpace,
-                         OptionArgument& split)
-{
-    std::size_t begin = hyphenPrefixLength(argument, 0);
-    begin += hyphenPrefixLength(argument, begin);
-    std::wstring_view rest = argument;
-    rest.remove_prefix(begin);
-    split.name = whiteSpace.nameIn(rest);
-    rest.remove_prefix(split.name.size());
-    split.hasValue = !rest.empty();
-    if (split.hasValue)
-    {
-        const bool behindSpace = rest.front() != L'=';
-        rest.remove_prefix(1);
-        while (behindSpace && !rest.empty() && whiteSpace.contains(rest.front()))
-        {
-            rest.remove_prefix(1);
-        }
-    }
-    split.value = rest;
-}
-
 } // namespace kexa_3_3

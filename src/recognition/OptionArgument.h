@@ -92,7 +92,26 @@ struct OptionArgument
 // is all that follows the "=", or all that follows the run of white space.
 //
 // split: receives the parts, which lie in the argument.
-void splitOptionArgument(std::wstring_view argument, const WhiteSpace& whiteSpace,
-                         OptionArgument& split);
+inline void splitOptionArgument(std::wstring_view argument, const WhiteSpace& whiteSpace,
+                                OptionArgument& split)
+{
+    std::size_t begin = hyphenPrefixLength(argument, 0);
+    begin += hyphenPrefixLength(argument, begin);
+    std::wstring_view rest = argument;
+    rest.remove_prefix(begin);
+    split.name = whiteSpace.nameIn(rest);
+    rest.remove_prefix(split.name.size());
+    split.hasValue = !rest.empty();
+    if (split.hasValue)
+    {
+        const bool behindSpace = rest.front() != L'=';
+        rest.remove_prefix(1);
+        while (behindSpace && !rest.empty() && whiteSpace.contains(rest.front()))
+        {
+            rest.remove_prefix(1);
+        }
+    }
+    split.value = rest;
+}
 
 } // namespace kexa_3_3

@@ -71,7 +71,8 @@ int PositionalOptionsParser::parseIn(ArgumentQueue& arguments, typename Run::Col
         {
             reportOption(option);
             // From here on a handler may have switched the trace on.
-            code = storeAndRemove<AnyRun>(given, collector, arguments, error);
+            using Watched = WatchedRun<typename Run::Collector>;
+            code = storeAndRemove<Watched>(given, collector, arguments, error);
         }
         if (code != 0)
         {
