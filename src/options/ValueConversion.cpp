@@ -48,22 +48,17 @@ using vexkit2::variant_t;
     return negative;
 }
 
-// The value of a digit, or a number that is no digit in any base.
+// The value of a digit, or a number that is no digit in the base, 10 or 16.
+template <unsigned base>
 [[nodiscard]] constexpr unsigned digitValue(wchar_t character) noexcept
 {
-    if (character >= L'0' && character <= L'9')
+    const auto decimal = static_cast<unsigned>(character) - static_cast<unsigned>(L'0');
+    if (base == 10 || decimal < 10)
     {
-        return static_cast<unsigned>(character - L'0');
+        return decimal;
     }
-    if (character >= L'a' && character <= L'f')
-    {
-        return static_cast<unsigned>(character - L'a') + 10;
-    }
-    if (character >= L'A' && character <= L'F')
-    {
-        return static_cast<unsigned>(character - L'A') + 10;
-    }
-    return 255;
+    const auto above = (static_cast<unsigned>(character) | 0x20U) - static_cast<unsigned>(L'a');
+    return above < 6 ? above + 10 : 255;
 }
 
 // One or more digits and nothing else, up to and including `highest`.
@@ -79,7 +74,7 @@ template <unsigned base>
     std::size_t count = 0;
     for (const wchar_t character : digits)
     {
-        const unsigned digit = digitValue(character);
+        const unsigned digit = digitValue<base>(character);
         const bool fits = count < always_fit || number <= (Limits::max() - digit) / base;
         if (digit >= base || !fits)
         {

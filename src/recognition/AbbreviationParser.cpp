@@ -125,7 +125,7 @@ int AbbreviationParser::parseIn(ArgumentQueue& arguments, typename Run::Collecto
         trace<Run>(L": ", viewOf(error));
         return invalid;
     }
-    if (owner() == nullptr)
+    if (owner() == nullptr) [[likely]]
     {
         trace<Run>(L": sent event on option parsed");
         return storeAndRemove<Run>(given, collector, takesNext, arguments, error);

@@ -63,7 +63,7 @@ int PositionalOptionsParser::parseIn(ArgumentQueue& arguments, typename Run::Col
         const std::wstring_view argument = arguments.front();
         const GivenValue given = {option, argument, argument};
         int code = 0;
-        if (owner() == nullptr)
+        if (owner() == nullptr) [[likely]]
         {
             code = storeAndRemove<Run>(given, collector, arguments, error);
         }

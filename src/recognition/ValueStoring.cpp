@@ -44,16 +44,6 @@ std::wstring noValueMessage(std::wstring_view value, const OptionDescription& op
         {L"No value parsed in argument '", value, L"' for option '", option.primaryName(), L"'"});
 }
 
-// Looked up only when it is written.
-struct PrimaryName
-{
-    const OptionDescription* option;
-    friend std::wostream& operator<<(std::wostream& out, PrimaryName name)
-    {
-        return out << name.option->primaryName();
-    }
-};
-
 // The text of a value that is not the one written. A string value holds it already.
 std::wstring_view finalText(const OptionDescription& option, const vexkit2::variant_t& value)
 {
@@ -200,12 +190,11 @@ inline int ValueStoring::accept(std::wstring_view piece, const GivenValue& given
     if constexpr (Run::mayBeWatched)
     {
         const bool accepted = m_parser.owner() == nullptr || offer(given.option, entry);
-        if (isCut)
+        if (isCut && traceIsOn()) [[unlikely]]
         {
-            trace<Run>(L": sent event on value parsed, option: '", PrimaryName{&given.option},
-                       L"', value: '", piece, L"'");
+            traceOffer(given, piece);
         }
-        if (!accepted)
+        if (!accepted) [[unlikely]]
         {
             return refuse(given, error);
         }
@@ -215,6 +204,12 @@ inline int ValueStoring::accept(std::wstring_view piece, const GivenValue& given
         entry.text = finalText(given.option, entry.value);
     }
     return stored;
+}
+
+void ValueStoring::traceOffer(const GivenValue& given, std::wstring_view piece) const
+{
+    trace<AnyRun>(L": sent event on value parsed, option: '", given.option.primaryName(),
+                  L"', value: '", piece, L"'");
 }
 
 // Says that a piece of the value is none for the option.

@@ -65,6 +65,7 @@ private:
     [[nodiscard]] int reject(ValueVerdict verdict, std::wstring_view piece, const GivenValue& given,
                              std::wstring& error) const;
     [[nodiscard]] int refuse(const GivenValue& given, std::wstring& error) const;
+    void traceOffer(const GivenValue& given, std::wstring_view piece) const;
     [[nodiscard]] bool offer(const OptionDescription& option, ValueEntry& entry) const;
 
     const IArgumentParser& m_parser;
