@@ -34,8 +34,8 @@ void* Arena::takeFromNewBlock(std::size_t size)
         return addBlock(size);
     }
     std::byte* const block = addBlock(m_nextBlock);
-    m_free = block + size;
-    m_left = m_nextBlock - size;
+    m_free = block + inWords(size);
+    m_left = m_nextBlock - inWords(size);
     m_nextBlock = std::min(2 * m_nextBlock, std::max(m_nextBlock, largest_shared_block));
     return block;
 }

@@ -16,11 +16,12 @@ class Arena final : public std::pmr::memory_resource
 public:
     // firstBlock: how many bytes to take from the heap when memory is first asked for. Later blocks
     // grow up to a limit, so that what is left unused at the end stays a small part of the whole.
-    explicit Arena(std::size_t firstBlock) noexcept : m_nextBlock(firstBlock) {}
+    explicit Arena(std::size_t firstBlock) noexcept : m_nextBlock(inWords(firstBlock)) {}
 
-    // first: taken from before the heap is asked for anything. Lives longer than the arena.
+    // first: taken from before the heap is asked for anything. Aligned as memory of the heap is.
+    // Lives longer than the arena.
     explicit Arena(std::span<std::byte> first) noexcept
-        : m_free(first.data()), m_left(first.size()), m_nextBlock(2 * first.size())
+        : m_free(first.data()), m_left(first.size() & ~(word - 1)), m_nextBlock(2 * m_left)
     {
     }
     ~Arena() override;
@@ -32,16 +33,16 @@ public:
     // Throws std::bad_alloc, changing nothing.
     [[nodiscard]] void* take(std::size_t size, std::size_t alignment)
     {
-        const std::size_t padding =
-            // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): an address is asked for.
-            (~reinterpret_cast<std::uintptr_t>(m_free) + 1) & (alignment - 1);
-        if (m_left < size + padding)
+        // Pieces are whole words, so what asks for no greater alignment begins where the last ends.
+        const std::size_t padding = alignment <= word ? 0 : paddingOf(alignment);
+        if (m_left < padding || m_left - padding < size)
         {
             return takeFromNewBlock(size);
         }
         std::byte* const taken = m_free + padding;
-        m_free = taken + size;
-        m_left -= size + padding;
+        const std::size_t used = padding + inWords(size);
+        m_free += used;
+        m_left -= used;
         return taken;
     }
 
@@ -51,6 +52,20 @@ private:
     {
         Block* previous;
     };
+
+    static constexpr std::size_t word = alignof(std::uint64_t);
+
+    [[nodiscard]] static constexpr std::size_t inWords(std::size_t size) noexcept
+    {
+        return (size + word - 1) & ~(word - 1);
+    }
+
+    // How many bytes to leave out in front of a piece.
+    [[nodiscard]] std::size_t paddingOf(std::size_t alignment) const noexcept
+    {
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): an address is asked for.
+        return (~reinterpret_cast<std::uintptr_t>(m_free) + 1) & (alignment - 1);
+    }
 
     [[nodiscard]] void* takeFromNewBlock(std::size_t size);
     [[nodiscard]] std::byte* addBlock(std::size_t size);
@@ -66,8 +81,8 @@ private:
     }
 
     std::byte* m_free = nullptr; // in the newest shared block
-    std::size_t m_left = 0;
-    std::size_t m_nextBlock;
+    std::size_t m_left = 0;      // bytes, in whole words
+    std::size_t m_nextBlock;     // likewise
     Block* m_blocks = nullptr;
 };
 
