@@ -29,14 +29,14 @@ public:
     // Whether `count` values more can be appended.
     [[nodiscard]] bool hasRoom(std::size_t count) const noexcept
     {
-        return static_cast<std::size_t>(m_limit - m_end) >= count;
+        return m_room - m_size >= count;
     }
 
     // How many values to make room for where there is none for `count` more: so many that appending
     // stays cheap. smallest: at least these.
     [[nodiscard]] std::size_t nextRoom(std::size_t count, std::size_t smallest) const noexcept
     {
-        return std::max({size() + count, 2 * room(), smallest});
+        return std::max(m_size + count, std::max(2 * m_room, smallest));
     }
 
     // Makes room for `room` values in all, more than there is. Throws std::bad_alloc, changing
@@ -49,25 +49,21 @@ public:
         }
         void* const memory = m_memory->allocate(bytesOf(room), alignof(T));
         T* const values = static_cast<T*>(memory);
-        T* const end = std::uninitialized_copy_n(m_values, size(), values);
+        std::uninitialized_copy_n(m_values, m_size, values);
         free();
         m_values = values;
-        m_end = end;
-        m_limit = values + room;
+        m_room = room;
     }
 
     // Needs room.
-    void append(const T& value) noexcept { std::construct_at(m_end++, value); }
+    void append(const T& value) noexcept { std::construct_at(m_values + m_size++, value); }
 
-    [[nodiscard]] bool empty() const noexcept { return m_end == m_values; }
-    [[nodiscard]] std::size_t size() const noexcept
-    {
-        return static_cast<std::size_t>(m_end - m_values);
-    }
+    [[nodiscard]] bool empty() const noexcept { return m_size == 0; }
+    [[nodiscard]] std::size_t size() const noexcept { return m_size; }
     [[nodiscard]] T& operator[](std::size_t index) noexcept { return m_values[index]; }
     [[nodiscard]] const T& operator[](std::size_t index) const noexcept { return m_values[index]; }
     [[nodiscard]] const T* begin() const noexcept { return m_values; }
-    [[nodiscard]] const T* end() const noexcept { return m_end; }
+    [[nodiscard]] const T* end() const noexcept { return m_values + m_size; }
 
 private:
     // Their numbers fit into 31 bits, which is what the tables' owners keep of them.
@@ -77,22 +73,18 @@ private:
     {
         return count * sizeof(T); // NOLINT(bugprone-sizeof-expression): of a pointer where T is one
     }
-    [[nodiscard]] std::size_t room() const noexcept
-    {
-        return static_cast<std::size_t>(m_limit - m_values);
-    }
     void free() noexcept
     {
         if (m_values != nullptr)
         {
-            m_memory->deallocate(m_values, bytesOf(room()), alignof(T));
+            m_memory->deallocate(m_values, bytesOf(m_room), alignof(T));
         }
     }
 
     std::pmr::memory_resource* m_memory;
     T* m_values = nullptr;
-    T* m_end = nullptr;
-    T* m_limit = nullptr; // of the room
+    std::size_t m_size = 0;
+    std::size_t m_room = 0; // for so many values
 };
 
 } // namespace kexa_3_3
