@@ -53,7 +53,7 @@ template <class T>
 RegisteredOptionStorage::RegisteredOptionStorage(Garbage& owner, wchar_t defaultSeparator)
     : m_defaultSeparator(defaultSeparator), m_owner(owner),
       m_memory(owner.memory(), largest_table_in_pool), m_options(m_memory), m_groups(m_memory),
-      m_groupNames(m_memory), m_index(m_memory)
+      m_groupSlots(m_memory), m_index(m_memory)
 {
 }
 
@@ -151,25 +151,27 @@ bool RegisteredOptionStorage::isOfLastGroup(const wchar_t* declared) const noexc
 // Finds the group that is declared, and adds it to the list where it is new.
 void RegisteredOptionStorage::changeGroup(const wchar_t* declared)
 {
-    const std::wstring_view groupText(declared);
-    const std::size_t colon = std::min(groupText.find(L':'), groupText.size());
-    const HashedText name(groupText.substr(0, colon));
-    const std::uint32_t number = m_groupNames.find(name);
-    if (number != TextTable::absent)
-    {
-        m_lastGroup = m_groups[number];
-        return;
-    }
-    m_groupNames.reserve(1);
+    TextHash hash;
+    const wchar_t* const end = hashUntil(
+        declared, hash, [](const wchar_t* place) { return *place == L':' || *place == L'\0'; });
+    const HashedText name(std::wstring_view(declared, end), hash);
     if (!m_groups.hasRoom(1))
     {
-        m_groups.grow(m_groups.nextRoom(1, expected_groups));
+        const std::size_t room = m_groups.nextRoom(1, expected_groups);
+        m_groupSlots.reserve(room);
+        m_groups.grow(room);
     }
-    const std::wstring_view text = groupText.substr(std::min(colon + 1, groupText.size()));
+    const std::size_t slot = m_groupSlots.slotOf(name, groupNameOf());
+    if (!m_groupSlots.isFree(slot))
+    {
+        m_lastGroup = m_groups[m_groupSlots.numberAt(slot)];
+        return;
+    }
+    const std::wstring_view text(*end == L':' ? end + 1 : end);
     void* const memory = m_owner.memory().take(sizeof(OptionGroup), alignof(OptionGroup));
     m_lastGroup = new (memory) OptionGroup(m_owner.keep(name), m_owner.keep(text));
+    m_groupSlots.put(slot, static_cast<std::uint32_t>(m_groups.size()), name);
     m_groups.append(m_lastGroup);
-    m_groupNames.insert(HashedText(name, m_lastGroup->first));
 }
 
 void RegisteredOptionStorage::makeRoom()

@@ -15,7 +15,7 @@
 #include "support/HashedText.h"
 #include "support/PlainTable.h"
 #include "support/SmallBlocks.h"
-#include "support/TextTable.h"
+#include "support/TextSlots.h"
 
 namespace kexa_3_3
 {
@@ -111,6 +111,14 @@ private:
         wchar_t* text;     // the option's copy of all of them
     };
 
+    [[nodiscard]] auto groupNameOf() const noexcept
+    {
+        return [this](std::uint32_t number)
+        {
+            return m_groups[number]->first;
+        };
+    }
+
     [[nodiscard]] bool isOfLastGroup(const wchar_t* declared) const noexcept;
     void changeGroup(const wchar_t* declared);
     void makeRoom();
@@ -129,7 +137,7 @@ private:
     PlainTable<const OptionGroup*> m_groups;  // in memory of m_owner too
     Registration m_lastRegistration = {nullptr, 1};
 
-    TextTable m_groupNames;                   // numbers are indices of m_groups
+    TextSlots m_groupSlots;                   // numbers are indices of m_groups
     const OptionGroup* m_lastGroup = nullptr; // declared last
     OptionIndex m_index;
     std::size_t m_actionCount = 0;

@@ -1,7 +1,7 @@
-// The table that numbers texts.
-#include "support/TextTable.h"
+// The slots of numbered texts, and the hashes by which they are found.
+#include "support/TextSlots.h"
 
-#include <map>
+#include <memory_resource>
 #include <string>
 #include <vector>
 
@@ -14,15 +14,60 @@ namespace
 using kexa_3_3::equalCharacters;
 using kexa_3_3::HashedText;
 using kexa_3_3::hashOf;
-using kexa_3_3::TextTable;
+using kexa_3_3::TextSlots;
 
-constexpr std::uint32_t absent = TextTable::absent;
+constexpr std::uint32_t absent = TextSlots::absent;
 
-std::uint32_t add(TextTable& table, std::wstring_view text)
+// Texts that are numbered in the order of their coming, as users of slots number theirs.
+class NumberedTexts
 {
-    table.reserve(1);
-    return table.insert(text);
-}
+    [[nodiscard]] auto textOf() const
+    {
+        return [this](std::uint32_t number)
+        {
+            return m_texts[number];
+        };
+    }
+
+public:
+    NumberedTexts() { m_slots.reserve(1); }
+
+    void reserve(std::size_t count)
+    {
+        m_texts.reserve(m_texts.size() + count);
+        m_slots.reserve(m_texts.size() + count);
+    }
+
+    [[nodiscard]] std::uint32_t find(std::wstring_view text) const
+    {
+        return m_slots.numberAt(m_slots.slotOf(HashedText(text), textOf()));
+    }
+
+    // Needs room. Answers the number of the text.
+    std::uint32_t insert(std::wstring_view text)
+    {
+        const HashedText hashed(text);
+        const std::size_t slot = m_slots.slotOf(hashed, textOf());
+        if (m_slots.isFree(slot))
+        {
+            m_slots.put(slot, static_cast<std::uint32_t>(m_texts.size()), hashed);
+            m_texts.push_back(hashed);
+        }
+        return m_slots.numberAt(slot);
+    }
+    std::uint32_t add(std::wstring_view text)
+    {
+        m_slots.reserve(m_texts.size() + 1);
+        return insert(text);
+    }
+
+    [[nodiscard]] std::size_t size() const { return m_texts.size(); }
+    [[nodiscard]] std::wstring_view text(std::size_t number) const { return m_texts[number]; }
+
+private:
+    std::vector<HashedText> m_texts;
+    TextSlots m_slots{*std::pmr::new_delete_resource()};
+};
 
 // Texts whose hashes agree in their lowest bits, so that they meet in one slot of every table that
 // has at most `slots` of them.
@@ -40,33 +85,33 @@ std::vector<std::wstring> textsMeetingAt(std::uint64_t slot, std::uint64_t slots
     return texts;
 }
 
-TEST(TextTable, NumbersRunInTheOrderOfInsertion)
+TEST(TextSlots, NumbersRunInTheOrderOfInsertion)
 {
-    TextTable table;
-    EXPECT_EQ(add(table, L"b"), 0U);
-    EXPECT_EQ(add(table, L"a"), 1U);
-    EXPECT_EQ(add(table, L""), 2U);
+    NumberedTexts table;
+    EXPECT_EQ(table.add(L"b"), 0U);
+    EXPECT_EQ(table.add(L"a"), 1U);
+    EXPECT_EQ(table.add(L""), 2U);
     EXPECT_EQ(table.size(), 3U);
     EXPECT_EQ(table.text(0), L"b");
     EXPECT_EQ(table.text(1), L"a");
     EXPECT_EQ(table.text(2), L"");
 }
 
-TEST(TextTable, KnownTextKeepsItsNumberAndItsPlace)
+TEST(TextSlots, KnownTextKeepsItsNumber)
 {
     const std::wstring first = L"name";
     const std::wstring second = L"name";
-    TextTable table;
-    add(table, L"other");
-    EXPECT_EQ(add(table, first), 1U);
-    EXPECT_EQ(add(table, second), 1U);
+    NumberedTexts table;
+    table.add(L"other");
+    EXPECT_EQ(table.add(first), 1U);
+    EXPECT_EQ(table.add(second), 1U);
     EXPECT_EQ(table.size(), 2U);
     EXPECT_EQ(table.text(1).data(), first.data());
 }
 
-TEST(TextTable, EmptyTableFindsNothing)
+TEST(TextSlots, EmptySlotsHoldNothing)
 {
-    TextTable table;
+    NumberedTexts table;
     EXPECT_EQ(table.find(L""), absent);
     EXPECT_EQ(table.find(L"a"), absent);
     table.reserve(100);
@@ -75,18 +120,18 @@ TEST(TextTable, EmptyTableFindsNothing)
     EXPECT_EQ(table.size(), 0U);
 }
 
-TEST(TextTable, TextsAreComparedWhole)
+TEST(TextSlots, TextsAreComparedWhole)
 {
     const std::vector<std::wstring> texts = {L"name",   L"nam",
                                              L"namee",  L"Name",
                                              L"name ",  std::wstring(L"name\0", 5),
                                              L"",       L"eman",
                                              L"\uFFFD", std::wstring(1, L'\0')};
-    TextTable table;
+    NumberedTexts table;
     for (std::size_t number = 0; number < texts.size(); ++number)
     {
         EXPECT_EQ(table.find(texts[number]), absent) << toolbox::toUtf8(texts[number]);
-        EXPECT_EQ(add(table, texts[number]), number) << toolbox::toUtf8(texts[number]);
+        EXPECT_EQ(table.add(texts[number]), number) << toolbox::toUtf8(texts[number]);
     }
     for (std::size_t number = 0; number < texts.size(); ++number)
     {
@@ -94,7 +139,7 @@ TEST(TextTable, TextsAreComparedWhole)
     }
 }
 
-TEST(TextTable, TerminatedTextHasTheHashOfItsCharacters)
+TEST(HashedText, TerminatedTextHasTheHashOfItsCharacters)
 {
     const std::wstring text = L"abcdefghi";
     for (std::size_t length = 0; length <= text.size(); ++length)
@@ -106,7 +151,7 @@ TEST(TextTable, TerminatedTextHasTheHashOfItsCharacters)
     }
 }
 
-TEST(TextTable, EveryCharacterIsCompared)
+TEST(HashedText, EveryCharacterIsCompared)
 {
     const std::wstring text = L"abcdefghi";
     for (std::size_t length = 0; length <= text.size(); ++length)
@@ -122,7 +167,7 @@ TEST(TextTable, EveryCharacterIsCompared)
     }
 }
 
-TEST(TextTable, HashDependsOnTheTextOnly)
+TEST(HashedText, HashDependsOnTheTextOnly)
 {
     const std::wstring text = L"no-verbose";
     const std::wstring shifted = L"xx" + text + L"yy";
@@ -130,7 +175,7 @@ TEST(TextTable, HashDependsOnTheTextOnly)
     EXPECT_NE(hashOf(text), hashOf(std::wstring_view(text).substr(0, text.size() - 1)));
 }
 
-TEST(TextTable, TextMadeFromNothingIsTheEmptyOne)
+TEST(HashedText, TextMadeFromNothingIsTheEmptyOne)
 {
     EXPECT_EQ(HashedText(), HashedText(L""));
     EXPECT_EQ(HashedText().hash(), hashOf(L""));
@@ -138,7 +183,7 @@ TEST(TextTable, TextMadeFromNothingIsTheEmptyOne)
 
 // Names that differ in few characters, at different places, share out the slots of a table as
 // texts without any order would: a search passes less than one text that is not looked for.
-TEST(TextTable, HashesOfSimilarTextsShareOutTheSlots)
+TEST(HashedText, HashesOfSimilarTextsShareOutTheSlots)
 {
     constexpr std::uint64_t slots = 32768;
     constexpr unsigned count = 10000;
@@ -161,7 +206,7 @@ TEST(TextTable, HashesOfSimilarTextsShareOutTheSlots)
 }
 
 // The first slot and the last one, behind which a search goes on at the beginning.
-TEST(TextTable, TextsMeetingInOneSlotAreAllFound)
+TEST(TextSlots, TextsMeetingInOneSlotAreAllFound)
 {
     constexpr std::uint64_t slots = 1024;
     for (const std::uint64_t slot : {std::uint64_t{0}, slots - 1})
@@ -169,11 +214,11 @@ TEST(TextTable, TextsMeetingInOneSlotAreAllFound)
         std::vector<std::wstring> texts = textsMeetingAt(slot, slots, 41);
         const std::wstring never = texts.back();
         texts.pop_back();
-        TextTable table;
+        NumberedTexts table;
         for (std::size_t number = 0; number < texts.size(); ++number)
         {
             EXPECT_EQ(table.find(texts[number]), absent) << slot << ", " << number;
-            EXPECT_EQ(add(table, texts[number]), number) << slot;
+            EXPECT_EQ(table.add(texts[number]), number) << slot;
         }
         for (std::size_t number = 0; number < texts.size(); ++number)
         {
@@ -183,7 +228,7 @@ TEST(TextTable, TextsMeetingInOneSlotAreAllFound)
     }
 }
 
-TEST(TextTable, GrowingForgetsNothing)
+TEST(TextSlots, GrowingForgetsNothing)
 {
     constexpr std::uint32_t count = 5000;
     std::vector<std::wstring> texts;
@@ -191,10 +236,10 @@ TEST(TextTable, GrowingForgetsNothing)
     {
         texts.push_back(std::to_wstring(number * 7919U));
     }
-    TextTable table;
+    NumberedTexts table;
     for (std::uint32_t number = 0; number < count; ++number)
     {
-        ASSERT_EQ(add(table, texts[number]), number);
+        ASSERT_EQ(table.add(texts[number]), number);
         ASSERT_EQ(table.find(texts[number / 2]), number / 2) << "of " << number;
     }
     for (std::uint32_t number = 0; number < count; ++number)
@@ -205,7 +250,7 @@ TEST(TextTable, GrowingForgetsNothing)
     }
 }
 
-TEST(TextTable, InsertingWhereRoomWasMadeTakesNoMemory)
+TEST(TextSlots, InsertingWhereRoomWasMadeTakesNoMemory)
 {
     std::vector<std::wstring> texts;
     for (unsigned number = 0; number < 1000; ++number)
@@ -213,8 +258,8 @@ TEST(TextTable, InsertingWhereRoomWasMadeTakesNoMemory)
         texts.push_back(L"a text too long to be kept inside of a string, " +
                         std::to_wstring(number));
     }
-    TextTable table;
-    add(table, L"earlier");
+    NumberedTexts table;
+    table.add(L"earlier");
     table.reserve(texts.size());
     const std::size_t before = unit::allocationCount();
     for (const std::wstring& text : texts)
