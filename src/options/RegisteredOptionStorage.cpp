@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 #include <cwchar>
+#include <exception>
 #include <memory>
 #include <new>
 
@@ -71,35 +72,7 @@ const Registration& RegisteredOptionStorage::registerOption(const wchar_t* names
                                                             bool isSwitch, std::int32_t valueType,
                                                             const wchar_t* groupText)
 {
-    m_lastRegistration = {nullptr, refused};
-    names = orEmpty(names);
-    groupText = orEmpty(groupText);
-    // Declarations of a group usually stand together.
-    if (!isOfLastGroup(groupText)) [[unlikely]]
-    {
-        changeGroup(groupText);
-    }
-    if (!m_index.hasRoom(most_names) || !m_options.hasRoom(1)) [[unlikely]]
-    {
-        makeRoom();
-    }
-    const wchar_t* namesEnd = nullptr;
-    const std::size_t count = findNames(names, namesEnd);
-    if (count == 0) [[unlikely]]
-    {
-        return m_lastRegistration;
-    }
-    const DeclaredNames declared = {{names, namesEnd}, count};
-    // Where the following fails, what it leaves behind lies in the owner's memory and needs no
-    // destruction.
-    const NewOption made = makeOption(declared, orEmpty(description), isSwitch, valueType);
-    if (keywords != nullptr || isSwitch)
-    {
-        addKeywords(*made.option, keywords, names);
-    }
-    enter(made, declared);
-    m_lastRegistration = {made.option, registered};
-    return m_lastRegistration;
+    return declare({names, keywords, description, isSwitch, valueType, groupText});
 }
 
 const Registration& RegisteredOptionStorage::registerSwitch(const wchar_t* names,
@@ -117,6 +90,38 @@ const Registration& RegisteredOptionStorage::registerValueOption(const wchar_t* 
                                                                  const wchar_t* groupText)
 {
     return registerOption(names, keywords, description, false, valueType, groupText);
+}
+
+const Registration& RegisteredOptionStorage::declare(const Declaration& declaration)
+{
+    m_lastRegistration = {nullptr, refused};
+    try
+    {
+        const wchar_t* const groupText = orEmpty(declaration.groupText);
+        // Declarations of a group usually stand together.
+        if (!isOfLastGroup(groupText)) [[unlikely]]
+        {
+            changeGroup(groupText);
+        }
+        if (!m_index.hasRoom(most_names) || !m_options.hasRoom(1)) [[unlikely]]
+        {
+            makeRoom();
+        }
+        const DeclaredNames names = findNames(orEmpty(declaration.names));
+        if (names.count != 0) [[likely]]
+        {
+            // Where this fails, what it leaves behind lies in the owner's memory and needs no
+            // destruction.
+            const NewOption made = makeOption(declaration, names);
+            enter(made, names);
+            m_lastRegistration = {made.option, registered};
+        }
+    }
+    catch (const std::exception&) // NOLINT(bugprone-empty-catch)
+    {
+        // There is no memory: a failed declaration like any other.
+    }
+    return m_lastRegistration;
 }
 
 const OptionDescription* RegisteredOptionStorage::find(const HashedText& name) const noexcept
@@ -184,14 +189,13 @@ void RegisteredOptionStorage::makeRoom()
 }
 
 // Finds the names of a text, which ',' separates, and their places in the index. In one walk: names
-// are so short that each further one would take long beside it. Answers the number of names, none
-// where they are refused.
-//
-// end: receives the end of the text; not set where a name is taken or there are too many.
-std::size_t RegisteredOptionStorage::findNames(const wchar_t* text, const wchar_t*& end)
+// are so short that each further one would take long beside it. Answers none where they are
+// refused.
+RegisteredOptionStorage::DeclaredNames RegisteredOptionStorage::findNames(const wchar_t* text)
 {
     NewName* name = m_names.data();
-    for (const wchar_t* next = text;; ++next)
+    const wchar_t* next = text;
+    for (;; ++next)
     {
         const wchar_t* const begin = next;
         TextHash hash;
@@ -200,25 +204,24 @@ std::size_t RegisteredOptionStorage::findNames(const wchar_t* text, const wchar_
         {
             if (name == m_names.data() + most_names) [[unlikely]]
             {
-                return 0;
+                return {};
             }
             std::construct_at(&name->text, std::wstring_view(begin, next), hash);
             name->slot = m_index.slotOf(name->text);
             if (m_index.isTaken(name->slot)) [[unlikely]]
             {
                 refuseTaken(text);
-                return 0;
+                return {};
             }
             ++name;
         }
         if (*next == L'\0')
         {
-            end = next;
             break;
         }
     }
     const auto count = static_cast<std::size_t>(name - m_names.data());
-    return acceptsNames(count, m_names.back().text) ? count : 0;
+    return {{text, next}, acceptsNames(count, m_names.back().text) ? count : 0};
 }
 
 // Reports names of which one is taken, unless there are too many of them anyway.
@@ -243,47 +246,48 @@ void RegisteredOptionStorage::refuseTaken(std::wstring_view names)
 }
 
 // Makes an option of the last group in one piece of memory: behind the object come its names, which
-// are yet to be entered, then the texts of all names, copied at once, and the description.
+// are yet to be entered, then the texts of all names, copied at once, and the description. Nothing
+// fails behind what the registry notes of the option.
 RegisteredOptionStorage::NewOption
-RegisteredOptionStorage::makeOption(const DeclaredNames& declared, std::wstring_view description,
-                                    bool isSwitch, std::int32_t valueType)
+RegisteredOptionStorage::makeOption(const Declaration& declaration, const DeclaredNames& names)
 {
     static_assert(sizeof(OptionDescription) % alignof(HashedText) == 0 &&
                   sizeof(HashedText) % alignof(wchar_t) == 0);
-    const std::size_t textStart = sizeof(OptionDescription) + declared.count * sizeof(HashedText);
-    const std::size_t characters = declared.text.size() + 1 + description.size() + 1;
+    const std::wstring_view description(orEmpty(declaration.description));
+    const std::size_t textStart = sizeof(OptionDescription) + names.count * sizeof(HashedText);
+    const std::size_t characters = names.text.size() + 1 + description.size() + 1;
     void* const memory =
         m_owner.memory().take(textStart + characters * sizeof(wchar_t), alignof(OptionDescription));
     std::byte* const bytes = static_cast<std::byte*>(memory);
-    auto* const names = placeAt<HashedText>(bytes + sizeof(OptionDescription));
+    auto* const ownNames = placeAt<HashedText>(bytes + sizeof(OptionDescription));
     auto* const text = placeAt<wchar_t>(bytes + textStart);
 
     // The zeros that end them are copied with them.
-    std::memcpy(text, declared.text.data(), (declared.text.size() + 1) * sizeof(wchar_t));
-    wchar_t* const ownDescription = text + declared.text.size() + 1;
+    std::memcpy(text, names.text.data(), (names.text.size() + 1) * sizeof(wchar_t));
+    wchar_t* const ownDescription = text + names.text.size() + 1;
     std::memcpy(ownDescription, description.data(), (description.size() + 1) * sizeof(wchar_t));
 
-    auto* const option =
-        new (memory) OptionDescription(*m_lastGroup, isSwitch, m_owner, {names, declared.count});
+    auto* const option = new (memory)
+        OptionDescription(*m_lastGroup, declaration.isSwitch, m_owner, {ownNames, names.count});
+    option->setPlace(m_index, m_options.size());
     option->description = {ownDescription, description.size()};
     option->separator = m_defaultSeparator;
-    option->valueType = valueType;
-    return {option, names, text};
+    option->valueType = declaration.valueType;
+    if (declaration.keywords != nullptr || declaration.isSwitch) [[unlikely]]
+    {
+        addKeywords(*option, declaration);
+    }
+    return {option, ownNames, text};
 }
 
-// Adds the keywords of an option that is about to be entered, and notes where they make it
-// positional: nothing behind them fails. The names of a switch are its keywords too.
-void RegisteredOptionStorage::addKeywords(OptionDescription& option, const wchar_t* keywords,
-                                          const wchar_t* names)
+// The names of a switch are its keywords too.
+void RegisteredOptionStorage::addKeywords(OptionDescription& option, const Declaration& declaration)
 {
-    option.addKeywords(keywords);
+    option.addKeywords(declaration.keywords);
     if (!option.takesValue())
     {
-        option.addKeywords(names);
-    }
-    if (option.isPositional())
-    {
-        m_index.notePositional(m_options.size());
+        option.addKeywords(declaration.names);
+        ++m_actionCount;
     }
 }
 
@@ -294,8 +298,6 @@ void RegisteredOptionStorage::enter(const NewOption& made, const DeclaredNames& 
     const std::size_t tableIndex = m_options.size();
     const bool boolean = made.option->valueType == value_type_boolean;
     m_options.append(made.option);
-    made.option->setPlace(m_index, tableIndex);
-    m_actionCount += made.option->takesValue() ? 0U : 1U;
     const NewName* found = m_names.data();
     for (HashedText* name = made.names; name != made.names + declared.count; ++name, ++found)
     {

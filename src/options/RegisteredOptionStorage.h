@@ -42,9 +42,8 @@ public:
     // groupText: the group, optionally followed by ':' and its text. The text of the first
     //            declaration of a group stays.
     //
-    // Answers lastRegistration(). Where it fails nothing but a new group is kept; a taken name is
-    // reported on the console output. Throws std::bad_alloc, lastRegistration() telling the
-    // failure.
+    // Answers lastRegistration(). Where it fails, as it does without memory, nothing but a new
+    // group is kept; a taken name is reported on the console output.
     virtual const Registration& registerOption(const wchar_t* names, const wchar_t* keywords,
                                                const wchar_t* description, bool isSwitch,
                                                std::int32_t valueType, const wchar_t* groupText);
@@ -89,6 +88,17 @@ public:
     [[nodiscard]] std::vector<OptionGroup> groups() const;
 
 private:
+    // What registerOption takes.
+    struct Declaration
+    {
+        const wchar_t* names;
+        const wchar_t* keywords;
+        const wchar_t* description;
+        bool isSwitch;
+        std::int32_t valueType;
+        const wchar_t* groupText;
+    };
+
     // The names of a declaration as they were written. m_names begins with them one by one.
     struct DeclaredNames
     {
@@ -119,16 +129,16 @@ private:
         };
     }
 
+    const Registration& declare(const Declaration& declaration);
     [[nodiscard]] bool isOfLastGroup(const wchar_t* declared) const noexcept;
     void changeGroup(const wchar_t* declared);
     void makeRoom();
-    [[nodiscard]] std::size_t findNames(const wchar_t* text, const wchar_t*& end);
+    [[nodiscard]] DeclaredNames findNames(const wchar_t* text);
     static void refuseTaken(std::wstring_view names);
-    [[nodiscard]] NewOption makeOption(const DeclaredNames& declared, std::wstring_view description,
-                                       bool isSwitch, std::int32_t valueType);
-    void addKeywords(OptionDescription& option, const wchar_t* keywords, const wchar_t* names);
-    void destroyValues() noexcept;
+    [[nodiscard]] NewOption makeOption(const Declaration& declaration, const DeclaredNames& names);
+    void addKeywords(OptionDescription& option, const Declaration& declaration);
     void enter(const NewOption& made, const DeclaredNames& declared) noexcept;
+    void destroyValues() noexcept;
 
     wchar_t m_defaultSeparator;
     Garbage& m_owner;

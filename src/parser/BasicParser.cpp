@@ -88,35 +88,16 @@ bool BasicParser::removeEventHandler(EventHandler* handler)
     return m_events.remove(handler);
 }
 
-// Declares an option; running out of memory is a failed declaration like any other.
-template <class Declare>
-const Registration& BasicParser::declare(Declare declareOption)
-{
-    try
-    {
-        return declareOption();
-    }
-    catch (const std::exception&)
-    {
-        return m_options.lastRegistration();
-    }
-}
-
 const Registration& BasicParser::addOption(const wchar_t* names, const wchar_t* description,
                                            std::int32_t valueType, const wchar_t* groupText)
 {
-    return declare(
-        [&]() -> const Registration& {
-            return m_options.registerOption(names, nullptr, description, false, valueType,
-                                            groupText);
-        });
+    return m_options.registerOption(names, nullptr, description, false, valueType, groupText);
 }
 
 const Registration& BasicParser::addSwitch(const wchar_t* names, const wchar_t* description,
                                            std::int32_t valueType, const wchar_t* groupText)
 {
-    return declare([&]() -> const Registration&
-                   { return m_options.registerSwitch(names, description, valueType, groupText); });
+    return m_options.registerSwitch(names, description, valueType, groupText);
 }
 
 const Registration& BasicParser::addOptionWithKeywords(const wchar_t* names,
@@ -125,11 +106,7 @@ const Registration& BasicParser::addOptionWithKeywords(const wchar_t* names,
                                                        std::int32_t valueType,
                                                        const wchar_t* groupText)
 {
-    return declare(
-        [&]() -> const Registration& {
-            return m_options.registerValueOption(names, keywords, description, valueType,
-                                                 groupText);
-        });
+    return m_options.registerValueOption(names, keywords, description, valueType, groupText);
 }
 
 bool BasicParser::hasOption(const wchar_t* name, bool switchesOnly, const wchar_t* group)

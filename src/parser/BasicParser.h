@@ -83,8 +83,6 @@ private:
     [[nodiscard]] const wchar_t* textForHandlers(std::wstring_view text);
     void storeDefaults(IParseResult& result) const;
 
-    template <class Declare>
-    const Registration& declare(Declare declareOption);
     template <class MakeHelp>
     const wchar_t* help(MakeHelp makeHelp);
 
