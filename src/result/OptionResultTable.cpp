@@ -89,31 +89,8 @@ void OptionResultTable::store(const OptionDescription& option, OptionResult& rec
 
 void OptionResultTable::storeValue(const OptionDescription& option, ValueEntry& value)
 {
-    if (!isOnlySource(option.index()))
-    {
-        storeAnyValue(option, value);
-        return;
-    }
-    StoredOption* const known = recall(option.tableIndex());
-    if (known == nullptr)
-    {
-        storeNewValue(option, value);
-    }
-    else if (known->names == option.names.size())
-    {
-        append(*known, value);
-    }
-    else
-    {
-        storeAnyValue(option, value);
-    }
-}
-
-// The same of an option from anywhere.
-void OptionResultTable::storeAnyValue(const OptionDescription& option, ValueEntry& value)
-{
     const Place place = locate(option);
-    if (place.apart)
+    if (place.apart) [[unlikely]]
     {
         OptionResult record;
         record.positions.push_back(value.position);
@@ -126,15 +103,10 @@ void OptionResultTable::storeAnyValue(const OptionDescription& option, ValueEntr
     }
     else
     {
-        storeNewValue(option, value);
+        StoredOption& stored = prepareRecord(option);
+        stored.occurrences.appendMade([&] { return adoptPaired(value); });
+        enter(option, stored);
     }
-}
-
-void OptionResultTable::storeNewValue(const OptionDescription& option, ValueEntry& value)
-{
-    StoredOption& stored = prepareRecord(option);
-    stored.occurrences.appendMade([&] { return adoptPaired(value); });
-    enter(option, stored);
 }
 
 // Whether all that is stored comes from one table of options, this one, in which no two have a name
@@ -146,14 +118,28 @@ bool OptionResultTable::isOnlySource(const OptionIndex* index) const noexcept
 }
 
 // Where to store an occurrence of an option.
-OptionResultTable::Place OptionResultTable::locate(const OptionDescription& option)
+inline OptionResultTable::Place OptionResultTable::locate(const OptionDescription& option)
+{
+    if (isOnlySource(option.index())) [[likely]]
+    {
+        StoredOption* const known = recall(option.tableIndex());
+        if (known == nullptr || known->names == option.names.size())
+        {
+            return {known, false};
+        }
+    }
+    return locateAnywhere(option);
+}
+
+// The same of an option from anywhere.
+OptionResultTable::Place OptionResultTable::locateAnywhere(const OptionDescription& option)
 {
     const Names names(option.names);
     noteSource(option.index());
     StoredOption* known = recall(option.tableIndex());
-    if (isOnlySource(option.index()) && (known == nullptr || known->names == names.size()))
+    if (isOnlySource(option.index()) && known == nullptr)
     {
-        return {known, false};
+        return {nullptr, false};
     }
     if (known == nullptr || !isSharedBy(*known, names))
     {

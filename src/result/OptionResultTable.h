@@ -129,10 +129,9 @@ private:
         bool apart;           // whether its names do not share exactly this one
     };
     [[nodiscard]] Place locate(const OptionDescription& option);
+    [[nodiscard]] Place locateAnywhere(const OptionDescription& option);
     [[nodiscard]] bool isSharedBy(const StoredOption& stored, Names names) const noexcept;
 
-    void storeAnyValue(const OptionDescription& option, ValueEntry& value);
-    void storeNewValue(const OptionDescription& option, ValueEntry& value);
     void append(StoredOption& target, ValueEntry& value);
     void append(StoredOption& target, OptionResult& record);
     [[nodiscard]] StoredOption& prepareRecord(const OptionDescription& option);

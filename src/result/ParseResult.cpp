@@ -2,24 +2,10 @@
 
 #include <stdexcept>
 
-#include "options/OptionDescription.h"
 #include "support/Text.h"
 
 namespace kexa_3_3
 {
-
-namespace
-{
-
-void requireName(const OptionDescription& option)
-{
-    if (option.names.empty())
-    {
-        throw std::out_of_range("invalid vector<T> subscript");
-    }
-}
-
-} // namespace
 
 ParseResult::ParseResult() : m_strings(m_firstBlock.bytes()), m_options(m_strings) {}
 
@@ -111,11 +97,9 @@ result_t ParseResult::storeOption(const OptionDescription& option, OptionResult&
     return result_success;
 }
 
-result_t ParseResult::storeValue(const OptionDescription& option, ValueEntry& value)
+void ParseResult::refuseNameless()
 {
-    requireName(option);
-    m_options.storeValue(option, value);
-    return result_success;
+    throw std::out_of_range("invalid vector<T> subscript");
 }
 
 void ParseResult::addUnparsed(std::wstring_view argument)

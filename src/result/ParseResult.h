@@ -8,6 +8,7 @@
 
 #include "kexa/parse_result.h"
 
+#include "options/OptionDescription.h"
 #include "result/IResultCollector.h"
 #include "result/OptionResultTable.h"
 #include "support/Garbage.h"
@@ -34,7 +35,12 @@ public:
     result_t getNextUnparsed(const wchar_t** out) override;
 
     result_t storeOption(const OptionDescription& option, OptionResult& record) override;
-    result_t storeValue(const OptionDescription& option, ValueEntry& value) override;
+    result_t storeValue(const OptionDescription& option, ValueEntry& value) override
+    {
+        requireName(option);
+        m_options.storeValue(option, value);
+        return result_success;
+    }
 
     [[nodiscard]] SharedTexts& texts() noexcept override { return m_options.texts(); }
 
@@ -51,6 +57,14 @@ private:
         std::int32_t index; // among the left-over arguments
     };
 
+    static void requireName(const OptionDescription& option)
+    {
+        if (option.names.empty()) [[unlikely]]
+        {
+            refuseNameless();
+        }
+    }
+    [[noreturn]] static void refuseNameless();
     [[nodiscard]] bool walksOccurrences() const noexcept;
     [[nodiscard]] bool beginQuery(const wchar_t* name, std::int32_t from, std::int32_t to) noexcept;
     [[nodiscard]] bool isInRange(const Occurrence& occurrence) const noexcept;
