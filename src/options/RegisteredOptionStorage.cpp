@@ -298,13 +298,14 @@ void RegisteredOptionStorage::enter(const NewOption& made, const DeclaredNames& 
     const std::size_t tableIndex = m_options.size();
     const bool boolean = made.option->valueType == value_type_boolean;
     m_options.append(made.option);
-    const NewName* found = m_names.data();
-    for (HashedText* name = made.names; name != made.names + declared.count; ++name, ++found)
+    for (std::size_t number = 0; number < declared.count; ++number)
     {
-        wchar_t* const text = made.text + (found->text.data() - declared.text.data());
-        text[found->text.size()] = L'\0';
-        std::construct_at(name, found->text, std::wstring_view(text, found->text.size()));
-        m_index.add(*name, tableIndex, boolean, found->slot);
+        const HashedText& found = m_names[number].text;
+        wchar_t* const text = made.text + (found.data() - declared.text.data());
+        text[found.size()] = L'\0';
+        HashedText& name = made.names[number];
+        std::construct_at(&name, found, std::wstring_view(text, found.size()));
+        m_index.add(name, tableIndex, boolean, m_names[number].slot);
     }
 }
 
