@@ -163,7 +163,7 @@ void RegisteredOptionStorage::changeGroup(const wchar_t* declared)
     if (!m_groups.hasRoom(1))
     {
         const std::size_t room = m_groups.nextRoom(1, expected_groups);
-        m_groupSlots.reserve(room);
+        m_groupSlots.reserve(room, 2 * expected_groups);
         m_groups.grow(room);
     }
     const std::size_t slot = m_groupSlots.slotOf(name, groupNameOf());

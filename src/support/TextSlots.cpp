@@ -7,10 +7,9 @@
 namespace kexa_3_3
 {
 
-void TextSlots::reserve(std::size_t count)
+void TextSlots::reserve(std::size_t count, std::size_t fewest)
 {
-    constexpr std::size_t fewest_slots = 128;
-    const std::size_t slots = std::bit_ceil(std::max(2 * count, fewest_slots));
+    const std::size_t slots = std::bit_ceil(std::max(2 * count, fewest));
     if (m_slots != nullptr && slots <= m_mask + 1)
     {
         return;

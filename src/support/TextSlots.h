@@ -27,7 +27,10 @@ public:
     // Makes room for `count` texts in all: twice as many slots, so that a search for a text that is
     // not there ends soon. Slots found before are good no more. Throws std::bad_alloc, changing
     // nothing.
-    void reserve(std::size_t count);
+    //
+    // fewest: slots in any case. The usual number leaves few clusters in a table of the names of a
+    //         program of usual size.
+    void reserve(std::size_t count, std::size_t fewest = 128);
 
     // The slot of the text, or the free one where it belongs. Needs room.
     template <class TextOf>
