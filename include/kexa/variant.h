@@ -214,12 +214,12 @@ private:
         m_value.m_data = detail::make_block(bytes, length, terminator);
     }
 
-    // One test instead of four: this stands in every destructor.
+    // One test instead of four: this stands in every destructor. All kinds are below 32.
     bool owns_block() const noexcept
     {
         constexpr u32_t owners = u32_t{1} << kind_wide_text | u32_t{1} << kind_narrow_text |
                                  u32_t{1} << kind_blob | u32_t{1} << kind_object;
-        return static_cast<u32_t>(m_type) <= kind_object && (owners >> m_type & 1U) != 0;
+        return (owners >> (static_cast<u32_t>(m_type) & 31U) & 1U) != 0;
     }
     bool is_integer() const noexcept { return m_type >= kind_s32 && m_type <= kind_u64; }
     bool is_number() const noexcept { return m_type >= kind_s32 && m_type <= kind_double; }
