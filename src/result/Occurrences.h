@@ -31,14 +31,15 @@ struct Occurrence
     // NOLINTNEXTLINE(bugprone-exception-escape): the copy shares a block that is there.
     void copyValueTo(vexkit2::variant_t& target, SharedTexts& texts) const noexcept
     {
-        texts.reclaim(target);
         vexkit2::variant_t copy = vexkit2::variant_t::attach(kind, word); // without a share yet
-        if (!texts.lend(copy) && copy.memory() != nullptr)
+        if (copy.memory() != nullptr && !texts.lend(copy))
         {
             vexkit2::variant_t shared = copy;
             static_cast<void>(shared.detach());
         }
+        texts.reclaim(target);
         target.swap(copy);
+        static_cast<void>(copy.detach()); // null by now, which spares its destructor's test
     }
 };
 

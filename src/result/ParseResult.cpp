@@ -33,26 +33,7 @@ std::int32_t ParseResult::isPresent(const wchar_t* name, std::int32_t from, std:
 result_t ParseResult::getFirstValue(Value* out, const wchar_t* name, std::int32_t from,
                                     std::int32_t to)
 {
-    const Occurrence* found = nullptr;
-    if (beginQuery(name, from, to))
-    {
-        const Occurrence* const first = m_currentOption->occurrences.first();
-        if (first != nullptr && first->isPosition && first->isValue && isInRange(*first))
-        {
-            // Whatever follows: this is the position that the range needs, and the first value.
-            m_valueCursor = m_currentOption->occurrences.behindFirst();
-            found = first;
-        }
-        else if (!walksOccurrences())
-        {
-            found = m_currentOption->byDefault;
-        }
-        else if (findPosition())
-        {
-            found = nextValue();
-        }
-    }
-    return answer(out, found);
+    return answer(out, beginQuery(name, from, to) ? firstValue() : nullptr);
 }
 
 result_t ParseResult::getNextValue(Value* out, const wchar_t* /*name*/)
@@ -150,6 +131,29 @@ bool ParseResult::findPosition() noexcept
     return false;
 }
 
+// The first value of a walk that was begun, or null.
+inline const Occurrence* ParseResult::firstValue() noexcept
+{
+    const Occurrence* const first = m_currentOption->occurrences.first();
+    if (first != nullptr && first->isPosition && first->isValue && isInRange(*first))
+    {
+        // Whatever follows: this is the position that the range needs, and the first value.
+        m_valueCursor = m_currentOption->occurrences.behindFirst();
+        return first;
+    }
+    return firstUnusual();
+}
+
+// The same where the first occurrence is not it.
+const Occurrence* ParseResult::firstUnusual() noexcept
+{
+    if (!walksOccurrences())
+    {
+        return m_currentOption->byDefault;
+    }
+    return findPosition() ? nextValue() : nullptr;
+}
+
 // The next value of the walk, or null. Needs a current option.
 const Occurrence* ParseResult::nextValue() noexcept
 {
@@ -199,7 +203,7 @@ const Occurrence* ParseResult::nextUnusual() noexcept
 }
 
 // NOLINTNEXTLINE(bugprone-exception-escape): the copy shares a block that is there.
-result_t ParseResult::answer(Value* out, const Occurrence* found) noexcept
+inline result_t ParseResult::answer(Value* out, const Occurrence* found) noexcept
 {
     if (found == nullptr)
     {
@@ -215,18 +219,14 @@ result_t ParseResult::answer(Value* out, const Occurrence* found) noexcept
     return result_success;
 }
 
-result_t ParseResult::answerNothing(Value* out) noexcept
+inline result_t ParseResult::answerNothing(Value* out) noexcept
 {
     if (out != nullptr)
     {
         out->status = result_nothing;
         out->data = nullptr;
         out->position = no_position;
-        if (out->value.kind() != vexkit2::kind_null)
-        {
-            vexkit2::variant_t before;
-            before.swap(out->value);
-        }
+        m_options.texts().reclaim(out->value);
     }
     return result_nothing;
 }

@@ -60,13 +60,22 @@ public:
         return word;
     }
 
-    // The same for any variant, which then is null where its block was made here.
+    // Makes any variant null, and takes its share back where its block was made here.
     // NOLINTNEXTLINE(readability-make-member-function-const): it changes the shares that are held.
-    void reclaim(vexkit2::variant_t& text) noexcept
+    void reclaim(vexkit2::variant_t& value) noexcept
     {
-        if (made(text))
+        if (value.memory() == nullptr)
         {
-            static_cast<void>(takeBack(text));
+            static_cast<void>(value.detach());
+        }
+        else if (made(value))
+        {
+            static_cast<void>(takeBack(value));
+        }
+        else
+        {
+            vexkit2::variant_t before; // null first: an object's destructor may look at the variant
+            before.swap(value);
         }
     }
 

@@ -352,7 +352,7 @@ TEST(SharedTexts, ShareThatWasTakenBackIsLentAgain)
     EXPECT_EQ(wholeText(second), L"text");
 }
 
-TEST(SharedTexts, WhatWasMadeElsewhereIsNeitherLentNorTakenBack)
+TEST(SharedTexts, WhatWasMadeElsewhereIsNotLentAndGivesUpItsOwnShare)
 {
     SharedTexts texts;
     SharedTexts others;
@@ -362,8 +362,11 @@ TEST(SharedTexts, WhatWasMadeElsewhereIsNeitherLentNorTakenBack)
     {
         const variant_t before = value;
         EXPECT_FALSE(texts.lend(value)) << value.kind();
-        texts.reclaim(value);
         EXPECT_EQ(value, before) << value.kind();
+        texts.reclaim(value);
+        EXPECT_EQ(value.kind(), 17) << before.kind();
+        const variant_t again = before; // whose block is there still
+        EXPECT_EQ(again, before) << before.kind();
     }
 }
 
