@@ -85,6 +85,14 @@ public:
     };
 
     Occurrences() noexcept : m_inside{&m_first, &m_first + 1, nullptr}, m_last(&m_inside) {}
+
+    // With a first occurrence: what `make` answers, as for appendMade.
+    template <class Make>
+    explicit Occurrences(Make make)
+        : m_inside{&m_first + 1, &m_first + 1, nullptr}, m_first(make()), m_last(&m_inside),
+          m_hasPositions(m_first.isPosition), m_hasValues(m_first.isValue)
+    {
+    }
     ~Occurrences() = default;
     Occurrences(const Occurrences&) = delete;
     Occurrences& operator=(const Occurrences&) = delete;

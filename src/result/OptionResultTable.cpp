@@ -80,7 +80,8 @@ void OptionResultTable::store(const OptionDescription& option, OptionResult& rec
     }
     else
     {
-        StoredOption& stored = prepareRecord(option);
+        reserveToRecall(option.tableIndex());
+        StoredOption& stored = makeRecord(Names(option.names));
         stored.byDefault = makeDefault(record);
         append(stored, record);
         enter(option, stored);
@@ -103,10 +104,34 @@ void OptionResultTable::storeValue(const OptionDescription& option, ValueEntry& 
     }
     else
     {
-        StoredOption& stored = prepareRecord(option);
-        stored.occurrences.appendMade([&] { return adoptPaired(value); });
-        enter(option, stored);
+        storeNewValue(option, value);
     }
+}
+
+// The same of an option that was never stored.
+void OptionResultTable::storeNewValue(const OptionDescription& option, ValueEntry& value)
+{
+    reserveToRecall(option.tableIndex());
+    enter(option, makeRecord(Names(option.names), [&] { return adoptPaired(value); }));
+}
+
+// Lets the option find its record, once something is stored there.
+inline void OptionResultTable::enter(const OptionDescription& option, StoredOption& stored) noexcept
+{
+    if (isOnlySource(option.index())) [[likely]]
+    {
+        bindNew(Names(option.names), stored);
+    }
+    else
+    {
+        bind(Names(option.names), stored);
+    }
+    m_recalled[option.tableIndex()] = &stored;
+}
+
+StoredOption* OptionResultTable::findTerminated(const wchar_t* name) const noexcept
+{
+    return find(HashedText::ofTerminated(name));
 }
 
 // Whether all that is stored comes from one table of options, this one, in which no two have a name
@@ -223,20 +248,6 @@ void OptionResultTable::append(StoredOption& target, OptionResult& record)
         [&target](const Occurrence& occurrence) { target.occurrences.append(occurrence); });
 }
 
-// A record for an option that was never stored, and room to enter it.
-StoredOption& OptionResultTable::prepareRecord(const OptionDescription& option)
-{
-    reserveToRecall(option.tableIndex());
-    return makeRecord(Names(option.names));
-}
-
-// Lets the option find its record, once something is stored there.
-void OptionResultTable::enter(const OptionDescription& option, StoredOption& stored) noexcept
-{
-    bind(Names(option.names), stored);
-    m_recalled[option.tableIndex()] = &stored;
-}
-
 // Stores where the names do not share exactly one record: another declaration stored some of them.
 // All that may throw comes before the first change that can be seen.
 void OptionResultTable::storeApart(Names names, OptionResult& record)
@@ -301,29 +312,49 @@ std::vector<OptionResultTable::Part> OptionResultTable::partsOf(Names names) con
     return parts;
 }
 
-inline StoredOption& OptionResultTable::makeRecord(Names names)
+template <class... MakeFirst>
+inline StoredOption& OptionResultTable::makeRecord(Names names, MakeFirst... makeFirst)
 {
     static_assert(alignof(StoredOption) >= alignof(wchar_t));
-    // The record lies in one piece with the texts of its names.
-    std::size_t size = sizeof(StoredOption);
+    // The record lies in one piece with the texts of its names. Where the option has them lie one
+    // behind the other too, as those of a declaration do, they are copied at once.
+    const wchar_t* const texts = names.front().data();
+    const wchar_t* end = texts;
+    std::size_t length = 0;
+    bool together = true;
     for (const HashedText& name : names)
     {
-        size += (name.size() + 1) * sizeof(wchar_t);
+        together &= name.data() == end;
+        end = name.data() + name.size() + 1;
+        length += name.size() + 1;
     }
     reserveFor(names.size());
-    auto* const stored = new (m_strings.memory().take(size, alignof(StoredOption))) StoredOption();
-    wchar_t* text = textsOf(*stored);
+    const std::size_t size = sizeof(StoredOption) + length * sizeof(wchar_t);
+    void* const memory = m_strings.memory().take(size, alignof(StoredOption));
+    if (together)
+    {
+        std::memcpy(textsOf(memory), texts, length * sizeof(wchar_t));
+    }
+    else
+    {
+        copyTexts(names, textsOf(memory));
+    }
+    return *new (memory) StoredOption(makeFirst...);
+}
+
+// Copies the texts of names one behind the other.
+void OptionResultTable::copyTexts(Names names, wchar_t* room) noexcept
+{
     for (const HashedText& name : names)
     {
-        text += Garbage::copyInto(text, name).size() + 1;
+        room += Garbage::copyInto(room, name).size() + 1;
     }
-    return *stored;
 }
 
 // Where the texts of a record's names begin.
-wchar_t* OptionResultTable::textsOf(StoredOption& stored) noexcept
+wchar_t* OptionResultTable::textsOf(void* record) noexcept
 {
-    return static_cast<wchar_t*>(static_cast<void*>(&stored + 1));
+    return static_cast<wchar_t*>(static_cast<void*>(static_cast<StoredOption*>(record) + 1));
 }
 
 StoredOption& OptionResultTable::copyRecord(const StoredOption& from, Names names)
@@ -379,20 +410,22 @@ void OptionResultTable::moveInto(Entry*& entries, std::size_t used, std::size_t 
     entries = moved;
 }
 
-// The slot of a name that is none of those up to a slot.
-std::size_t OptionResultTable::slotBehind(std::size_t slot, HashedText name) const noexcept
+// The record of a name where the search for its hash ended at another one.
+StoredOption* OptionResultTable::findBehind(const HashedText& other,
+                                            std::wstring_view name) const noexcept
 {
-    return m_slots.slotFrom(slot, name, textOf());
+    const std::size_t slot = m_slots.slotOf(HashedText(other, name), textOf());
+    return m_slots.isFree(slot) ? nullptr : m_names[m_slots.numberAt(slot)].record;
 }
 
 // Lets names find the record that was made for them. They leave those that they found before.
 void OptionResultTable::bind(Names names, StoredOption& stored) noexcept
 {
-    const wchar_t* text = textsOf(stored);
+    const wchar_t* text = textsOf(&stored);
     stored.firstName = m_size;
     for (const HashedText& name : names)
     {
-        const std::size_t slot = slotOf(name);
+        const std::size_t slot = m_slots.slotOf(name, textOf());
         const std::uint32_t number = m_slots.numberAt(slot);
         if (number == TextSlots::absent)
         {
@@ -413,6 +446,25 @@ void OptionResultTable::bind(Names names, StoredOption& stored) noexcept
     }
 }
 
+// The same of names that find nothing yet, none of them listed twice.
+inline void OptionResultTable::bindNew(Names names, StoredOption& stored) noexcept
+{
+    const wchar_t* text = textsOf(&stored);
+    std::uint32_t number = m_size;
+    stored.firstName = number;
+    stored.names = static_cast<std::uint32_t>(names.size());
+    m_size += stored.names;
+    for (const HashedText& name : names)
+    {
+        const std::size_t slot = m_slots.slotOf(name, [](std::uint32_t) { return NoText(); });
+        m_slots.put(slot, number, name);
+        const HashedText kept(name, {text, name.size()});
+        std::construct_at(m_names + number, Name{kept, &stored});
+        ++number;
+        text += name.size() + 1;
+    }
+}
+
 // The default to store with a new record, or null.
 const Occurrence* OptionResultTable::makeDefault(const OptionResult& record)
 {
@@ -429,7 +481,11 @@ const Occurrence* OptionResultTable::makeDefault(const OptionResult& record)
 // Takes the value out of an entry. Throws std::bad_alloc, and the entry is as before then.
 inline Occurrence OptionResultTable::adopt(ValueEntry& entry)
 {
-    return m_texts.made(entry.value) ? takeText(entry) : adoptOther(entry);
+    if (entry.value.memory() == nullptr)
+    {
+        return takeWord(entry, m_strings.keep(entry.text).data());
+    }
+    return m_texts.made(entry.value) ? takeText(entry) : adoptShare(entry);
 }
 
 // The same with the position of the value, where that is an occurrence of its own.
@@ -440,15 +496,11 @@ inline Occurrence OptionResultTable::adoptPaired(ValueEntry& entry)
     return occurrence;
 }
 
-// The value of an entry that is no text made here.
-Occurrence OptionResultTable::adoptOther(ValueEntry& entry)
+// The same of a value whose block was made elsewhere.
+Occurrence OptionResultTable::adoptShare(ValueEntry& entry)
 {
-    if (entry.value.memory() != nullptr)
-    {
-        keepShare(entry);
-        return takeShare(entry);
-    }
-    return takeWord(entry, m_strings.keep(entry.text).data());
+    keepShare(entry);
+    return takeShare(entry);
 }
 
 // The same for all entries of a record in two steps, of which the second one does not throw.
@@ -490,7 +542,7 @@ inline Occurrence OptionResultTable::takeText(ValueEntry& entry) noexcept
 }
 
 // Takes a value, a number most often, whose text is kept.
-Occurrence OptionResultTable::takeWord(ValueEntry& entry, const wchar_t* text) noexcept
+inline Occurrence OptionResultTable::takeWord(ValueEntry& entry, const wchar_t* text) noexcept
 {
     const auto kind = static_cast<std::uint16_t>(entry.value.kind());
     return {.text = text,

@@ -50,6 +50,16 @@ class OptionResultTable
             return left.hash == right.hash();
         }
     };
+
+    // Stands for no text: a search that meets it everywhere ends at a free slot.
+    struct NoText
+    {
+        friend bool operator==(NoText /*left*/, const HashedText& /*right*/) noexcept
+        {
+            return false;
+        }
+    };
+
     [[nodiscard]] auto onlyHashOf() const noexcept
     {
         return [this](std::uint32_t number)
@@ -81,13 +91,23 @@ public:
         {
             return nullptr;
         }
-        const std::uint32_t number = m_slots.numberAt(slotOf(name));
-        return number == TextSlots::absent ? nullptr : m_names[number].record;
+        // The search is for the hash, which keeps it small: what it finds is the name, or else a
+        // rare other one with the same hash.
+        const std::uint32_t number = m_slots.numberAt(m_slots.slotOf(name, onlyHashOf()));
+        if (number == TextSlots::absent)
+        {
+            return nullptr;
+        }
+        const Name& found = m_names[number];
+        return found.text == name ? found.record : findBehind(found.text, name);
     }
     [[nodiscard]] StoredOption* find(std::wstring_view name) const noexcept
     {
         return find(HashedText(name));
     }
+
+    // The same of a name that ends with its first zero.
+    [[nodiscard]] StoredOption* findTerminated(const wchar_t* name) const noexcept;
 
     // The names in the order of their first storing, each with its record.
     [[nodiscard]] std::size_t size() const noexcept { return m_size; }
@@ -103,20 +123,11 @@ public:
 private:
     using Names = std::span<const HashedText>;
 
-    // The slot of a name, or the free one where it belongs. The search is for the hash, which keeps
-    // it small: what it finds is the name, or else a rare other one with the same hash.
-    [[nodiscard]] std::size_t slotOf(const HashedText& name) const noexcept
-    {
-        const std::size_t slot = m_slots.slotOf(name, onlyHashOf());
-        const std::uint32_t number = m_slots.numberAt(slot);
-        if (number == TextSlots::absent || m_names[number].text == name)
-        {
-            return slot;
-        }
-        return slotBehind(slot, name);
-    }
-    // name: by value, or the inlined search would have to keep it in memory for this rare call.
-    [[nodiscard]] std::size_t slotBehind(std::size_t slot, HashedText name) const noexcept;
+    // other: a stored name with the same hash.
+    // name:  without its hash, or the inlined search would have to keep it in memory for this rare
+    //        call.
+    [[nodiscard]] StoredOption* findBehind(const HashedText& other,
+                                           std::wstring_view name) const noexcept;
 
     [[nodiscard]] bool isOnlySource(const OptionIndex* index) const noexcept;
     void noteSource(const OptionIndex* index) noexcept;
@@ -132,10 +143,10 @@ private:
     [[nodiscard]] Place locateAnywhere(const OptionDescription& option);
     [[nodiscard]] bool isSharedBy(const StoredOption& stored, Names names) const noexcept;
 
+    void storeNewValue(const OptionDescription& option, ValueEntry& value);
+    void enter(const OptionDescription& option, StoredOption& stored) noexcept;
     void append(StoredOption& target, ValueEntry& value);
     void append(StoredOption& target, OptionResult& record);
-    [[nodiscard]] StoredOption& prepareRecord(const OptionDescription& option);
-    void enter(const OptionDescription& option, StoredOption& stored) noexcept;
     void storeApart(Names names, OptionResult& record);
 
     // Names of one option that share a record: the whole of it, or some of its names, which a copy
@@ -149,8 +160,12 @@ private:
     [[nodiscard]] std::vector<Part> partsOf(Names names) const;
 
     // A record for names, which find it once they are bound to it, and the room that binding needs.
-    [[nodiscard]] StoredOption& makeRecord(Names names);
-    [[nodiscard]] static wchar_t* textsOf(StoredOption& stored) noexcept;
+    //
+    // makeFirst: answers the first occurrence of the record. Left out where that comes later.
+    template <class... MakeFirst>
+    [[nodiscard]] StoredOption& makeRecord(Names names, MakeFirst... makeFirst);
+    [[nodiscard]] static wchar_t* textsOf(void* record) noexcept;
+    static void copyTexts(Names names, wchar_t* room) noexcept;
     [[nodiscard]] StoredOption& copyRecord(const StoredOption& from, Names names);
     void reserveFor(std::size_t names)
     {
@@ -171,11 +186,12 @@ private:
     template <class Entry>
     void moveInto(Entry*& entries, std::size_t used, std::size_t before, std::size_t room);
     void bind(Names names, StoredOption& stored) noexcept;
+    void bindNew(Names names, StoredOption& stored) noexcept;
 
     [[nodiscard]] const Occurrence* makeDefault(const OptionResult& record);
     [[nodiscard]] Occurrence adopt(ValueEntry& entry);
     [[nodiscard]] Occurrence adoptPaired(ValueEntry& entry);
-    [[nodiscard]] Occurrence adoptOther(ValueEntry& entry);
+    [[nodiscard]] Occurrence adoptShare(ValueEntry& entry);
     void keep(OptionResult& record);
     [[nodiscard]] Occurrence take(ValueEntry& entry) noexcept;
     [[nodiscard]] static Occurrence takeText(ValueEntry& entry) noexcept;

@@ -99,7 +99,7 @@ bool ParseResult::beginQuery(const wchar_t* name, std::int32_t from, std::int32_
 {
     m_rangeFrom = from;
     m_rangeTo = to;
-    m_currentOption = name == nullptr ? nullptr : m_options.find(HashedText::ofTerminated(name));
+    m_currentOption = name == nullptr ? nullptr : m_options.findTerminated(name);
     if (m_currentOption == nullptr)
     {
         return false;

@@ -13,6 +13,14 @@ namespace kexa_3_3
 // occurred. Nothing of it needs to be destroyed: what it points at belongs to the result.
 struct StoredOption
 {
+    StoredOption() noexcept = default;
+
+    // With a first occurrence, which `make` answers.
+    template <class Make>
+    explicit StoredOption(Make make) : occurrences(make)
+    {
+    }
+
     std::uint32_t names = 0; // how many find it
 
     // Where to look for its names: the number of the first that was bound to it. Those that it was
