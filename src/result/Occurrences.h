@@ -37,9 +37,13 @@ struct Occurrence
             vexkit2::variant_t shared = copy;
             static_cast<void>(shared.detach());
         }
-        texts.reclaim(target);
+        const bool reclaimed = texts.reclaim(target);
         target.swap(copy);
-        static_cast<void>(copy.detach()); // null by now, which spares its destructor's test
+        if (reclaimed) [[likely]]
+        {
+            static_cast<void>(copy.detach()); // null by now, which spares its destructor's test
+        }
+        // Otherwise an object may go, whose destructor may look at the target.
     }
 };
 

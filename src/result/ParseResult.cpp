@@ -226,7 +226,11 @@ inline result_t ParseResult::answerNothing(Value* out) noexcept
         out->status = result_nothing;
         out->data = nullptr;
         out->position = no_position;
-        m_options.texts().reclaim(out->value);
+        if (!m_options.texts().reclaim(out->value))
+        {
+            vexkit2::variant_t before;
+            before.swap(out->value);
+        }
     }
     return result_nothing;
 }

@@ -60,23 +60,22 @@ public:
         return word;
     }
 
-    // Makes any variant null, and takes its share back where its block was made here.
+    // Makes a variant null that has no block, or one that was made here, whose share it takes back.
+    // Answers false for any other, which stays as it is.
     // NOLINTNEXTLINE(readability-make-member-function-const): it changes the shares that are held.
-    void reclaim(vexkit2::variant_t& value) noexcept
+    [[nodiscard]] bool reclaim(vexkit2::variant_t& value) noexcept
     {
         if (value.memory() == nullptr)
         {
             static_cast<void>(value.detach());
+            return true;
         }
-        else if (made(value))
+        if (made(value))
         {
             static_cast<void>(takeBack(value));
+            return true;
         }
-        else
-        {
-            vexkit2::variant_t before; // null first: an object's destructor may look at the variant
-            before.swap(value);
-        }
+        return false;
     }
 
     // Gives a share to a variant that has none, where its block was made here. Answers whether it

@@ -223,6 +223,30 @@ TEST(ValueLifetimes, WhatAValueHeldBeforeIsReleasedOnce)
         isReleasedBy([&](Value& value) { result.getFirstValue(&value, L"none", 0, no_position); }));
 }
 
+// The object goes when nothing else is left to do, so what its destructor asks for stays.
+TEST(ValueLifetimes, ObjectInAValueMayAskTheResultAsItGoes)
+{
+    struct Asking final : vexkit2::polymorphic_t
+    {
+        Asking(IParseResult& asked, Value& into) : result(&asked), value(&into) {}
+        Asking(const Asking&) = delete;
+        Asking& operator=(const Asking&) = delete;
+        ~Asking() override { static_cast<void>(result->getNextValue(value, L"name")); }
+        IParseResult* result;
+        Value* value;
+    };
+    FilledHost host(3);
+    Value value;
+    value.value = variant_t::object(new Asking(host.result(), value));
+    ASSERT_EQ(host.result().getFirstValue(&value, L"name", 0, no_position), 0);
+    EXPECT_EQ(value.as<const wchar_t*>(), textOf(1));
+    EXPECT_EQ(wholeText(value.value), textOf(1));
+
+    value.value = variant_t::object(new Asking(host.result(), value));
+    EXPECT_EQ(host.result().getFirstValue(&value, L"absent", 0, no_position), 1);
+    EXPECT_EQ(value.value.kind(), 17);
+}
+
 TEST(ValueLifetimes, DefaultIsHandedBackAndOutlivesAll)
 {
     for (const variant_t& declared : declaredValues())
