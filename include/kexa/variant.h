@@ -214,9 +214,11 @@ private:
         m_value.m_data = detail::make_block(bytes, length, terminator);
     }
 
-    // One test instead of four: this stands in every destructor. All kinds are below 32.
+    // One test without a bound instead of four: this stands in every destructor. The kind is masked
+    // because a shift by more than 31 is undefined.
     bool owns_block() const noexcept
     {
+        static_assert(kind_object < 32, "a bit for each kind");
         constexpr u32_t owners = u32_t{1} << kind_wide_text | u32_t{1} << kind_narrow_text |
                                  u32_t{1} << kind_blob | u32_t{1} << kind_object;
         return (owners >> (static_cast<u32_t>(m_type) & 31U) & 1U) != 0;

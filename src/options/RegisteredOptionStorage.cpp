@@ -160,21 +160,25 @@ void RegisteredOptionStorage::changeGroup(const wchar_t* declared)
     const wchar_t* const end = hashUntil(
         declared, hash, [](const wchar_t* place) { return *place == L':' || *place == L'\0'; });
     const HashedText name(std::wstring_view(declared, end), hash);
+    if (!m_groups.empty())
+    {
+        const std::size_t known = m_groupSlots.slotOf(name, groupNameOf());
+        if (!m_groupSlots.isFree(known))
+        {
+            m_lastGroup = m_groups[m_groupSlots.numberAt(known)];
+            return;
+        }
+    }
     if (!m_groups.hasRoom(1))
     {
         const std::size_t room = m_groups.nextRoom(1, expected_groups);
         m_groupSlots.reserve(room, 2 * expected_groups);
         m_groups.grow(room);
     }
-    const std::size_t slot = m_groupSlots.slotOf(name, groupNameOf());
-    if (!m_groupSlots.isFree(slot))
-    {
-        m_lastGroup = m_groups[m_groupSlots.numberAt(slot)];
-        return;
-    }
     const std::wstring_view text(*end == L':' ? end + 1 : end);
     void* const memory = m_owner.memory().take(sizeof(OptionGroup), alignof(OptionGroup));
     m_lastGroup = new (memory) OptionGroup(m_owner.keep(name), m_owner.keep(text));
+    const std::size_t slot = m_groupSlots.slotOf(name, groupNameOf());
     m_groupSlots.put(slot, static_cast<std::uint32_t>(m_groups.size()), name);
     m_groups.append(m_lastGroup);
 }
@@ -280,7 +284,8 @@ RegisteredOptionStorage::makeOption(const Declaration& declaration, const Declar
     return {option, ownNames, text};
 }
 
-// The names of a switch are its keywords too.
+// The names of a switch are its keywords too. What may fail comes before what is noted: a switch is
+// never positional, so its keywords note nothing, and it is counted last.
 void RegisteredOptionStorage::addKeywords(OptionDescription& option, const Declaration& declaration)
 {
     option.addKeywords(declaration.keywords);

@@ -29,7 +29,7 @@ enum class ValueVerdict : std::uint8_t
     return verdict >= ValueVerdict::unreadable;
 }
 
-// The same of an option with allowed values, and of a text that is readable.
+// What checkValue does for an option with allowed values, where the text is readable.
 [[nodiscard]] ValueVerdict checkAllowedValue(const OptionDescription& option,
                                              std::wstring_view text, vexkit2::variant_t& value,
                                              SharedTexts* texts);

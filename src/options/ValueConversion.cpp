@@ -48,17 +48,23 @@ using vexkit2::variant_t;
     return negative;
 }
 
-// The value of a digit, or a number that is no digit in the base, 10 or 16.
+// The value of a digit in the base, 10 or 16. For any other character a number that is not below
+// the base.
 template <unsigned base>
 [[nodiscard]] constexpr unsigned digitValue(wchar_t character) noexcept
 {
     const auto decimal = static_cast<unsigned>(character) - static_cast<unsigned>(L'0');
-    if (base == 10 || decimal < 10)
+    if constexpr (base == 10)
     {
         return decimal;
     }
-    const auto above = (static_cast<unsigned>(character) | 0x20U) - static_cast<unsigned>(L'a');
-    return above < 6 ? above + 10 : 255;
+    else
+    {
+        const unsigned lowerCase = static_cast<unsigned>(character) | 0x20U;
+        const unsigned letter = lowerCase - static_cast<unsigned>(L'a');
+        const unsigned high = letter < 6 ? letter + 10 : base;
+        return decimal < 10 ? decimal : high;
+    }
 }
 
 // One or more digits and nothing else, up to and including `highest`.
@@ -224,10 +230,10 @@ template <class Integer>
 // By value type. A table instead of a switch, in which the compiler would let the shortest of them
 // prepare and clear away what the longest needs.
 using Conversion = variant_t (*)(std::wstring_view text, SharedTexts* texts);
-constexpr std::size_t value_types = value_type_string + 1;
+constexpr std::size_t value_type_count = value_type_string + 1;
 constexpr auto conversions = []
 {
-    std::array<Conversion, value_types> table = {};
+    std::array<Conversion, value_type_count> table = {};
     table.fill(convertNothing);
     table[value_type_boolean] = convertBoolean;
     table[value_type_integer] = convertDecimal<vexkit2::s32_t>;

@@ -22,8 +22,8 @@ constexpr int parsed = 0;
 constexpr int invalid = 2;
 constexpr std::size_t shortest_option = 2; // a hyphen and a character
 
-// Says that the value in the next argument may be none.
-std::wstring looksLikeAnOption(const GivenValue& given)
+// Says that what should be the value seems to be an option.
+std::wstring optionInsteadOfValue(const GivenValue& given)
 {
     return concatenate({L"Option '", given.option.primaryName(),
                         L"' received value from the next argument: '", given.value,
@@ -196,7 +196,7 @@ bool AbbreviationParser::takeNextArgument(GivenValue& given, ArgumentQueue& argu
     given.value = arguments.second();
     if (!given.value.empty() && given.value.front() == L'-') [[unlikely]]
     {
-        error = looksLikeAnOption(given);
+        error = optionInsteadOfValue(given);
         return false;
     }
     trace<Run>(L": got value from the next argument: '", given.value, L"'");

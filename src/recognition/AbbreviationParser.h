@@ -26,7 +26,7 @@ public:
               const RegisteredOptionStorage& options, std::int64_t& optionIndex,
               std::wstring& error) override;
 
-    // The two in a run of a kind.
+    // Both in a run of one kind (Runs.h), without virtual calls.
     template <class Run>
     int recognizeIn(const ArgumentQueue& arguments, const RegisteredOptionStorage& options,
                     std::wstring& message);

@@ -92,9 +92,9 @@ private:
         return true;
     }
 
-    ArgumentSource* m_source = nullptr; // or null, and
+    ArgumentSource* m_source = nullptr; // null where pointers were given
     const wchar_t* const* m_next = nullptr;
-    std::size_t m_left = 0; // of the pointers
+    std::size_t m_left = 0; // how many pointers follow; none where there is a source
     std::wstring_view m_front;
     std::wstring_view m_behindFront;
     Second m_second = Second::unknown;

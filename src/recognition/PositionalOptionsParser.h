@@ -22,7 +22,7 @@ public:
               const RegisteredOptionStorage& options, std::int64_t& optionIndex,
               std::wstring& error) override;
 
-    // The two in a run of a kind.
+    // Both in a run of one kind (Runs.h), without virtual calls.
     template <class Run>
     int recognizeIn(const ArgumentQueue& arguments, const RegisteredOptionStorage& options,
                     std::wstring& message);
@@ -35,8 +35,8 @@ public:
 
 private:
     template <class Run>
-    int storeAndRemove(const GivenValue& given, typename Run::Collector* collector,
-                       ArgumentQueue& arguments, std::wstring& error);
+    [[nodiscard]] int storeAndRemove(const GivenValue& given, typename Run::Collector* collector,
+                                     ArgumentQueue& arguments, std::wstring& error);
 
     ValueStoring m_storing;
 };

@@ -7,7 +7,7 @@ namespace kexa_3_3
 class IResultCollector;
 class ParseResult;
 
-// Handlers listen, who may switch the trace on and off at any event, or the trace is on. What is
+// The trace is on, or a handler listens, which may switch it on and off at any event. What is
 // filled is a collector of a type, or none.
 template <class CollectorType>
 struct WatchedRun
@@ -19,9 +19,10 @@ struct WatchedRun
 // What is right for every parse.
 using AnyRun = WatchedRun<IResultCollector>;
 
-// What nearly all of them need, compiled by itself: nobody listens, the trace is off, and what is
-// filled is a result of this library, or none. Trace lines then cost nothing, and calls of the
-// result no detour.
+// What nearly all of them need, compiled by itself: the trace is off, and what is filled is a
+// result of this library, or none. Trace lines then cost nothing, and calls of the result no
+// detour. It ends at the first event that a handler listens to: what follows is a watched run,
+// since only that offers values to handlers.
 struct UsualRun
 {
     using Collector = ParseResult;

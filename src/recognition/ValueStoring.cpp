@@ -1,7 +1,6 @@
 #include "recognition/ValueStoring.h"
 
 #include <limits>
-#include <ostream>
 
 #include "kexa/event_handler.h"
 
@@ -15,6 +14,7 @@
 #include "support/Garbage.h"
 #include "support/SharedTexts.h"
 #include "support/Text.h"
+#include "support/Trace.h"
 
 namespace kexa_3_3
 {

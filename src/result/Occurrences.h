@@ -38,12 +38,13 @@ struct Occurrence
             static_cast<void>(shared.detach());
         }
         const bool reclaimed = texts.reclaim(target);
+        // Exchanged, not assigned: the destructor of an object that goes with the copy may ask for
+        // another value, so nothing may follow it.
         target.swap(copy);
         if (reclaimed) [[likely]]
         {
             static_cast<void>(copy.detach()); // null by now, which spares its destructor's test
         }
-        // Otherwise an object may go, whose destructor may look at the target.
     }
 };
 

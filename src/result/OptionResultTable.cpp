@@ -1,6 +1,7 @@
 #include "result/OptionResultTable.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstring>
 #include <memory>
 #include <new>
@@ -316,8 +317,9 @@ template <class... MakeFirst>
 inline StoredOption& OptionResultTable::makeRecord(Names names, MakeFirst... makeFirst)
 {
     static_assert(alignof(StoredOption) >= alignof(wchar_t));
-    // The record lies in one piece with the texts of its names. Where the option has them lie one
-    // behind the other too, as those of a declaration do, they are copied at once.
+    // The record lies in one piece with the texts of its names, each with the zero behind it. Where
+    // those of the option lie one behind the other too, as most of a declaration do, they are
+    // copied at once.
     const wchar_t* const texts = names.front().data();
     const wchar_t* end = texts;
     std::size_t length = 0;
@@ -354,7 +356,8 @@ void OptionResultTable::copyTexts(Names names, wchar_t* room) noexcept
 // Where the texts of a record's names begin.
 wchar_t* OptionResultTable::textsOf(void* record) noexcept
 {
-    return static_cast<wchar_t*>(static_cast<void*>(static_cast<StoredOption*>(record) + 1));
+    std::byte* const behind = static_cast<std::byte*>(record) + sizeof(StoredOption);
+    return static_cast<wchar_t*>(static_cast<void*>(behind));
 }
 
 StoredOption& OptionResultTable::copyRecord(const StoredOption& from, Names names)

@@ -228,6 +228,7 @@ inline result_t ParseResult::answerNothing(Value* out) noexcept
         out->position = no_position;
         if (!m_options.texts().reclaim(out->value))
         {
+            // Goes last: the destructor of an object may ask for another value.
             vexkit2::variant_t before;
             before.swap(out->value);
         }

@@ -1,6 +1,7 @@
 // Small operations on wide texts.
 #pragma once
 
+#include <algorithm>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -59,18 +60,8 @@ void forEachPiece(std::wstring_view text, wchar_t separator, Use use)
 [[nodiscard]] inline bool containsCharacter(std::wstring_view text, wchar_t character) noexcept
 {
     constexpr std::size_t short_text = 16;
-    if (text.size() > short_text)
-    {
-        return text.find(character) != std::wstring_view::npos;
-    }
-    for (const wchar_t other : text)
-    {
-        if (other == character)
-        {
-            return true;
-        }
-    }
-    return false;
+    return text.size() > short_text ? text.find(character) != std::wstring_view::npos
+                                    : std::ranges::find(text, character) != text.end();
 }
 
 // White space of the classic locale. The same six characters everywhere, since the C runtimes

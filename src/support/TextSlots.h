@@ -18,6 +18,9 @@ class TextSlots
 public:
     static constexpr std::uint32_t absent = 0xFFFFFFFF;
 
+    // These leave few clusters among the names of a program of usual size.
+    static constexpr std::size_t usual_slots = 128;
+
     // memory: lives longer than this.
     explicit TextSlots(std::pmr::memory_resource& memory) noexcept : m_memory(&memory) {}
     ~TextSlots() { free(); }
@@ -28,9 +31,8 @@ public:
     // not there ends soon. Slots found before are good no more. Throws std::bad_alloc, changing
     // nothing.
     //
-    // fewest: slots in any case. The usual number leaves few clusters in a table of the names of a
-    //         program of usual size.
-    void reserve(std::size_t count, std::size_t fewest = 128);
+    // fewest: slots in any case.
+    void reserve(std::size_t count, std::size_t fewest = usual_slots);
 
     // The slot of the text, or the free one where it belongs. Needs room.
     template <class TextOf>

@@ -10,6 +10,7 @@ namespace kexa_3_3
 // Two wide characters that follow each other, side by side in a number whose other bits are zero.
 [[nodiscard]] inline std::uint64_t twoCharacters(const wchar_t* text) noexcept
 {
+    static_assert(2 * sizeof(wchar_t) <= sizeof(std::uint64_t));
     std::uint64_t two = 0;
     std::memcpy(&two, text, 2 * sizeof(wchar_t));
     return two;

@@ -16,7 +16,7 @@ void traceLine(Pieces...)
 {
 }
 
-constexpr bool traceIsOn() noexcept
+[[nodiscard]] constexpr bool traceIsOn() noexcept
 {
     return false;
 }

@@ -376,7 +376,7 @@ TEST(SharedTexts, WhatHasNoBlockIsNotLentAndBecomesNull)
         EXPECT_FALSE(texts.lend(value)) << plain.kind();
         EXPECT_EQ(value.kind(), plain.kind());
         EXPECT_TRUE(texts.reclaim(value)) << plain.kind();
-        EXPECT_EQ(value.kind(), 17) << plain.kind();
+        EXPECT_EQ(value.kind(), vexkit2::kind_null) << plain.kind();
     }
 }
 
