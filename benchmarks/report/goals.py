@@ -39,10 +39,7 @@ def option_file_ratio(results, size):
 
 def handler_cost(results):
     """What one handler adds to a parse, divided by the same calls made directly."""
-    name = "handlers/arguments/10000"
-    ratios = [(one[name]["1"] - one[name]["0"]) / one[name]["bare calls"]
-              for one in results.rounds if name in one]
-    return sorted(ratios)[len(ratios) // 2] if ratios else None
+    return results.ratio("handlers/arguments/10000", "added", "bare calls")
 
 
 def all_goals(results):

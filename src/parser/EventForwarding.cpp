@@ -15,57 +15,74 @@ bool EventForwarding::add(EventHandler* handler)
         return false;
     }
     m_handlers.insert(place, handler);
+    ++m_changes;
     return true;
 }
 
 bool EventForwarding::remove(EventHandler* handler)
 {
-    return std::erase(m_handlers, handler) != 0;
+    const bool removed = std::erase(m_handlers, handler) != 0;
+    m_changes += removed ? 1 : 0;
+    return removed;
 }
 
 bool EventForwarding::onOptionParsed(const wchar_t* name)
 {
-    for (std::size_t place = 0; place < m_handlers.size();)
-    {
-        EventHandler* const handler = m_handlers[place];
-        static_cast<void>(handler->onOptionParsed(name));
-        place = placeBehind(place, handler);
-    }
-    return true;
+    return forAll(
+        [name](EventHandler& handler)
+        {
+            static_cast<void>(handler.onOptionParsed(name));
+            return true;
+        });
 }
 
 bool EventForwarding::onValueParsed(const wchar_t* name, const ValueRecord* value)
 {
-    for (std::size_t place = 0; place < m_handlers.size();)
-    {
-        EventHandler* const handler = m_handlers[place];
-        if (!handler->onValueParsed(name, value))
-        {
-            return false;
-        }
-        place = placeBehind(place, handler);
-    }
-    return true;
+    return forAll([=](EventHandler& handler) { return handler.onValueParsed(name, value); });
 }
 
 bool EventForwarding::onUnknownArgument(const wchar_t* argument)
 {
     bool unknown = true;
-    for (std::size_t place = 0; place < m_handlers.size();)
-    {
-        EventHandler* const handler = m_handlers[place];
-        unknown = handler->onUnknownArgument(argument) && unknown;
-        place = placeBehind(place, handler);
-    }
+    static_cast<void>(forAll(
+        [&](EventHandler& handler)
+        {
+            unknown = handler.onUnknownArgument(argument) && unknown;
+            return true;
+        }));
     return unknown;
 }
 
-// The place of the first handler with a higher address.
-std::size_t EventForwarding::placeAbove(EventHandler* handler) const
+template <class Tell>
+bool EventForwarding::forAll(Tell tell) const
+{
+    EventHandler* const* next = m_handlers.data();
+    EventHandler* const* end = next + m_handlers.size();
+    std::uint32_t changes = m_changes;
+    while (next != end)
+    {
+        EventHandler* const handler = *next++;
+        if (!tell(*handler))
+        {
+            return false;
+        }
+        if (changes != m_changes) [[unlikely]]
+        {
+            // Some were added or removed meanwhile, this one perhaps, which then may be gone.
+            changes = m_changes;
+            next = firstAbove(handler);
+            end = m_handlers.data() + m_handlers.size();
+        }
+    }
+    return true;
+}
+
+// The first handler with a higher address.
+EventHandler* const* EventForwarding::firstAbove(EventHandler* handler) const
 {
     const auto next =
         std::upper_bound(m_handlers.begin(), m_handlers.end(), handler, std::less<>());
-    return static_cast<std::size_t>(next - m_handlers.begin());
+    return m_handlers.data() + (next - m_handlers.begin());
 }
 
 } // namespace kexa_3_3

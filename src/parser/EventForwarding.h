@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <vector>
 
 #include "kexa/event_handler.h"
@@ -36,16 +37,14 @@ public:
     bool onUnknownArgument(const wchar_t* argument) override;
 
 private:
-    // Where to go on behind the handler that was called. It may have added and removed handlers,
-    // and may be gone itself; where it stands as before, so do those behind it.
-    [[nodiscard]] std::size_t placeBehind(std::size_t place, EventHandler* handler) const
-    {
-        const bool stands = place < m_handlers.size() && m_handlers[place] == handler;
-        return stands ? place + 1 : placeAbove(handler);
-    }
-    [[nodiscard]] std::size_t placeAbove(EventHandler* handler) const;
+    // Hands the handlers, one after the other, to `tell`, until that answers false. Answers whether
+    // it never did.
+    template <class Tell>
+    [[nodiscard]] bool forAll(Tell tell) const;
+    [[nodiscard]] EventHandler* const* firstAbove(EventHandler* handler) const;
 
     std::vector<EventHandler*> m_handlers; // by ascending address; not owned
+    std::uint32_t m_changes = 0;           // of the above; tells only whether there were any
 };
 
 } // namespace kexa_3_3

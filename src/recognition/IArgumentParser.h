@@ -6,18 +6,18 @@
 #include <string>
 #include <string_view>
 
+#include "kexa/event_handler.h"
 #include "kexa/result.h"
 
+#include "options/OptionDescription.h"
 #include "recognition/ArgumentQueue.h"
 #include "support/Trace.h"
 
 namespace kexa_3_3
 {
 
-class EventHandler;
 class Garbage;
 class IResultCollector;
-class OptionDescription;
 class RegisteredOptionStorage;
 
 // Made for one parse run. Whatever an operation is given lives longer than the run.
@@ -78,7 +78,13 @@ protected:
     IArgumentParser& operator=(const IArgumentParser&) = delete;
 
     void rename(std::wstring_view name) noexcept { m_name = name; }
-    void reportOption(const OptionDescription& option) const;
+    void reportOption(const OptionDescription& option) const
+    {
+        if (m_owner != nullptr)
+        {
+            static_cast<void>(m_owner->onOptionParsed(option.primaryName().data()));
+        }
+    }
     [[nodiscard]] Garbage& settings() const noexcept { return *m_settings; }
     [[nodiscard]] bool hasFlag(std::uint32_t flag) const noexcept { return (m_flags & flag) != 0; }
 

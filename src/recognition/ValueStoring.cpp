@@ -1,6 +1,7 @@
 #include "recognition/ValueStoring.h"
 
 #include <limits>
+#include <utility>
 
 #include "kexa/event_handler.h"
 
@@ -132,7 +133,7 @@ int ValueStoring::storeValue(const GivenValue& given, typename Run::Collector* c
     }
     SharedTexts* const texts = textsOf(collector);
     ValueEntry entry = {given.value, convertValue(given.option.valueType, given.value, texts)};
-    const int code = accept<Run>(given.value, given, separator != 0, texts, entry, error);
+    const int code = accept<Run>(given, separator != 0, texts, entry, error);
     if (code == stored && collector != nullptr)
     {
         static_cast<void>(collector->storeValue(given.option, entry));
@@ -158,7 +159,7 @@ int ValueStoring::storePieces(const GivenValue& given, wchar_t separator,
                          ValueEntry& entry = record.values.emplace_back();
                          entry.value = convertValue(given.option.valueType, piece, texts);
                          entry.text = piece;
-                         code = accept<Run>(piece, given, true, texts, entry, error);
+                         code = accept<Run>(given, true, texts, entry, error);
                          record.positions.back() = entry.position;
                      }
                  });
@@ -176,15 +177,16 @@ int ValueStoring::storePieces(const GivenValue& given, wchar_t separator,
 }
 
 // Checks a converted piece of the value, numbers it and offers it to the event handlers.
+//
+// entry: the piece as it was written, and what it was converted to.
 template <class Run>
-inline int ValueStoring::accept(std::wstring_view piece, const GivenValue& given,
-                                [[maybe_unused]] bool isCut, SharedTexts* texts, ValueEntry& entry,
-                                std::wstring& error)
+inline int ValueStoring::accept(const GivenValue& given, [[maybe_unused]] bool isCut,
+                                SharedTexts* texts, ValueEntry& entry, std::wstring& error)
 {
-    const ValueVerdict verdict = checkValue(given.option, piece, entry.value, texts);
+    const ValueVerdict verdict = checkValue(given.option, entry.text, entry.value, texts);
     if (isRejected(verdict)) [[unlikely]]
     {
-        return reject(verdict, piece, given, error);
+        return reject(verdict, entry.text, given, error);
     }
     entry.position = takeSequenceNumber();
     if constexpr (Run::mayBeWatched)
@@ -192,7 +194,7 @@ inline int ValueStoring::accept(std::wstring_view piece, const GivenValue& given
         const bool accepted = m_parser.owner() == nullptr || offer(given.option, entry);
         if (isCut && traceIsOn()) [[unlikely]]
         {
-            traceOffer(given, piece);
+            traceOffer(given, entry.text);
         }
         if (!accepted) [[unlikely]]
         {
@@ -204,6 +206,16 @@ inline int ValueStoring::accept(std::wstring_view piece, const GivenValue& given
         entry.text = finalText(given.option, entry.value);
     }
     return stored;
+}
+
+// Lets the event handlers, which there must be, see a value. Answers whether they accept it.
+bool ValueStoring::offer(const OptionDescription& option, ValueEntry& entry) const
+{
+    ValueRecord record = {option.primaryName().data(), std::move(entry.value), entry.position};
+    const bool accepted = m_parser.owner()->onValueParsed(record.optionName, &record);
+    entry.value.swap(record.value);
+    static_cast<void>(record.value.detach()); // null by now, which spares its destructor's test
+    return accepted;
 }
 
 void ValueStoring::traceOffer(const GivenValue& given, std::wstring_view piece) const
@@ -229,16 +241,6 @@ int ValueStoring::refuse(const GivenValue& given, std::wstring& error) const
                          given.option.primaryName(), L"' in argument '", given.argument, L"'"});
     trace<AnyRun>(viewOf(error), L" One of the handler signaled the value is not valid.");
     return refused;
-}
-
-// Lets the event handlers, which there must be, see a value. Answers whether they accept it.
-bool ValueStoring::offer(const OptionDescription& option, ValueEntry& entry) const
-{
-    ValueRecord record = {option.primaryName().data(), vexkit2::variant_t(), entry.position};
-    record.value.swap(entry.value);
-    const bool accepted = m_parser.owner()->onValueParsed(record.optionName, &record);
-    record.value.swap(entry.value);
-    return accepted;
 }
 
 template int ValueStoring::storeIn<AnyRun>(const GivenValue&, IResultCollector*, std::wstring&);

@@ -60,13 +60,13 @@ private:
     [[nodiscard]] int storePieces(const GivenValue& given, wchar_t separator,
                                   typename Run::Collector* collector, std::wstring& error);
     template <class Run>
-    [[nodiscard]] int accept(std::wstring_view piece, const GivenValue& given, bool isCut,
-                             SharedTexts* texts, ValueEntry& entry, std::wstring& error);
+    [[nodiscard]] int accept(const GivenValue& given, bool isCut, SharedTexts* texts,
+                             ValueEntry& entry, std::wstring& error);
     [[nodiscard]] int reject(ValueVerdict verdict, std::wstring_view piece, const GivenValue& given,
                              std::wstring& error) const;
-    [[nodiscard]] int refuse(const GivenValue& given, std::wstring& error) const;
-    void traceOffer(const GivenValue& given, std::wstring_view piece) const;
     [[nodiscard]] bool offer(const OptionDescription& option, ValueEntry& entry) const;
+    void traceOffer(const GivenValue& given, std::wstring_view piece) const;
+    [[nodiscard]] int refuse(const GivenValue& given, std::wstring& error) const;
 
     const IArgumentParser& m_parser;
 };
