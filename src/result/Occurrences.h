@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <new>
 #include <type_traits>
 
 #include "kexa/variant.h"
@@ -31,20 +32,29 @@ struct Occurrence
     // NOLINTNEXTLINE(bugprone-exception-escape): the copy shares a block that is there.
     void copyValueTo(vexkit2::variant_t& target, SharedTexts& texts) const noexcept
     {
+        if (texts.reclaim(target)) [[likely]]
+        {
+            // Null by now, so there is nothing to destroy.
+            new (static_cast<void*>(&target)) vexkit2::variant_t(copyOfValue(texts));
+            return;
+        }
+        vexkit2::variant_t copy(copyOfValue(texts));
+        // Exchanged, not assigned: the destructor of an object that goes with the copy may ask for
+        // another value, so nothing may follow it.
+        target.swap(copy);
+    }
+
+private:
+    // NOLINTNEXTLINE(bugprone-exception-escape): as above.
+    [[nodiscard]] vexkit2::variant_t copyOfValue(SharedTexts& texts) const noexcept
+    {
         vexkit2::variant_t copy = vexkit2::variant_t::attach(kind, word); // without a share yet
         if (copy.memory() != nullptr && !texts.lend(copy))
         {
             vexkit2::variant_t shared = copy;
             static_cast<void>(shared.detach());
         }
-        const bool reclaimed = texts.reclaim(target);
-        // Exchanged, not assigned: the destructor of an object that goes with the copy may ask for
-        // another value, so nothing may follow it.
-        target.swap(copy);
-        if (reclaimed) [[likely]]
-        {
-            static_cast<void>(copy.detach()); // null by now, which spares its destructor's test
-        }
+        return copy;
     }
 };
 
@@ -149,6 +159,12 @@ public:
     [[nodiscard]] Place begin() const noexcept { return Place(&m_inside, &m_first); }
     [[nodiscard]] Place behindFirst() const noexcept { return Place(&m_inside, &m_first + 1); }
     [[nodiscard]] Place end() const noexcept { return Place(m_last, m_last->end); }
+
+    // Whether nothing is at the place or behind it.
+    [[nodiscard]] bool isEnd(const Place& place) const noexcept
+    {
+        return place.m_entry == place.m_piece->end && place.m_piece == m_last;
+    }
 
     // The place of the occurrence with an index up to size(). Steps over whole pieces.
     [[nodiscard]] Place placeOf(std::size_t index) const noexcept;

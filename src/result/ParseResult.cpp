@@ -38,7 +38,7 @@ result_t ParseResult::getFirstValue(Value* out, const wchar_t* name, std::int32_
 
 result_t ParseResult::getNextValue(Value* out, const wchar_t* /*name*/)
 {
-    return answer(out, m_currentOption == nullptr ? nullptr : nextValue());
+    return answer(out, m_currentOption == nullptr || isWalkedOff() ? nullptr : nextValue());
 }
 
 std::int32_t ParseResult::getNextPosition()
@@ -92,6 +92,14 @@ void ParseResult::addUnparsed(std::wstring_view argument)
 bool ParseResult::walksOccurrences() const noexcept
 {
     return m_currentOption->occurrences.hasPositions() || m_currentOption->byDefault == nullptr;
+}
+
+// Whether the usual walk, over positions and values, is at its end.
+inline bool ParseResult::isWalkedOff() const noexcept
+{
+    const Occurrences& occurrences = m_currentOption->occurrences;
+    return occurrences.hasPositions() && occurrences.hasValues() &&
+           occurrences.isEnd(m_valueCursor);
 }
 
 // Moves the cursor to the start of an option. Answers whether there is one.

@@ -66,6 +66,7 @@ private:
     }
     [[noreturn]] static void refuseNameless();
     [[nodiscard]] bool walksOccurrences() const noexcept;
+    [[nodiscard]] bool isWalkedOff() const noexcept;
     [[nodiscard]] bool beginQuery(const wchar_t* name, std::int32_t from, std::int32_t to) noexcept;
     [[nodiscard]] bool isInRange(const Occurrence& occurrence) const noexcept;
     [[nodiscard]] bool findPosition() noexcept;
