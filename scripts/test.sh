@@ -14,7 +14,7 @@ all_steps=(format lint fuzz bench tsan asan release mingw)
 steps=("$@")
 [ ${#steps[@]} -gt 0 ] || steps=("${all_steps[@]}")
 
-headline() { printf '\n== %s\n' "$*"; }
+headline() { printf '\n== %s, after %d:%02d minutes\n' "$*" $((SECONDS / 60)) $((SECONDS % 60)); }
 
 # run_preset PRESET [TEST ...]: everything, or the named tests alone, each a target of its own.
 run_preset()

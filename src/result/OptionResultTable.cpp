@@ -85,7 +85,7 @@ void OptionResultTable::store(const OptionDescription& option, OptionResult& rec
         StoredOption& stored = makeRecord(Names(option.names));
         stored.byDefault = makeDefault(record);
         append(stored, record);
-        enter(option, stored);
+        enter(option, stored, place);
     }
 }
 
@@ -105,21 +105,23 @@ void OptionResultTable::storeValue(const OptionDescription& option, ValueEntry& 
     }
     else
     {
-        storeNewValue(option, value);
+        storeNewValue(option, value, place);
     }
 }
 
 // The same of an option that was never stored.
-void OptionResultTable::storeNewValue(const OptionDescription& option, ValueEntry& value)
+void OptionResultTable::storeNewValue(const OptionDescription& option, ValueEntry& value,
+                                      const Place& place)
 {
     reserveToRecall(option.tableIndex());
-    enter(option, makeRecord(Names(option.names), [&] { return adoptPaired(value); }));
+    enter(option, makeRecord(Names(option.names), [&] { return adoptPaired(value); }), place);
 }
 
 // Lets the option find its record, once something is stored there.
-inline void OptionResultTable::enter(const OptionDescription& option, StoredOption& stored) noexcept
+inline void OptionResultTable::enter(const OptionDescription& option, StoredOption& stored,
+                                     const Place& place) noexcept
 {
-    if (isOnlySource(option.index())) [[likely]]
+    if (place.fresh) [[likely]]
     {
         bindNew(Names(option.names), stored);
     }
@@ -151,7 +153,7 @@ inline OptionResultTable::Place OptionResultTable::locate(const OptionDescriptio
         StoredOption* const known = recall(option.tableIndex());
         if (known == nullptr || known->names == option.names.size())
         {
-            return {known, false};
+            return {known, false, known == nullptr};
         }
     }
     return locateAnywhere(option);
@@ -165,18 +167,18 @@ OptionResultTable::Place OptionResultTable::locateAnywhere(const OptionDescripti
     StoredOption* known = recall(option.tableIndex());
     if (isOnlySource(option.index()) && known == nullptr)
     {
-        return {nullptr, false};
+        return {nullptr, false, true};
     }
     if (known == nullptr || !isSharedBy(*known, names))
     {
         known = find(names.front());
         if (known != nullptr && !isSharedBy(*known, names))
         {
-            return {known, true};
+            return {known, true, false};
         }
         remember(option.tableIndex(), known);
     }
-    return {known, false};
+    return {known, false, false};
 }
 
 // Whether just these names, each of them listed once, find the record.

@@ -138,13 +138,14 @@ private:
     {
         StoredOption* record; // null: the option was never stored
         bool apart;           // whether its names do not share exactly this one
+        bool fresh;           // whether none of its names is stored, and all of them differ
     };
     [[nodiscard]] Place locate(const OptionDescription& option);
     [[nodiscard]] Place locateAnywhere(const OptionDescription& option);
     [[nodiscard]] bool isSharedBy(const StoredOption& stored, Names names) const noexcept;
 
-    void storeNewValue(const OptionDescription& option, ValueEntry& value);
-    void enter(const OptionDescription& option, StoredOption& stored) noexcept;
+    void storeNewValue(const OptionDescription& option, ValueEntry& value, const Place& place);
+    void enter(const OptionDescription& option, StoredOption& stored, const Place& place) noexcept;
     void append(StoredOption& target, ValueEntry& value);
     void append(StoredOption& target, OptionResult& record);
     void storeApart(Names names, OptionResult& record);
