@@ -18,19 +18,26 @@ void TextSlots::reserve(std::size_t count, std::size_t fewest)
     void* const memory = m_memory->allocate(slots * sizeof(Slot), alignof(Slot));
     std::memset(memory, 0xFF, slots * sizeof(Slot)); // which makes all of them free
     Slot* const grown = static_cast<Slot*>(memory);
-    // Walked in order, the slots in use go to places that lie in order too, half of them in each
-    // half of a doubled table. That spares the processor's cache.
-    for (const Slot* old = m_slots; m_slots != nullptr && old <= m_slots + m_mask; ++old)
+    // The slots in use are moved together first. Which of them are free follows no pattern, so a
+    // branch on it can hardly be predicted.
+    const std::size_t known = m_slots == nullptr ? 0 : m_mask + 1;
+    std::size_t used = 0;
+    for (std::size_t index = 0; index < known; ++index)
     {
-        if (old->number != absent)
+        const Slot old = m_slots[index];
+        m_slots[used] = old;
+        used += old.number == absent ? 0 : 1;
+    }
+    // They go, in their order, to places that lie in order too, half of them in each half of a
+    // doubled table. That spares the processor's cache.
+    for (std::size_t index = 0; index < used; ++index)
+    {
+        std::size_t slot = m_slots[index].mark & mask;
+        while (grown[slot].number != absent)
         {
-            std::size_t slot = old->mark & mask;
-            while (grown[slot].number != absent)
-            {
-                slot = (slot + 1) & mask;
-            }
-            grown[slot] = *old;
+            slot = (slot + 1) & mask;
         }
+        grown[slot] = m_slots[index];
     }
     free();
     m_slots = grown;
