@@ -14,12 +14,19 @@ namespace kexa_3_3
 // One of these for each platform.
 void preferLargePages(void* memory, std::size_t size) noexcept;
 
+// The bytes of a large page, or 0 where there are none to ask for. There, on Windows, memory counts
+// as used as soon as a block is taken: what is skipped in front of a large page would not be free.
+#ifdef _WIN32
+inline constexpr std::size_t large_page = 0;
+#else
+inline constexpr std::size_t large_page = std::size_t{1} << 21; // on x86-64
+#endif
+
 // How many bytes to ask for beyond the size of a block, so that it can begin where a large page
-// does: none where it is not worth it. Large pages have 2 MiB on x86-64.
+// does: none where it is not worth it.
 [[nodiscard]] constexpr std::size_t slackForLargePages(std::size_t size) noexcept
 {
     constexpr std::size_t smallest_block = std::size_t{1} << 22;
-    constexpr std::size_t large_page = std::size_t{1} << 21;
     return size >= smallest_block ? large_page : 0;
 }
 

@@ -1,4 +1,5 @@
-// Memory given back all at once, memory for objects that may stay small, and room made ahead.
+// Memory given back all at once, memory in large pages, memory for objects that may stay small, and
+// room made ahead.
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -14,6 +15,7 @@
 
 #include "support/Arena.h"
 #include "support/Growth.h"
+#include "support/LargePages.h"
 #include "support/PlainTable.h"
 #include "support/SmallBlocks.h"
 
@@ -23,8 +25,11 @@ namespace
 {
 
 using kexa_3_3::Arena;
+using kexa_3_3::beginInLargePages;
+using kexa_3_3::large_page;
 using kexa_3_3::PlainTable;
 using kexa_3_3::reserveMore;
+using kexa_3_3::slackForLargePages;
 using kexa_3_3::SmallBlocks;
 using unit::allocationCount;
 
@@ -134,6 +139,34 @@ TEST(Arena, IsAMemoryResourceThatFreesNothingEarly)
     {
         ASSERT_EQ(kept[number], number);
     }
+}
+
+// Wherever the heap has put it.
+TEST(LargePages, BlockOfManyMegabytesBeginsAtOneAndEndsInItsMemory)
+{
+    constexpr std::size_t size = std::size_t{1} << 22;
+    std::vector<std::byte> memory(size + large_page + 4096);
+    ASSERT_EQ(slackForLargePages(size), large_page);
+    for (const std::size_t offset : {0U, 16U, 4096U})
+    {
+        std::byte* const place = memory.data() + offset;
+        std::byte* const block = beginInLargePages(place, size);
+        EXPECT_GE(block, place);
+        EXPECT_LE(block + size, place + large_page + size);
+        if constexpr (large_page != 0)
+        {
+            EXPECT_EQ(reinterpret_cast<std::uintptr_t>(block) & (large_page - 1), 0U) << offset;
+        }
+        std::memset(block, 0xA5, size);
+    }
+}
+
+TEST(LargePages, SmallerBlockTakesNothingMoreAndBeginsAtOnce)
+{
+    constexpr std::size_t size = (std::size_t{1} << 22) - 8;
+    EXPECT_EQ(slackForLargePages(size), 0U);
+    std::array<std::byte, 64> memory = {};
+    EXPECT_EQ(beginInLargePages(memory.data() + 8, size), memory.data() + 8);
 }
 
 TEST(PlainTable, KeepsItsValuesHoweverOftenItGrows)
