@@ -14,20 +14,22 @@ namespace kexa_3_3
 // One of these for each platform.
 void preferLargePages(void* memory, std::size_t size) noexcept;
 
-// The bytes of a large page, or 0 where there are none to ask for. There, on Windows, memory counts
-// as used as soon as a block is taken: what is skipped in front of a large page would not be free.
+// Whether there are large pages to ask for. There are none on Windows, where memory counts as used
+// as soon as a block is taken: what is skipped in front of a large page would not be free.
 #ifdef _WIN32
-inline constexpr std::size_t large_page = 0;
+inline constexpr bool has_large_pages = false;
 #else
-inline constexpr std::size_t large_page = std::size_t{1} << 21; // on x86-64
+inline constexpr bool has_large_pages = true;
 #endif
+
+inline constexpr std::size_t large_page = std::size_t{1} << 21; // bytes, on x86-64
 
 // How many bytes to ask for beyond the size of a block, so that it can begin where a large page
 // does: none where it is not worth it.
 [[nodiscard]] constexpr std::size_t slackForLargePages(std::size_t size) noexcept
 {
     constexpr std::size_t smallest_block = std::size_t{1} << 22;
-    return size >= smallest_block ? large_page : 0;
+    return has_large_pages && size >= smallest_block ? large_page : 0;
 }
 
 // Where a block of so many bytes begins in memory with that slack. What is skipped is never touched
