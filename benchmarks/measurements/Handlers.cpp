@@ -1,6 +1,8 @@
 // What event handlers add to a parse, beside the bare calls of the same handlers.
 #include <algorithm>
 #include <array>
+#include <cstddef>
+#include <string>
 #include <vector>
 
 #include "measurements/ProcessorTime.h"
@@ -36,12 +38,12 @@ private:
 };
 
 constexpr std::array<std::size_t, 3> handler_counts = {0, 1, 4};
-constexpr int turns = 99; // enough for a median
+constexpr int turns = 100; // even, so that each order has as many; enough for a median
 
 // Seconds of a parse with so many handlers. Answers a negative number where one missed an event.
 double parseTime(const Workload& workload, std::size_t count)
 {
-    std::array<Counter, 4> counters;
+    std::array<Counter, handler_counts.back()> counters;
     KexaHost host(workload);
     for (std::size_t i = 0; i < count; ++i)
     {
@@ -67,28 +69,30 @@ double medianNanoseconds(std::vector<double>& seconds)
 
 // The parse alone, with none, one and several handlers by turns: what differs is so small beside
 // the rest that the machine's better and worse moments have to fall on all of them alike. What one
-// handler adds is the median of the differences of two parses that follow each other.
+// handler adds is the median of the differences between the parses with none and with one, which
+// follow each other, now in this order and now in that.
+//
+// The report takes times from the counters whose names begin with "ns ".
 void measureHandlers(benchmark::State& state, Session& session, const std::string& name)
 {
     const Workload& workload = session.workload(name);
     std::array<std::vector<double>, handler_counts.size()> times;
     std::vector<double> added;
-    std::size_t first = 0;
+    std::array<std::size_t, handler_counts.size()> order = {0, 1, 2};
     for (auto _ : state)
     {
-        for (std::size_t i = 0; i < times.size(); ++i)
+        for (const std::size_t which : order)
         {
-            const std::size_t turn = (first + i) % times.size();
-            const double time = parseTime(workload, handler_counts.at(turn));
+            const double time = parseTime(workload, handler_counts.at(which));
             if (time < 0)
             {
                 session.fail(state, "a handler missed an event");
                 return;
             }
-            times.at(turn).push_back(time);
+            times.at(which).push_back(time);
         }
         added.push_back(times[1].back() - times[0].back());
-        ++first;
+        std::swap(order[0], order[1]);
     }
     for (std::size_t i = 0; i < times.size(); ++i)
     {

@@ -29,11 +29,10 @@ class Results:
                      if part != "manual_time" and not part.startswith("iterations:")]
             time = entry["real_time"] if manual else entry["cpu_time"]
             assert entry["time_unit"] == "ns"
-            contestants = times.setdefault("/".join(parts[:-1]), {})
-            contestants[parts[-1]] = time
-            # What was measured by turns is reported by its median nanoseconds.
-            contestants.update({key.removeprefix("ns "): value for key, value in entry.items()
-                                if key.startswith("ns ")})
+            # What was measured by turns comes as counters of median nanoseconds.
+            by_turns = {key.removeprefix("ns "): value for key, value in entry.items()
+                        if key.startswith("ns ")}
+            times.setdefault("/".join(parts[:-1]), {}).update(by_turns or {parts[-1]: time})
         return times
 
     def measurements(self):

@@ -28,7 +28,7 @@ bool EventForwarding::remove(EventHandler* handler)
 
 bool EventForwarding::onOptionParsed(const wchar_t* name)
 {
-    return forAll(
+    return tellInTurn(
         [name](EventHandler& handler)
         {
             static_cast<void>(handler.onOptionParsed(name));
@@ -38,13 +38,13 @@ bool EventForwarding::onOptionParsed(const wchar_t* name)
 
 bool EventForwarding::onValueParsed(const wchar_t* name, const ValueRecord* value)
 {
-    return forAll([=](EventHandler& handler) { return handler.onValueParsed(name, value); });
+    return tellInTurn([=](EventHandler& handler) { return handler.onValueParsed(name, value); });
 }
 
 bool EventForwarding::onUnknownArgument(const wchar_t* argument)
 {
     bool unknown = true;
-    static_cast<void>(forAll(
+    static_cast<void>(tellInTurn(
         [&](EventHandler& handler)
         {
             unknown = handler.onUnknownArgument(argument) && unknown;
@@ -54,11 +54,11 @@ bool EventForwarding::onUnknownArgument(const wchar_t* argument)
 }
 
 template <class Tell>
-bool EventForwarding::forAll(Tell tell) const
+bool EventForwarding::tellInTurn(Tell tell) const
 {
     EventHandler* const* next = m_handlers.data();
     EventHandler* const* end = next + m_handlers.size();
-    std::uint32_t changes = m_changes;
+    std::uint64_t changes = m_changes;
     while (next != end)
     {
         EventHandler* const handler = *next++;

@@ -37,14 +37,14 @@ public:
     bool onUnknownArgument(const wchar_t* argument) override;
 
 private:
-    // Hands the handlers, one after the other, to `tell`, until that answers false. Answers whether
-    // it never did.
+    // Hands the handlers to `tell`, one after the other, as long as that answers to go on. Answers
+    // whether it always did.
     template <class Tell>
-    [[nodiscard]] bool forAll(Tell tell) const;
+    [[nodiscard]] bool tellInTurn(Tell tell) const;
     [[nodiscard]] EventHandler* const* firstAbove(EventHandler* handler) const;
 
     std::vector<EventHandler*> m_handlers; // by ascending address; not owned
-    std::uint32_t m_changes = 0;           // of the above; tells only whether there were any
+    std::uint64_t m_changes = 0;           // how often they were changed
 };
 
 } // namespace kexa_3_3

@@ -178,7 +178,9 @@ int ValueStoring::storePieces(const GivenValue& given, wchar_t separator,
 
 // Checks a converted piece of the value, numbers it and offers it to the event handlers.
 //
-// entry: the piece as it was written, and what it was converted to.
+// entry: the piece as it was written, and what it was converted to. Becomes the one to store: with
+//        its number, and completed or replaced where the check says so. Where a handler throws it
+//        has lost its value.
 template <class Run>
 inline int ValueStoring::accept(const GivenValue& given, [[maybe_unused]] bool isCut,
                                 SharedTexts* texts, ValueEntry& entry, std::wstring& error)

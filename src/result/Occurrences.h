@@ -34,25 +34,26 @@ struct Occurrence
     {
         if (texts.reclaim(target)) [[likely]]
         {
-            // Null by now, so there is nothing to destroy.
-            new (static_cast<void*>(&target)) vexkit2::variant_t(copyOfValue(texts));
+            // Null by now. Placed there, as an assignment would exchange and destroy.
+            new (static_cast<void*>(&target)) vexkit2::variant_t(sharedValue(texts));
             return;
         }
-        vexkit2::variant_t copy(copyOfValue(texts));
+        vexkit2::variant_t copy(sharedValue(texts));
         // Exchanged, not assigned: the destructor of an object that goes with the copy may ask for
         // another value, so nothing may follow it.
         target.swap(copy);
     }
 
 private:
+    // The value, with a share of its block.
     // NOLINTNEXTLINE(bugprone-exception-escape): as above.
-    [[nodiscard]] vexkit2::variant_t copyOfValue(SharedTexts& texts) const noexcept
+    [[nodiscard]] vexkit2::variant_t sharedValue(SharedTexts& texts) const noexcept
     {
         vexkit2::variant_t copy = vexkit2::variant_t::attach(kind, word); // without a share yet
         if (copy.memory() != nullptr && !texts.lend(copy))
         {
-            vexkit2::variant_t shared = copy;
-            static_cast<void>(shared.detach());
+            vexkit2::variant_t counted = copy; // and never given up
+            static_cast<void>(counted.detach());
         }
         return copy;
     }

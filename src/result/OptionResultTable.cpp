@@ -121,7 +121,7 @@ void OptionResultTable::storeNewValue(const OptionDescription& option, ValueEntr
 inline void OptionResultTable::enter(const OptionDescription& option, StoredOption& stored,
                                      const Place& place) noexcept
 {
-    if (place.fresh) [[likely]]
+    if (place.namesAreNew) [[likely]]
     {
         bindNew(Names(option.names), stored);
     }
@@ -153,7 +153,7 @@ inline OptionResultTable::Place OptionResultTable::locate(const OptionDescriptio
         StoredOption* const known = recall(option.tableIndex());
         if (known == nullptr || known->names == option.names.size())
         {
-            return {known, false, known == nullptr};
+            return {.record = known, .namesAreNew = known == nullptr};
         }
     }
     return locateAnywhere(option);
@@ -167,18 +167,18 @@ OptionResultTable::Place OptionResultTable::locateAnywhere(const OptionDescripti
     StoredOption* known = recall(option.tableIndex());
     if (isOnlySource(option.index()) && known == nullptr)
     {
-        return {nullptr, false, true};
+        return {.namesAreNew = true};
     }
     if (known == nullptr || !isSharedBy(*known, names))
     {
         known = find(names.front());
         if (known != nullptr && !isSharedBy(*known, names))
         {
-            return {known, true, false};
+            return {.record = known, .apart = true};
         }
         remember(option.tableIndex(), known);
     }
-    return {known, false, false};
+    return {.record = known};
 }
 
 // Whether just these names, each of them listed once, find the record.

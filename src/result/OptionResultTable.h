@@ -136,17 +136,21 @@ private:
 
     struct Place
     {
-        StoredOption* record; // null: the option was never stored
-        bool apart;           // whether its names do not share exactly this one
-        bool fresh;           // whether none of its names is stored, and all of them differ
+        StoredOption* record = nullptr; // null: the option was never stored
+        bool apart = false;             // whether its names do not share exactly this one
+
+        // Whether it is known that none of its names is stored, and that all of them differ. Where
+        // it is not, both may be so nevertheless.
+        bool namesAreNew = false;
     };
-    [[nodiscard]] Place locate(const OptionDescription& option);
+    [[nodiscard]] inline Place locate(const OptionDescription& option);
     [[nodiscard]] Place locateAnywhere(const OptionDescription& option);
     [[nodiscard]] bool isSharedBy(const StoredOption& stored, Names names) const noexcept;
 
     void storeNewValue(const OptionDescription& option, ValueEntry& value, const Place& place);
-    void enter(const OptionDescription& option, StoredOption& stored, const Place& place) noexcept;
-    void append(StoredOption& target, ValueEntry& value);
+    inline void enter(const OptionDescription& option, StoredOption& stored,
+                      const Place& place) noexcept;
+    inline void append(StoredOption& target, ValueEntry& value);
     void append(StoredOption& target, OptionResult& record);
     void storeApart(Names names, OptionResult& record);
 
@@ -187,16 +191,17 @@ private:
     template <class Entry>
     void moveInto(Entry*& entries, std::size_t used, std::size_t before, std::size_t room);
     void bind(Names names, StoredOption& stored) noexcept;
-    void bindNew(Names names, StoredOption& stored) noexcept;
+    inline void bindNew(Names names, StoredOption& stored) noexcept;
 
     [[nodiscard]] const Occurrence* makeDefault(const OptionResult& record);
-    [[nodiscard]] Occurrence adopt(ValueEntry& entry);
-    [[nodiscard]] Occurrence adoptPaired(ValueEntry& entry);
+    [[nodiscard]] inline Occurrence adopt(ValueEntry& entry);
+    [[nodiscard]] inline Occurrence adoptPaired(ValueEntry& entry);
     [[nodiscard]] Occurrence adoptShare(ValueEntry& entry);
     void keep(OptionResult& record);
     [[nodiscard]] Occurrence take(ValueEntry& entry) noexcept;
-    [[nodiscard]] static Occurrence takeText(ValueEntry& entry) noexcept;
-    [[nodiscard]] static Occurrence takeWord(ValueEntry& entry, const wchar_t* text) noexcept;
+    [[nodiscard]] static inline Occurrence takeText(ValueEntry& entry) noexcept;
+    [[nodiscard]] static inline Occurrence takeWord(ValueEntry& entry,
+                                                    const wchar_t* text) noexcept;
     void keepShare(ValueEntry& entry);
     [[nodiscard]] static Occurrence takeShare(ValueEntry& entry) noexcept;
 

@@ -38,7 +38,7 @@ result_t ParseResult::getFirstValue(Value* out, const wchar_t* name, std::int32_
 
 result_t ParseResult::getNextValue(Value* out, const wchar_t* /*name*/)
 {
-    return answer(out, m_currentOption == nullptr || isWalkedOff() ? nullptr : nextValue());
+    return answer(out, m_currentOption == nullptr || isAtEndOfValues() ? nullptr : nextValue());
 }
 
 std::int32_t ParseResult::getNextPosition()
@@ -94,12 +94,19 @@ bool ParseResult::walksOccurrences() const noexcept
     return m_currentOption->occurrences.hasPositions() || m_currentOption->byDefault == nullptr;
 }
 
-// Whether the usual walk, over positions and values, is at its end.
-inline bool ParseResult::isWalkedOff() const noexcept
+// Whether a walk over values goes by those and by the range, as of any option that was given with
+// one.
+inline bool ParseResult::walksValuesInRange() const noexcept
 {
     const Occurrences& occurrences = m_currentOption->occurrences;
-    return occurrences.hasPositions() && occurrences.hasValues() &&
-           occurrences.isEnd(m_valueCursor);
+    return occurrences.hasPositions() && occurrences.hasValues();
+}
+
+// Whether such a walk is at its end. Seen here, the end costs no calls; where it is not seen there
+// may be no further value nevertheless.
+inline bool ParseResult::isAtEndOfValues() const noexcept
+{
+    return walksValuesInRange() && m_currentOption->occurrences.isEnd(m_valueCursor);
 }
 
 // Moves the cursor to the start of an option. Answers whether there is one.
@@ -165,12 +172,7 @@ const Occurrence* ParseResult::firstUnusual() noexcept
 // The next value of the walk, or null. Needs a current option.
 const Occurrence* ParseResult::nextValue() noexcept
 {
-    const Occurrences& occurrences = m_currentOption->occurrences;
-    if (occurrences.hasPositions() && occurrences.hasValues())
-    {
-        return nextInRange();
-    }
-    return nextUnusual();
+    return walksValuesInRange() ? nextInRange() : nextUnusual();
 }
 
 const Occurrence* ParseResult::nextInRange() noexcept

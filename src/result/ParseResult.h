@@ -66,18 +66,19 @@ private:
     }
     [[noreturn]] static void refuseNameless();
     [[nodiscard]] bool walksOccurrences() const noexcept;
-    [[nodiscard]] bool isWalkedOff() const noexcept;
+    [[nodiscard]] inline bool walksValuesInRange() const noexcept;
+    [[nodiscard]] inline bool isAtEndOfValues() const noexcept;
     [[nodiscard]] bool beginQuery(const wchar_t* name, std::int32_t from, std::int32_t to) noexcept;
     [[nodiscard]] bool isInRange(const Occurrence& occurrence) const noexcept;
     [[nodiscard]] bool findPosition() noexcept;
-    [[nodiscard]] const Occurrence* firstValue() noexcept;
+    [[nodiscard]] inline const Occurrence* firstValue() noexcept;
     [[nodiscard]] const Occurrence* firstUnusual() noexcept;
     [[nodiscard]] const Occurrence* nextValue() noexcept;
     [[nodiscard]] const Occurrence* nextInRange() noexcept;
     [[nodiscard]] const Occurrence* nextUnusual() noexcept;
     // NOLINTNEXTLINE(bugprone-exception-escape): as in the definition.
-    [[nodiscard]] result_t answer(Value* out, const Occurrence* found) noexcept;
-    result_t answerNothing(Value* out) noexcept;
+    [[nodiscard]] inline result_t answer(Value* out, const Occurrence* found) noexcept;
+    inline result_t answerNothing(Value* out) noexcept;
 
     InlineBlock<6144> m_firstBlock; // holds what a command line of usual size leaves
     Garbage m_strings; // keeps every text handed out, so it is destroyed after what refers to it

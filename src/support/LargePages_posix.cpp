@@ -9,21 +9,56 @@
 namespace kexa_3_3
 {
 
-void preferLargePages([[maybe_unused]] void* memory, [[maybe_unused]] std::size_t size) noexcept
-{
 #ifdef MADV_HUGEPAGE
-    // Only whole pages may be named. A refusal (a kernel without large pages) is no failure.
-    const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+
+namespace
+{
+
+constexpr std::size_t smallest_block = std::size_t{1} << 22;
+constexpr std::size_t large_page = std::size_t{1} << 21; // on x86-64
+
+// How many bytes lie between the memory and the next address that a power of two divides.
+std::size_t bytesUpTo(std::size_t alignment, const std::byte* memory) noexcept
+{
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): an address is asked for.
-    const std::size_t skipped = (~reinterpret_cast<std::uintptr_t>(memory) + 1) & (page - 1);
-    if (size > skipped + page)
-    {
-        const int before = errno;
-        static_cast<void>(madvise(static_cast<std::byte*>(memory) + skipped,
-                                  (size - skipped) & ~(page - 1), MADV_HUGEPAGE));
-        errno = before;
-    }
-#endif
+    return (~reinterpret_cast<std::uintptr_t>(memory) + 1) & (alignment - 1);
 }
+
+} // namespace
+
+std::size_t slackForLargePages(std::size_t size) noexcept
+{
+    return size >= smallest_block ? large_page : 0;
+}
+
+// What is skipped is never touched and costs nothing.
+std::byte* beginInLargePages(std::byte* memory, std::size_t size) noexcept
+{
+    if (slackForLargePages(size) == 0)
+    {
+        return memory;
+    }
+    memory += bytesUpTo(large_page, memory);
+    // Only whole pages may be named.
+    const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+    const int before = errno;
+    static_cast<void>(madvise(memory, size & ~(page - 1), MADV_HUGEPAGE));
+    errno = before;
+    return memory;
+}
+
+#else
+
+std::size_t slackForLargePages(std::size_t /*size*/) noexcept
+{
+    return 0;
+}
+
+std::byte* beginInLargePages(std::byte* memory, std::size_t /*size*/) noexcept
+{
+    return memory;
+}
+
+#endif
 
 } // namespace kexa_3_3

@@ -56,6 +56,13 @@ Positions from(const Occurrences& occurrences, Occurrences::Place place, Step st
 }
 Positions allOf(const Occurrences& occurrences)
 {
+    Occurrences::Place place = occurrences.begin();
+    bool ended = false;
+    while (!ended)
+    {
+        ended = occurrences.isEnd(place);
+        EXPECT_EQ(occurrences.next(place) == nullptr, ended);
+    }
     return from(occurrences, occurrences.begin(), &Occurrences::next);
 }
 Positions upTo(std::int32_t end, std::int32_t first = 0)

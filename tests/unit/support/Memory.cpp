@@ -26,8 +26,6 @@ namespace
 
 using kexa_3_3::Arena;
 using kexa_3_3::beginInLargePages;
-using kexa_3_3::has_large_pages;
-using kexa_3_3::large_page;
 using kexa_3_3::PlainTable;
 using kexa_3_3::reserveMore;
 using kexa_3_3::slackForLargePages;
@@ -142,21 +140,27 @@ TEST(Arena, IsAMemoryResourceThatFreesNothingEarly)
     }
 }
 
-// Wherever the heap has put it.
-TEST(LargePages, BlockOfManyMegabytesBeginsAtOneAndEndsInItsMemory)
+// On Windows there are no large pages to ask for, and memory in front of one would not be free.
+#ifdef _WIN32
+constexpr std::size_t expected_slack = 0;
+#else
+constexpr std::size_t expected_slack = std::size_t{1} << 21;
+#endif
+
+TEST(LargePages, BlockOfManyMegabytesBeginsWhereOneDoesIfThereAreAny)
 {
     constexpr std::size_t size = std::size_t{1} << 22;
-    std::vector<std::byte> memory(size + large_page + 4096);
-    ASSERT_EQ(slackForLargePages(size), has_large_pages ? large_page : 0);
-    for (const std::size_t offset : {0U, 16U, 4096U})
+    std::vector<std::byte> memory(size + expected_slack + 4096);
+    ASSERT_EQ(slackForLargePages(size), expected_slack);
+    for (const std::size_t offset : {0U, 16U, 4096U}) // wherever the heap has put it
     {
         std::byte* const place = memory.data() + offset;
         std::byte* const block = beginInLargePages(place, size);
         EXPECT_GE(block, place);
-        EXPECT_LE(block + size, place + large_page + size);
-        if constexpr (has_large_pages)
+        EXPECT_LE(block, place + expected_slack);
+        if constexpr (expected_slack != 0)
         {
-            EXPECT_EQ(reinterpret_cast<std::uintptr_t>(block) & (large_page - 1), 0U) << offset;
+            EXPECT_EQ(reinterpret_cast<std::uintptr_t>(block) & (expected_slack - 1), 0U) << offset;
         }
         std::memset(block, 0xA5, size);
     }
