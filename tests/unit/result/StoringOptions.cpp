@@ -1,13 +1,18 @@
 // What a result keeps of the records that it is given.
+#include <cstdint>
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "options/OptionDescription.h"
+#include "options/OptionIndex.h"
 #include "result/ParseResult.h"
 #include "support/Garbage.h"
+#include "support/HashedText.h"
 
+#include "../options/EnteredOption.h"
 #include "StoredContents.h"
 #include "TextPrinting.h"
 
@@ -85,6 +90,40 @@ TEST_F(StoringOptions, EveryNameFindsTheRecord)
     ASSERT_EQ(result.options().size(), 2U);
     EXPECT_EQ(result.options().name(0), L"name");
     EXPECT_EQ(result.options().name(1), L"n");
+}
+
+// A slot keeps 32 bits of a name's hash.
+TEST_F(StoringOptions, NamesWithTheSamePartOfTheHashAreTwo)
+{
+    std::unordered_map<std::uint32_t, std::wstring> names;
+    std::wstring first;
+    std::wstring second;
+    for (int number = 0; first.empty() && number < 2000000; ++number)
+    {
+        const std::wstring name = L"option" + std::to_wstring(number);
+        const auto part = static_cast<std::uint32_t>(HashedText(name).hash());
+        const auto [known, isNew] = names.try_emplace(part, name);
+        if (!isNew)
+        {
+            first = known->second;
+            second = name;
+        }
+    }
+    ASSERT_FALSE(first.empty());
+    OptionIndex index;
+    OptionDescription one(no_group, false, pool);
+    OptionDescription two(no_group, false, pool);
+    one.addName(first.c_str());
+    two.addName(second.c_str());
+    unit::enterOption(one, index, 0);
+    unit::enterOption(two, index, 1);
+    store(one, L"1", variant_t(1), 1);
+    EXPECT_EQ(stored(second), nullptr);
+    store(two, L"2", variant_t(2), 2);
+    ASSERT_NE(stored(first), nullptr);
+    ASSERT_NE(stored(second), nullptr);
+    EXPECT_EQ(unit::positionsOf(*stored(first)), std::vector<std::int32_t>{1});
+    EXPECT_EQ(unit::positionsOf(*stored(second)), std::vector<std::int32_t>{2});
 }
 
 TEST_F(StoringOptions, TextsAreKept)

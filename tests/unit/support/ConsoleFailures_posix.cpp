@@ -8,6 +8,7 @@
 #include <thread>
 
 #include <fcntl.h>
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include "support/ConsoleStreams.h"
@@ -93,8 +94,15 @@ TEST(ConsoleFailures, DescriptorThatDoesNotWaitGetsTheWholeText)
     std::thread reader(
         [&received, end = ends[0]]
         {
-            // Until the pipe is full and the writer has to wait.
-            std::this_thread::sleep_for(std::chrono::milliseconds(50));
+            // Until the pipe gets no fuller: the writer has to wait.
+            int before = -1;
+            int filled = 0;
+            for (int turn = 0; turn < 500 && (filled == 0 || filled != before); ++turn)
+            {
+                before = filled;
+                std::this_thread::sleep_for(std::chrono::milliseconds(20));
+                static_cast<void>(::ioctl(end, FIONREAD, &filled));
+            }
             std::string part(5000, '\0');
             for (ssize_t count = 0; (count = ::read(end, part.data(), part.size())) > 0;)
             {
