@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "measurements/ProcessorTime.h"
@@ -40,7 +41,8 @@ private:
 constexpr std::array<std::size_t, 3> handler_counts = {0, 1, 4};
 constexpr int turns = 100; // even, so that each order has as many; enough for a median
 
-// Seconds of a parse with so many handlers. Answers a negative number where one missed an event.
+// Seconds of a parse with so many handlers. Answers a negative number where one missed an event, or
+// where a value read is wrong.
 double parseTime(const Workload& workload, std::size_t count)
 {
     std::array<Counter, handler_counts.back()> counters;
@@ -86,7 +88,7 @@ void measureHandlers(benchmark::State& state, Session& session, const std::strin
             const double time = parseTime(workload, handler_counts.at(which));
             if (time < 0)
             {
-                session.fail(state, "a handler missed an event");
+                session.fail(state, "a handler missed an event, or a value read is wrong");
                 return;
             }
             times.at(which).push_back(time);

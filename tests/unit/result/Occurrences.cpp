@@ -57,11 +57,11 @@ Positions from(const Occurrences& occurrences, Occurrences::Place place, Step st
 Positions allOf(const Occurrences& occurrences)
 {
     Occurrences::Place place = occurrences.begin();
-    bool ended = false;
-    while (!ended)
+    for (bool ended = false; !ended;)
     {
-        ended = occurrences.isEnd(place);
-        EXPECT_EQ(occurrences.next(place) == nullptr, ended);
+        const bool saysSo = occurrences.isEnd(place);
+        ended = occurrences.next(place) == nullptr;
+        EXPECT_EQ(saysSo, ended);
     }
     return from(occurrences, occurrences.begin(), &Occurrences::next);
 }
