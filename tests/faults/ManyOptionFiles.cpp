@@ -1,5 +1,6 @@
 // Option files in numbers: a long chain, a long list, and cycles.
 #include <cstddef>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -13,6 +14,9 @@ namespace
 
 constexpr int file_count = 10000;
 
+// Wine reads a folder to its end for each file that is made in it.
+constexpr int files_in_folder = 100;
+
 class ManyOptionFiles : public testing::Test
 {
 protected:
@@ -22,10 +26,21 @@ protected:
         host.parser().enableOptionFiles(L"", L"");
     }
 
-    static std::string nameOf(int number) { return "file-" + std::to_string(number); }
+    static std::string folderOf(int number)
+    {
+        return "folder-" + std::to_string(number / files_in_folder);
+    }
+    static std::string nameOf(int number)
+    {
+        return folderOf(number) + "/file-" + std::to_string(number);
+    }
 
     void write(int number, const std::string& lines)
     {
+        if (number % files_in_folder == 0)
+        {
+            std::filesystem::create_directory(folder.path() / folderOf(number));
+        }
         const std::string name = nameOf(number);
         folder.write(std::wstring(name.begin(), name.end()), lines);
     }
@@ -54,7 +69,7 @@ TEST_F(ManyOptionFiles, AChainIsReadToItsEnd)
         write(number, "--name=" + std::to_string(number) + "\n--option-file=" +
                           nameOf(number + 1 == file_count ? 0 : number + 1) + "\n");
     }
-    EXPECT_EQ(host.parse({L"--option-file=file-0"}), result_success);
+    EXPECT_EQ(host.parse({L"--option-file=folder-0/file-0"}), result_success);
     expectNumbersUpTo(file_count);
 }
 
@@ -83,27 +98,29 @@ TEST_F(ManyOptionFiles, EveryFileNamingEveryOtherComesToAnEnd)
     {
         write(number, "--name=" + std::to_string(number) + "\n" + all);
     }
-    EXPECT_EQ(host.parse({L"--option-file=file-0"}), result_success);
+    EXPECT_EQ(host.parse({L"--option-file=folder-0/file-0"}), result_success);
     expectNumbersUpTo(few);
 }
 
 TEST_F(ManyOptionFiles, AMissingOneAtTheEndOfAChainIsNamed)
 {
-    constexpr int few = 100;
+    constexpr int few = files_in_folder - 1;
     for (int number = 0; number < few; ++number)
     {
         write(number, "--name=" + std::to_string(number) + "\n--option-file=" + nameOf(number + 1));
     }
-    EXPECT_EQ(host.parse({L"--option-file=file-0"}), result_unreadable_option_file);
-    EXPECT_EQ(host.message(), L"Error reading option file 'file-100': no such file");
+    EXPECT_EQ(host.parse({L"--option-file=folder-0/file-0"}), result_unreadable_option_file);
+    EXPECT_EQ(host.message(), L"Error reading option file 'folder-0/file-99': no such file");
     expectNumbersUpTo(few);
 }
 
 TEST_F(ManyOptionFiles, ANameWithAZeroCharacterIsNotTheNameBeforeIt)
 {
     write(0, "--name=0\n");
-    folder.write(L"list", std::string("--option-file=file-0\n--option-file=file-0\0more\n", 47));
+    folder.write(
+        L"list",
+        std::string("--option-file=folder-0/file-0\n--option-file=folder-0/file-0\0more\n", 65));
     EXPECT_EQ(host.parse({L"--option-file=list"}), result_unreadable_option_file);
-    EXPECT_EQ(host.message(), L"Error reading option file 'file-0");
+    EXPECT_EQ(host.message(), L"Error reading option file 'folder-0/file-0");
     expectNumbersUpTo(1);
 }
