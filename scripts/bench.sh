@@ -3,12 +3,25 @@
 # checks that every parser reads the right values, runs rounds, and writes docs/performance.md with
 # its plots. Prints the table of ratios. Takes about a quarter of an hour on an idle machine.
 #
-#   scripts/bench.sh [ROUNDS]     5 unless given; slow combinations run in the first round only
+#   scripts/bench.sh [ROUNDS]     5 unless given; slow combinations run in the first round only;
+#                                 short rounds of the closest comparisons follow each
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 rounds=${1:-5}
+short_rounds=7
 results=build/bench/results
+
+# What short rounds compare: where limits are close, and how the cost of kexa grows. Each is a
+# process of its own, so that none finds the heap as another one left it.
+closest=(
+    '^cycle/small/(kexa|getopt_long|args)$'
+    '^cycle/arguments/(10000|1000000)/(kexa|getopt_long)$'
+    '^cycle/typed/(7000|70000)/kexa$'
+    '^cycle/texts/(10000|100000)/kexa$'
+    '^cycle/integers/(10000|100000)/kexa$'
+    '^cycle/allowed/1000/(10000|100000)/kexa$'
+    '^declare/declarations/(2000|20000)/kexa$')
 
 headline() { printf '\n== %s\n' "$*" >&2; }
 
@@ -36,16 +49,31 @@ build/bench/benchmarks/benchmark_cycles check \
         "Boost.Program_options $(version libboost-program-options1.74-dev)," \
         "TCLAP $(version libtclap-dev), args $(version libargs-dev), popt $(version libpopt-dev)," \
         "getopt_long of glibc"
-    echo "- $rounds rounds"
+    echo "- $rounds rounds, $short_rounds short ones after each"
 } >"$results/machine.txt"
+
+# measure FOLDER NAME OPTION...: runs the measurements, to be found as FOLDER/NAME.json
+measure()
+{
+    local folder=$results/$1 name=$2
+    shift 2
+    mkdir -p "$folder"
+    build/bench/benchmarks/kexa_benchmarks "$@" --benchmark_out="$folder/$name.json" \
+        --benchmark_out_format=json >"$folder/$name.txt"
+}
 
 for ((round = 1; round <= rounds; ++round)); do
     headline "round $round of $rounds"
+    folder=round-$(printf '%02d' "$round")
     slow=(--skip-slow)
     [ "$round" -gt 1 ] || slow=()
-    build/bench/benchmarks/kexa_benchmarks "${slow[@]}" --benchmark_min_time=0.05 \
-        --benchmark_out="$results/round-$(printf '%02d' "$round").json" \
-        --benchmark_out_format=json >"$results/round-$round.txt"
+    measure "$folder" all "${slow[@]}" --benchmark_min_time=0.05
+    for ((short = 1; short <= short_rounds; ++short)); do
+        for i in "${!closest[@]}"; do
+            measure "$folder-short-$short" "closest-$i" --benchmark_min_time=0.02 \
+                --benchmark_filter="${closest[i]}"
+        done
+    done
 done
 
 headline "counting instructions and memory"

@@ -11,16 +11,18 @@ CPP_PEERS = ["args", "TCLAP", "CLI11", "Boost.Program_options", "cxxopts"]
 class Results:
     def __init__(self, folder):
         folder = pathlib.Path(folder)
-        self.rounds = [self._read_round(path) for path in sorted(folder.glob("round-*.json"))]
+        self.rounds = [self._read_round(path) for path in sorted(folder.glob("round-*"))]
         if not self.rounds:
             raise SystemExit(f"no rounds in {folder}")
         self.counts = json.loads((folder / "counts.json").read_text())
 
     @staticmethod
-    def _read_round(path):
+    def _read_round(folder):
         """{measurement: {contestant: nanoseconds}}, where a measurement is "cycle/small"."""
         times = {}
-        for entry in json.loads(path.read_text())["benchmarks"]:
+        entries = [entry for path in sorted(folder.glob("*.json"))
+                   for entry in json.loads(path.read_text())["benchmarks"]]
+        for entry in entries:
             if entry.get("error_occurred"):
                 raise SystemExit(f"{entry['name']}: {entry['error_message']}")
             parts = entry["name"].split("/")
