@@ -51,10 +51,11 @@ public:
         const wchar_t* next = text.data();
         const wchar_t* const behind = next + text.size();
         TextHash hash;
-        for (; behind - next >= 2; next += 2)
+        for (std::size_t pairs = text.size() / 2; pairs != 0; --pairs, next += 2)
         {
             // Letters stand above all that ends a name, in the basic set.
-            if (anyBelow<L'=' + 1>(twoCharacters(next)) && (endsName(next[0]) || endsName(next[1])))
+            if (anyMayBeBelow<L'=' + 1>(twoCharacters(next)) &&
+                (endsName(next[0]) || endsName(next[1])))
             {
                 break;
             }

@@ -16,16 +16,17 @@ namespace kexa_3_3
     return two;
 }
 
-// Whether at least one of two characters lies below a limit, itself below the upper half of the
-// codes. Where one does, subtracting the limit from it sets its highest bit, unless that was set
-// before; only then it may borrow from the other one ("Bit Twiddling Hacks", S. E. Anderson).
+// Whether one of two characters may lie below a limit, itself below the upper half of the codes: no
+// where none does, unless one lies in that half. Where one does, subtracting the limit from it sets
+// its highest bit, whether or not it borrows from the other one ("Bit Twiddling Hacks", S. E.
+// Anderson, "Determine if a word has a byte less than n", without the mask for the upper half).
 template <wchar_t limit>
-[[nodiscard]] constexpr bool anyBelow(std::uint64_t two) noexcept
+[[nodiscard]] constexpr bool anyMayBeBelow(std::uint64_t two) noexcept
 {
     constexpr unsigned bits = 8 * sizeof(wchar_t);
     constexpr std::uint64_t ones = std::uint64_t{1} << bits | 1;
     static_assert((static_cast<std::uint64_t>(limit) >> (bits - 1)) == 0);
-    return ((two - ones * static_cast<std::uint64_t>(limit)) & ~two & ones << (bits - 1)) != 0;
+    return ((two - ones * static_cast<std::uint64_t>(limit)) & ones << (bits - 1)) != 0;
 }
 
 } // namespace kexa_3_3
