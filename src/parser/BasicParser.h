@@ -73,10 +73,9 @@ public:
 private:
     [[nodiscard]] result_t parseAll(ArgumentQueue& arguments, IParseResult* result);
     [[nodiscard]] result_t parseOnce(ArgumentQueue& arguments, IParseResult* result,
-                                     ParseResult* leftOver);
+                                     ParseResult* filled);
     [[nodiscard]] result_t collectNonparsingArguments(std::wstring_view endMarker,
-                                                      ArgumentQueue& arguments,
-                                                      IParseResult* result, ParseResult* leftOver,
+                                                      ArgumentQueue& arguments, ParseResult* filled,
                                                       std::wstring& message);
     [[nodiscard]] EventHandler* listeners() noexcept;
     [[nodiscard]] bool takesUnknown(std::wstring_view argument);

@@ -160,13 +160,16 @@ result_t BasicParser::parseAll(ArgumentQueue& arguments, IParseResult* result)
 }
 
 // The arguments of the command line, or of one option file.
-result_t BasicParser::parseOnce(ArgumentQueue& arguments, IParseResult* result,
-                                ParseResult* leftOver)
+//
+// filled: the result where this library can fill it, otherwise null.
+result_t BasicParser::parseOnce(ArgumentQueue& arguments, IParseResult* result, ParseResult* filled)
 {
     const result_t code = parseVector(end_marker, arguments, result, m_errorMessage);
-    return code != result_success ? code
-                                  : collectNonparsingArguments(end_marker, arguments, result,
-                                                               leftOver, m_errorMessage);
+    if (code != result_success || arguments.empty())
+    {
+        return code;
+    }
+    return collectNonparsingArguments(end_marker, arguments, filled, m_errorMessage);
 }
 
 result_t BasicParser::parseVector(std::wstring_view endMarker, ArgumentQueue& arguments,
@@ -225,8 +228,8 @@ bool BasicParser::takesUnknown(std::wstring_view argument)
 
 // Takes the arguments behind the marker: positional ones are parsed, the others kept as left over.
 result_t BasicParser::collectNonparsingArguments(std::wstring_view endMarker,
-                                                 ArgumentQueue& arguments, IParseResult* result,
-                                                 ParseResult* leftOver, std::wstring& message)
+                                                 ArgumentQueue& arguments, ParseResult* filled,
+                                                 std::wstring& message)
 {
     constexpr std::wstring_view prefix = L"collectNonparsingArguments: ";
     auto flags = static_cast<std::uint32_t>(m_flags);
@@ -235,7 +238,6 @@ result_t BasicParser::collectNonparsingArguments(std::wstring_view endMarker,
         flags &= ~static_cast<std::uint32_t>(flag_no_hyphen_positional);
     }
     PositionalOptionsParser positional(listeners(), m_strings, flags);
-    ParseResult* const collector = fillable(result);
 
     if (!arguments.empty() && arguments.front() == endMarker)
     {
@@ -248,16 +250,16 @@ result_t BasicParser::collectNonparsingArguments(std::wstring_view endMarker,
         if (recognized != IArgumentParser::claimed)
         {
             const std::wstring_view argument = arguments.front();
-            if (leftOver != nullptr)
+            if (filled != nullptr)
             {
-                leftOver->addUnparsed(argument);
+                filled->addUnparsed(argument);
             }
             traceLine(prefix, L"stored argument: '", argument, L"'");
             arguments.removeFront();
             continue;
         }
         std::int64_t optionIndex = -1;
-        const int code = positional.parse(arguments, collector, m_options, optionIndex, message);
+        const int code = positional.parse(arguments, filled, m_options, optionIndex, message);
         traceLine(prefix, L"parse result: ", code, L", message: ", viewOf(message));
         if (code != 0)
         {
@@ -279,10 +281,14 @@ result_t BasicParser::checkActions(const ArgumentQueue& /*arguments*/, IParseRes
 // Hands the result the default of every option that has one.
 void BasicParser::storeDefaults(IParseResult& result) const
 {
-    ParseResult* const filled = fillable(&result);
-    if (filled == nullptr || !m_options.index().holdsValues())
+    if (!m_options.index().holdsValues())
     {
-        return; // nothing to fill, or no option has a default
+        return; // no option has a default
+    }
+    ParseResult* const filled = fillable(&result);
+    if (filled == nullptr)
+    {
+        return;
     }
     for (std::size_t index = 0; index < m_options.size(); ++index)
     {
