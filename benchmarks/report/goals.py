@@ -1,6 +1,14 @@
 """The goals, each with what was measured. All times are medians, all ratios ratios within a round."""
 
-from results import CPP_PEERS, PEERS
+from results import CPP_PEERS, PEERS, median
+
+LINEAR = [  # kind, a size, ten times that, what it is
+    ("cycle/typed", 7000, 70000, "a typed value of 70,000, of one of 7,000"),
+    ("cycle/texts", 10000, 100000, "a list's piece of 100,000, of one of 10,000 (texts)"),
+    ("cycle/integers", 10000, 100000, "the same (integers)"),
+    ("cycle/allowed/1000", 10000, 100000,
+     "one of 100,000 values checked against 1,000, of one of 10,000"),
+]
 
 
 class Goal:
@@ -22,10 +30,35 @@ def worst_ratio(results, measurement, peers):
     return ratios[peer], peer
 
 
-def growth(results, kind, small, large, contestant="kexa"):
-    """Time for each unit at the large size divided by that at the small one."""
-    ratio = results.ratio(f"{kind}/{large}", contestant, contestant, f"{kind}/{small}")
-    return None if ratio is None else ratio * small / large
+def growths(results, kind, small, large):
+    """Of each round, kexa's time for a unit at the large size divided by that at the small one."""
+    return [ratio * small / large for ratio in
+            results.ratios(f"{kind}/{large}", "kexa", "kexa", f"{kind}/{small}")]
+
+
+def growth(results, kind, small, large):
+    return median(growths(results, kind, small, large))
+
+
+def handler_costs(results):
+    """Of each round, what one handler adds to a parse, divided by the same calls made directly."""
+    return results.ratios("handlers/arguments/10000", "added", "bare calls")
+
+
+def closest(results):
+    """What short rounds repeat: (what, ratios of the rounds)."""
+    yield "small command line, of `getopt_long`", results.ratios("cycle/small", "kexa",
+                                                                 "getopt_long")
+    for size in (10000, 1000000):
+        yield (f"30 options, {size:,} arguments, of `getopt_long`",
+               results.ratios(f"cycle/arguments/{size}", "kexa", "getopt_long"))
+    for kind, small, large, what in (
+            ("cycle/arguments", 10000, 1000000, "an argument of 1,000,000, of one of 10,000"),
+            ("declare/declarations", 2000, 20000,
+             "declaring one of 20,000 options, of one of 2,000"),
+            *LINEAR):
+        yield what, growths(results, kind, small, large)
+    yield "what a handler adds, of its calls made directly", handler_costs(results)
 
 
 def option_file_ratio(results, size):
@@ -35,11 +68,6 @@ def option_file_ratio(results, size):
         if len(times) == 3:
             ratios.append(times["option file"] / (times["memory"] + times["reading"]))
     return sorted(ratios)[len(ratios) // 2] if ratios else None
-
-
-def handler_cost(results):
-    """What one handler adds to a parse, divided by the same calls made directly."""
-    return results.ratio("handlers/arguments/10000", "added", "bare calls")
 
 
 def all_goals(results):
@@ -64,12 +92,7 @@ def all_goals(results):
                 detail=peer)
     add("declaring one of 20,000 options, of one of 2,000", 1.31 * 1.2,
         growth(results, "declare/declarations", 2000, 20000), detail="n log n gives 1.3")
-    for kind, small, large, what in (
-            ("cycle/typed", 7000, 70000, "a typed value of 70,000, of one of 7,000"),
-            ("cycle/texts", 10000, 100000, "a list's piece of 100,000, of one of 10,000 (texts)"),
-            ("cycle/integers", 10000, 100000, "the same (integers)"),
-            ("cycle/allowed/1000", 10000, 100000,
-             "one of 100,000 values checked against 1,000, of one of 10,000")):
+    for kind, small, large, what in LINEAR:
         add(what, 1.2, growth(results, kind, small, large))
     add("option file of 1,000,000 lines, of memory plus reading", 2.0,
         option_file_ratio(results, 1000000))
@@ -84,7 +107,8 @@ def all_goals(results):
     for kind, what in (("small", "small command line"), ("arguments", "each of many arguments")):
         cost = 100 * (counts["kexa"][kind] / counts["kexa without trace"][kind] - 1)
         add(f"a trace that is off, {what} (instructions)", 3.0, cost, " %")
-    add("what a handler adds, of its calls made directly", 3.0, handler_cost(results))
+    add("what a handler adds, of its calls made directly", 3.0,
+        median(handler_costs(results)))
     add("the stripped library", 250, results.counts["library bytes"] / 1000, " KB")
     loads = results.counts["load microseconds"]
     add("loading it, in a C++ program", 1.0, (loads["with kexa"] - loads["C++ program"]) / 1000,

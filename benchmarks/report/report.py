@@ -66,6 +66,7 @@ def main(folder, document):
     contents = {
         "machine": (pathlib.Path(folder) / "machine.txt").read_text().strip(),
         "goals": tables.goals(results),
+        "spread": tables.spread(results),
         "ratios": tables.ratios(results),
         "times": tables.times(results),
         "growth": tables.growth(results),

@@ -8,6 +8,11 @@ PEERS = ["getopt_long", "popt", "args", "TCLAP", "CLI11", "Boost.Program_options
 CPP_PEERS = ["args", "TCLAP", "CLI11", "Boost.Program_options", "cxxopts"]
 
 
+def median(values):
+    """None of no values."""
+    return statistics.median(values) if values else None
+
+
 class Results:
     def __init__(self, folder):
         folder = pathlib.Path(folder)
@@ -54,18 +59,21 @@ class Results:
         """Median nanoseconds, or None."""
         times = [one[measurement][contestant] for one in self.rounds
                  if contestant in one.get(measurement, {})]
-        return statistics.median(times) if times else None
+        return median(times)
 
     def was_measured_once(self, measurement, contestant):
         return sum(contestant in one.get(measurement, {}) for one in self.rounds) == 1
 
-    def ratio(self, measurement, contestant, other, other_measurement=None):
-        """The median over the rounds of one time divided by another of the same round."""
-        other_measurement = other_measurement or measurement
-        ratios = []
+    def ratios(self, measurement, contestant, other, other_measurement=None):
+        """Of each round that has both, one time divided by another."""
+        found = []
         for one in self.rounds:
             times = one.get(measurement, {})
-            others = one.get(other_measurement, {})
+            others = one.get(other_measurement or measurement, {})
             if contestant in times and other in others:
-                ratios.append(times[contestant] / others[other])
-        return statistics.median(ratios) if ratios else None
+                found.append(times[contestant] / others[other])
+        return found
+
+    def ratio(self, measurement, contestant, other, other_measurement=None):
+        """The median of those ratios, or None."""
+        return median(self.ratios(measurement, contestant, other, other_measurement))

@@ -1,6 +1,8 @@
 """The tables of docs/performance.md, as Markdown."""
 
-from goals import all_goals
+import statistics
+
+from goals import all_goals, closest
 from results import PEERS
 
 ROWS = [  # measurement, what it is, units in it (None: the last number of its name)
@@ -119,6 +121,17 @@ def goals(results):
              f"{number(goal.value)}{goal.unit}" + (f" ({goal.detail})" if goal.detail else ""),
              "yes" if goal.met else "**no**"] for goal in all_goals(results)]
     return table(["goal", "at most", "measured", "met"], rows)
+
+
+def spread(results):
+    rows = []
+    for what, ratios in closest(results):
+        if len(ratios) > 1:
+            quarters = statistics.quantiles(ratios, n=4, method="inclusive")
+            rows.append([what, str(len(ratios))] +
+                        [number(value) for value in (min(ratios), *quarters, max(ratios))])
+    return table(["ratio", "rounds", "least", "lower quarter", "median", "upper quarter", "most"],
+                 rows)
 
 
 def growth(results):
