@@ -71,7 +71,9 @@ for ((round = 1; round <= rounds; ++round)); do
     measure "$folder" all "${slow[@]}" --benchmark_min_time=0.05
     for ((short = 1; short <= short_rounds; ++short)); do
         for i in "${!closest[@]}"; do
-            measure "$folder-short-$short" "closest-$i" --benchmark_min_time=0.02 \
+            # Long enough that the largest sizes too are run several times: the first cycle of a
+            # process pays for fresh memory.
+            measure "$folder-short-$short" "closest-$i" --benchmark_min_time=0.3 \
                 --benchmark_filter="${closest[i]}"
         done
     done

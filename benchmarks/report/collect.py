@@ -12,6 +12,7 @@ import subprocess
 import sys
 import tempfile
 
+from goals import LINEAR
 from results import PEERS
 
 
@@ -48,6 +49,18 @@ def count_instructions(programs):
         "small": difference(untraced, "run", "kexa", "small", 20, 120),
         "arguments": difference(untraced, "run", "kexa", "arguments/1000", 1, 3) / 1000}
     return counts
+
+
+def growths(programs):
+    """Of what should grow linearly, instructions for each unit at the large size divided by those at
+    the small one."""
+    found = {}
+    for kind, small, large, _ in LINEAR:
+        workloads = [f"{kind.removeprefix('cycle/')}/{size}" for size in (small, large)]
+        counts = [difference(programs / "benchmark_cycles", "run", "kexa", workload, 1, 2)
+                  for workload in workloads]
+        found[kind] = counts[1] / counts[0] * small / large
+    return found
 
 
 def phases(programs, workload, count, units):
@@ -134,6 +147,7 @@ def main(build, folder):
         "instructions": count_instructions(programs),
         "phases": {"small": phases(programs, "small", 500, 1),
                    "arguments": phases(programs, "arguments/10000", 1, 10000)},
+        "growth": growths(programs),
         "memory": count_memory(programs, folder),
         "library bytes": stripped.stat().st_size,
         "load microseconds": dict(zip(["C program", "C++ program", "with kexa"],
