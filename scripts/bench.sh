@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Measures kexa beside other command-line parsers: installs them (Debian packages), builds at -O2,
 # checks that every parser reads the right values, runs rounds, and writes docs/performance.md with
-# its plots. Prints the table of ratios. Takes about a quarter of an hour on an idle machine.
+# its plots. Prints the table of ratios. Takes about half an hour.
 #
 #   scripts/bench.sh [ROUNDS]     5 unless given; slow combinations run in the first round only;
 #                                 short rounds of the closest comparisons follow each
