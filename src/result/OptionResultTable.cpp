@@ -132,9 +132,24 @@ inline void OptionResultTable::enter(const OptionDescription& option, StoredOpti
     m_recalled[option.tableIndex()] = &stored;
 }
 
+// Every query of a host begins here.
 StoredOption* OptionResultTable::findTerminated(const wchar_t* name) const noexcept
 {
-    return find(HashedText::ofTerminated(name));
+    if (m_size == 0)
+    {
+        return nullptr;
+    }
+    // The search is for the hash, which keeps it small: what it finds is the name, or else a rare
+    // other one with the same hash.
+    const HashedText text = HashedText::ofTerminated(name);
+    const std::uint32_t number = m_slots.numberAt(m_slots.slotOf(text, onlyHashOf()));
+    if (number == TextSlots::absent)
+    {
+        return nullptr;
+    }
+    const Name& found = m_names[number];
+    return found.text == text ? found.record
+                                                     : findExactly(found.text, {text.data(), text.size()});
 }
 
 // Whether all that is stored comes from one table of options, this one, in which no two have a name
@@ -415,11 +430,11 @@ void OptionResultTable::moveInto(Entry*& entries, std::size_t used, std::size_t 
     entries = moved;
 }
 
-// The record of a name where the search for its hash ended at another one.
-StoredOption* OptionResultTable::findBehind(const HashedText& other,
-                                            std::wstring_view name) const noexcept
+// The record of a name, found by comparing characters. Needs room for names.
+StoredOption* OptionResultTable::findExactly(const HashedText& hashed,
+                                             std::wstring_view name) const noexcept
 {
-    const std::size_t slot = m_slots.slotOf(HashedText(other, name), textOf());
+    const std::size_t slot = m_slots.slotOf(HashedText(hashed, name), textOf());
     return m_slots.isFree(slot) ? nullptr : m_names[m_slots.numberAt(slot)].record;
 }
 

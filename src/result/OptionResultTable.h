@@ -87,19 +87,7 @@ public:
     // The record of a name, or null. It stays where it is as long as the table lives.
     [[nodiscard]] StoredOption* find(const HashedText& name) const noexcept
     {
-        if (m_size == 0)
-        {
-            return nullptr;
-        }
-        // The search is for the hash, which keeps it small: what it finds is the name, or else a
-        // rare other one with the same hash.
-        const std::uint32_t number = m_slots.numberAt(m_slots.slotOf(name, onlyHashOf()));
-        if (number == TextSlots::absent)
-        {
-            return nullptr;
-        }
-        const Name& found = m_names[number];
-        return found.text == name ? found.record : findBehind(found.text, name);
+        return m_size == 0 ? nullptr : findExactly(name, name);
     }
     [[nodiscard]] StoredOption* find(std::wstring_view name) const noexcept
     {
@@ -123,11 +111,10 @@ public:
 private:
     using Names = std::span<const HashedText>;
 
-    // other: a stored name with the same hash.
-    // name:  without its hash, or the inlined search would have to keep it in memory for this rare
-    //        call.
-    [[nodiscard]] StoredOption* findBehind(const HashedText& other,
-                                           std::wstring_view name) const noexcept;
+    // hashed: a text with the hash of the name, which is passed without it, or the search that ends
+    //         here would have to keep it in memory for this rare call.
+    [[nodiscard]] StoredOption* findExactly(const HashedText& hashed,
+                                            std::wstring_view name) const noexcept;
 
     [[nodiscard]] bool isOnlySource(const OptionIndex* index) const noexcept;
     void noteSource(const OptionIndex* index) noexcept;

@@ -77,14 +77,20 @@ template <class Ends>
 [[nodiscard]] inline bool equalCharacters(const wchar_t* left, const wchar_t* right,
                                           std::size_t length) noexcept
 {
-    for (; length >= 2; length -= 2, left += 2, right += 2)
+    if (length < 2)
     {
-        if (twoCharacters(left) != twoCharacters(right))
+        return length == 0 || *left == *right;
+    }
+    // Backwards, so that the last pair is always the one in front, even where a character of it
+    // belongs to the pair before: the end needs no question of its own.
+    for (; length > 2; length -= 2)
+    {
+        if (twoCharacters(left + length - 2) != twoCharacters(right + length - 2))
         {
             return false;
         }
     }
-    return length == 0 || *left == *right;
+    return twoCharacters(left) == twoCharacters(right);
 }
 
 // For texts that are looked for again and again.
