@@ -72,7 +72,36 @@ const Registration& RegisteredOptionStorage::registerOption(const wchar_t* names
                                                             bool isSwitch, std::int32_t valueType,
                                                             const wchar_t* groupText)
 {
-    return declare({names, keywords, description, isSwitch, valueType, groupText});
+    const Declaration declaration = {names, keywords, description, isSwitch, valueType, groupText};
+    try
+    {
+        const wchar_t* const group = orEmpty(groupText);
+        // Declarations of a group usually stand together.
+        if (!isOfLastGroup(group)) [[unlikely]]
+        {
+            changeGroup(group);
+        }
+        if (!m_index.hasRoom(most_names) || !m_options.hasRoom(1)) [[unlikely]]
+        {
+            makeRoom();
+        }
+        const DeclaredNames found = findNames(orEmpty(names));
+        if (found.count != 0) [[likely]]
+        {
+            // Where this fails, what it leaves behind lies in the owner's memory and needs no
+            // destruction.
+            const NewOption made = makeOption(declaration, found);
+            enter(made, found);
+            m_lastRegistration = {made.option, registered};
+            return m_lastRegistration;
+        }
+    }
+    catch (const std::exception&) // NOLINT(bugprone-empty-catch)
+    {
+        // There is no memory: a failed declaration like any other.
+    }
+    m_lastRegistration = {nullptr, refused};
+    return m_lastRegistration;
 }
 
 const Registration& RegisteredOptionStorage::registerSwitch(const wchar_t* names,
@@ -90,38 +119,6 @@ const Registration& RegisteredOptionStorage::registerValueOption(const wchar_t* 
                                                                  const wchar_t* groupText)
 {
     return registerOption(names, keywords, description, false, valueType, groupText);
-}
-
-const Registration& RegisteredOptionStorage::declare(const Declaration& declaration)
-{
-    m_lastRegistration = {nullptr, refused};
-    try
-    {
-        const wchar_t* const groupText = orEmpty(declaration.groupText);
-        // Declarations of a group usually stand together.
-        if (!isOfLastGroup(groupText)) [[unlikely]]
-        {
-            changeGroup(groupText);
-        }
-        if (!m_index.hasRoom(most_names) || !m_options.hasRoom(1)) [[unlikely]]
-        {
-            makeRoom();
-        }
-        const DeclaredNames names = findNames(orEmpty(declaration.names));
-        if (names.count != 0) [[likely]]
-        {
-            // Where this fails, what it leaves behind lies in the owner's memory and needs no
-            // destruction.
-            const NewOption made = makeOption(declaration, names);
-            enter(made, names);
-            m_lastRegistration = {made.option, registered};
-        }
-    }
-    catch (const std::exception&) // NOLINT(bugprone-empty-catch)
-    {
-        // There is no memory: a failed declaration like any other.
-    }
-    return m_lastRegistration;
 }
 
 const OptionDescription* RegisteredOptionStorage::find(const HashedText& name) const noexcept

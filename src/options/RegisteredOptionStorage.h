@@ -129,7 +129,6 @@ private:
         };
     }
 
-    const Registration& declare(const Declaration& declaration);
     [[nodiscard]] bool isOfLastGroup(const wchar_t* declared) const noexcept;
     void changeGroup(const wchar_t* declared);
     void makeRoom();
