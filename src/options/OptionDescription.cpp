@@ -18,6 +18,7 @@ IOption& OptionDescription::addName(const wchar_t* name)
         index->reserve(1);
     }
     names.append(kept, owner->memory());
+    namesAreJoined = false;
     if (index != nullptr)
     {
         index->add(names.back(), m_place.held.tableIndex, valueType == value_type_boolean);

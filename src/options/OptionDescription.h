@@ -122,6 +122,10 @@ public:
     }
 
     std::int32_t kind = 0;
+
+    // Whether it is known that the texts of all names, each with the zero that ends it, lie one
+    // behind the other.
+    bool namesAreJoined = false;
     OptionNames names;
     KeywordSet keywords;
     std::wstring_view description;

@@ -196,6 +196,7 @@ RegisteredOptionStorage::DeclaredNames RegisteredOptionStorage::findNames(const 
 {
     NewName* name = m_names.data();
     const wchar_t* next = text;
+    m_areJoined = true;
     for (;; ++next)
     {
         const wchar_t* const begin = next;
@@ -215,6 +216,10 @@ RegisteredOptionStorage::DeclaredNames RegisteredOptionStorage::findNames(const 
                 return {};
             }
             ++name;
+        }
+        else
+        {
+            m_areJoined = false;
         }
         if (*next == L'\0')
         {
@@ -274,6 +279,7 @@ RegisteredOptionStorage::makeOption(const Declaration& declaration, const Declar
     option->description = {ownDescription, description.size()};
     option->separator = m_defaultSeparator;
     option->valueType = declaration.valueType;
+    option->namesAreJoined = m_areJoined;
     if (declaration.keywords != nullptr || declaration.isSwitch) [[unlikely]]
     {
         addKeywords(*option, declaration);

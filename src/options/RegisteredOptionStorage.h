@@ -103,7 +103,7 @@ private:
     struct DeclaredNames
     {
         std::wstring_view text;
-        std::size_t count = 0;
+        std::size_t count = 0; // none where they are refused
     };
 
     // A name of the declaration at work.
@@ -153,6 +153,7 @@ private:
 
     // Of the declaration at work; behind its names, what earlier ones left, which nobody looks at.
     std::array<NewName, most_names> m_names;
+    bool m_areJoined = true; // whether nothing but one ',' lies between two of them
 };
 
 } // namespace kexa_3_3

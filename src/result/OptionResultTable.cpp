@@ -5,6 +5,7 @@
 #include <cstring>
 #include <memory>
 #include <new>
+#include <numeric>
 
 #include "options/OptionDescription.h"
 #include "options/OptionIndex.h"
@@ -82,7 +83,7 @@ void OptionResultTable::store(const OptionDescription& option, OptionResult& rec
     else
     {
         reserveToRecall(option.tableIndex());
-        StoredOption& stored = makeRecord(Names(option.names));
+        StoredOption& stored = makeRecord(Names(option.names), option.namesAreJoined);
         stored.byDefault = makeDefault(record);
         append(stored, record);
         enter(option, stored, place);
@@ -114,7 +115,9 @@ void OptionResultTable::storeNewValue(const OptionDescription& option, ValueEntr
                                       const Place& place)
 {
     reserveToRecall(option.tableIndex());
-    enter(option, makeRecord(Names(option.names), [&] { return adoptPaired(value); }), place);
+    StoredOption& stored = makeRecord(Names(option.names), option.namesAreJoined,
+                                      [&] { return adoptPaired(value); });
+    enter(option, stored, place);
 }
 
 // Lets the option find its record, once something is stored there.
@@ -331,34 +334,39 @@ std::vector<OptionResultTable::Part> OptionResultTable::partsOf(Names names) con
 }
 
 template <class... MakeFirst>
-inline StoredOption& OptionResultTable::makeRecord(Names names, MakeFirst... makeFirst)
+inline StoredOption& OptionResultTable::makeRecord(Names names, bool joined,
+                                                   MakeFirst... makeFirst)
 {
     static_assert(alignof(StoredOption) >= alignof(wchar_t));
-    // The record lies in one piece with the texts of its names, each with the zero behind it. Where
-    // those of the option lie one behind the other too, as most of a declaration do, they are
-    // copied at once.
-    const wchar_t* const texts = names.front().data();
-    const wchar_t* end = texts;
-    std::size_t length = 0;
-    bool together = true;
-    for (const HashedText& name : names)
-    {
-        together &= name.data() == end;
-        end = name.data() + name.size() + 1;
-        length += name.size() + 1;
-    }
+    // The record lies in one piece with the texts of its names, each with the zero behind it.
+    const std::size_t length = joined ? lengthOfJoined(names) : lengthOf(names);
     reserveFor(names.size());
     const std::size_t size = sizeof(StoredOption) + length * sizeof(wchar_t);
     void* const memory = m_strings.memory().take(size, alignof(StoredOption));
-    if (together)
+    if (joined) [[likely]]
     {
-        std::memcpy(textsOf(memory), texts, length * sizeof(wchar_t));
+        std::memcpy(textsOf(memory), names.front().data(), length * sizeof(wchar_t));
     }
     else
     {
         copyTexts(names, textsOf(memory));
     }
     return *new (memory) StoredOption(makeFirst...);
+}
+
+// How many characters the texts of names take with the zeros behind them.
+std::size_t OptionResultTable::lengthOf(Names names) noexcept
+{
+    return std::accumulate(names.begin(), names.end(), names.size(),
+                           [](std::size_t length, const HashedText& name)
+                           { return length + name.size(); });
+}
+
+// The same of names whose texts lie one behind the other.
+inline std::size_t OptionResultTable::lengthOfJoined(Names names) noexcept
+{
+    const wchar_t* const end = names.back().data() + names.back().size() + 1;
+    return static_cast<std::size_t>(end - names.front().data());
 }
 
 // Copies the texts of names one behind the other.
@@ -379,7 +387,7 @@ wchar_t* OptionResultTable::textsOf(void* record) noexcept
 
 StoredOption& OptionResultTable::copyRecord(const StoredOption& from, Names names)
 {
-    StoredOption& copy = makeRecord(names);
+    StoredOption& copy = makeRecord(names, false);
     copy.occurrences.reserveMore(from.occurrences.size(), m_strings.memory());
     Occurrences::Place place = from.occurrences.begin();
     while (const Occurrence* const occurrence = from.occurrences.next(place))

@@ -153,10 +153,14 @@ private:
 
     // A record for names, which find it once they are bound to it, and the room that binding needs.
     //
+    // joined:    whether the texts of the names lie one behind the other.
     // makeFirst: answers the first occurrence of the record. Left out where that comes later.
     template <class... MakeFirst>
-    [[nodiscard]] StoredOption& makeRecord(Names names, MakeFirst... makeFirst);
+    [[nodiscard]] StoredOption& makeRecord(Names names, bool joined,
+                                           MakeFirst... makeFirst);
     [[nodiscard]] static wchar_t* textsOf(void* record) noexcept;
+    [[nodiscard]] static std::size_t lengthOf(Names names) noexcept;
+    [[nodiscard]] static std::size_t lengthOfJoined(Names names) noexcept;
     static void copyTexts(Names names, wchar_t* room) noexcept;
     [[nodiscard]] StoredOption& copyRecord(const StoredOption& from, Names names);
     void reserveFor(std::size_t names)
