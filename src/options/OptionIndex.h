@@ -178,10 +178,6 @@ private:
     [[nodiscard]] std::int64_t findAlsoNegated(const HashedText& text) const noexcept;
     [[nodiscard]] const Name* find(const HashedText& text) const noexcept
     {
-        if (m_names.empty())
-        {
-            return nullptr;
-        }
         const std::uint32_t number = m_slots.numberAt(m_slots.slotOf(text, textOf()));
         return number == TextSlots::absent ? nullptr : &m_names[number];
     }

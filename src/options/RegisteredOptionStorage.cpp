@@ -157,14 +157,11 @@ void RegisteredOptionStorage::changeGroup(const wchar_t* declared)
     const wchar_t* const end = hashUntil(
         declared, hash, [](const wchar_t* place) { return *place == L':' || *place == L'\0'; });
     const HashedText name(std::wstring_view(declared, end), hash);
-    if (!m_groups.empty())
+    const std::size_t known = m_groupSlots.slotOf(name, groupNameOf());
+    if (!m_groupSlots.isFree(known))
     {
-        const std::size_t known = m_groupSlots.slotOf(name, groupNameOf());
-        if (!m_groupSlots.isFree(known))
-        {
-            m_lastGroup = m_groups[m_groupSlots.numberAt(known)];
-            return;
-        }
+        m_lastGroup = m_groups[m_groupSlots.numberAt(known)];
+        return;
     }
     if (!m_groups.hasRoom(1))
     {

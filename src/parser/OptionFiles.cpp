@@ -93,7 +93,7 @@ result_t OptionFiles::readAll(const ParseFile& parseFile, std::wstring& message)
         }
         const Occurrence& occurrence = *record->occurrences.next(m_place);
         ++m_next;
-        if (!occurrence.isValue)
+        if (!occurrence.isValue())
         {
             continue;
         }

@@ -23,8 +23,15 @@ struct Occurrence
     std::uint64_t word = 0;        // of a variant, which others keep alive
     std::int32_t position = 0;
     std::uint16_t kind = vexkit2::kind_null; // of the variant
-    bool isPosition = false;
-    bool isValue = false;
+    std::uint8_t parts = 0;                  // which of the two it is: as follows
+
+    static constexpr std::uint8_t position_part = 1;
+    static constexpr std::uint8_t value_part = 2;
+    static constexpr std::uint8_t both_parts = position_part | value_part;
+
+    [[nodiscard]] bool isPosition() const noexcept { return (parts & position_part) != 0; }
+    [[nodiscard]] bool isValue() const noexcept { return (parts & value_part) != 0; }
+    [[nodiscard]] bool isBoth() const noexcept { return parts == both_parts; }
 
     // Makes the target a copy of the value, which shares the block of a text.
     //
@@ -106,7 +113,7 @@ public:
     template <class Make>
     explicit Occurrences(Make make)
         : m_inside{&m_first + 1, &m_first + 1, nullptr}, m_first(make()), m_last(&m_inside),
-          m_hasPositions(m_first.isPosition), m_hasValues(m_first.isValue)
+          m_parts(m_first.parts)
     {
     }
     ~Occurrences() = default;
@@ -141,12 +148,18 @@ public:
         const Occurrence& made = *new (static_cast<void*>(piece->end)) Occurrence(make());
         m_last = piece;
         ++piece->end;
-        m_hasPositions |= made.isPosition;
-        m_hasValues |= made.isValue;
+        m_parts |= made.parts;
     }
 
-    [[nodiscard]] bool hasPositions() const noexcept { return m_hasPositions; }
-    [[nodiscard]] bool hasValues() const noexcept { return m_hasValues; }
+    [[nodiscard]] bool hasPositions() const noexcept
+    {
+        return (m_parts & Occurrence::position_part) != 0;
+    }
+    [[nodiscard]] bool hasValues() const noexcept
+    {
+        return (m_parts & Occurrence::value_part) != 0;
+    }
+    [[nodiscard]] bool hasBoth() const noexcept { return m_parts == Occurrence::both_parts; }
 
     // How many entries there are, whatever they hold. Steps over whole pieces.
     [[nodiscard]] std::size_t size() const noexcept;
@@ -195,7 +208,7 @@ public:
             prefetch(place.m_entry[ahead].text);
         }
         const Occurrence* occurrence = next(place);
-        while (occurrence != nullptr && !occurrence->isValue)
+        while (occurrence != nullptr && !occurrence->isValue())
         {
             occurrence = next(place);
         }
@@ -204,7 +217,7 @@ public:
     [[nodiscard]] const Occurrence* nextPosition(Place& place) const noexcept
     {
         const Occurrence* occurrence = next(place);
-        while (occurrence != nullptr && !occurrence->isPosition)
+        while (occurrence != nullptr && !occurrence->isPosition())
         {
             occurrence = next(place);
         }
@@ -217,8 +230,7 @@ private:
     Piece m_inside; // holds m_first
     Occurrence m_first;
     Piece* m_last; // the one to append to
-    bool m_hasPositions = false;
-    bool m_hasValues = false;
+    std::uint8_t m_parts = 0; // of all entries together
 };
 
 static_assert(std::is_trivially_destructible_v<Occurrences>);

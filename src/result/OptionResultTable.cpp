@@ -44,13 +44,13 @@ void forEachEntry(OptionResult& record, Take take, Append append) noexcept
     {
         for (const std::int32_t position : record.positions)
         {
-            append(Occurrence{.position = position, .isPosition = true});
+            append(Occurrence{.position = position, .parts = Occurrence::position_part});
         }
     }
     for (ValueEntry& entry : record.values)
     {
         Occurrence occurrence = take(entry);
-        occurrence.isPosition = paired;
+        occurrence.parts = paired ? Occurrence::both_parts : Occurrence::value_part;
         append(occurrence);
     }
 }
@@ -138,10 +138,6 @@ inline void OptionResultTable::enter(const OptionDescription& option, StoredOpti
 // Every query of a host begins here.
 StoredOption* OptionResultTable::findTerminated(const wchar_t* name) const noexcept
 {
-    if (m_size == 0)
-    {
-        return nullptr;
-    }
     // The search is for the hash, which keeps it small: what it finds is the name, or else a rare
     // other one with the same hash.
     const HashedText text = HashedText::ofTerminated(name);
@@ -438,7 +434,7 @@ void OptionResultTable::moveInto(Entry*& entries, std::size_t used, std::size_t 
     entries = moved;
 }
 
-// The record of a name, found by comparing characters. Needs room for names.
+// The record of a name, found by comparing characters.
 StoredOption* OptionResultTable::findExactly(const HashedText& hashed,
                                              std::wstring_view name) const noexcept
 {
@@ -520,7 +516,7 @@ inline Occurrence OptionResultTable::adopt(ValueEntry& entry)
 inline Occurrence OptionResultTable::adoptPaired(ValueEntry& entry)
 {
     Occurrence occurrence = adopt(entry);
-    occurrence.isPosition = true;
+    occurrence.parts = Occurrence::both_parts;
     return occurrence;
 }
 
@@ -563,7 +559,7 @@ Occurrence OptionResultTable::take(ValueEntry& entry) noexcept
 inline Occurrence OptionResultTable::takeText(ValueEntry& entry) noexcept
 {
     Occurrence occurrence = {
-        .position = entry.position, .kind = vexkit2::kind_wide_text, .isValue = true};
+        .position = entry.position, .kind = vexkit2::kind_wide_text, .parts = Occurrence::value_part};
     occurrence.word = SharedTexts::takeBack(entry.value);
     std::memcpy(&occurrence.text, &occurrence.word, sizeof(occurrence.text));
     return occurrence;
@@ -577,7 +573,7 @@ inline Occurrence OptionResultTable::takeWord(ValueEntry& entry, const wchar_t* 
             .word = entry.value.detach(),
             .position = entry.position,
             .kind = kind,
-            .isValue = true};
+            .parts = Occurrence::value_part};
 }
 
 // Gives the block of a value that was made elsewhere, and the text, the lifetime of the table.

@@ -87,7 +87,7 @@ public:
     // The record of a name, or null. It stays where it is as long as the table lives.
     [[nodiscard]] StoredOption* find(const HashedText& name) const noexcept
     {
-        return m_size == 0 ? nullptr : findExactly(name, name);
+        return findExactly(name, name);
     }
     [[nodiscard]] StoredOption* find(std::wstring_view name) const noexcept
     {

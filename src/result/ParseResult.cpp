@@ -98,8 +98,7 @@ bool ParseResult::walksOccurrences() const noexcept
 // one.
 inline bool ParseResult::walksValuesInRange() const noexcept
 {
-    const Occurrences& occurrences = m_currentOption->occurrences;
-    return occurrences.hasPositions() && occurrences.hasValues();
+    return m_currentOption->occurrences.hasBoth();
 }
 
 // Whether such a walk is at its end. Seen here, the end costs no calls; where it is not seen there
@@ -150,7 +149,7 @@ bool ParseResult::findPosition() noexcept
 inline const Occurrence* ParseResult::firstValue() noexcept
 {
     const Occurrence* const first = m_currentOption->occurrences.first();
-    if (first != nullptr && first->isPosition && first->isValue && isInRange(*first))
+    if (first != nullptr && first->isBoth() && isInRange(*first))
     {
         // Whatever follows: this is the position that the range needs, and the first value.
         m_valueCursor = m_currentOption->occurrences.behindFirst();

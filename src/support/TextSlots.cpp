@@ -10,7 +10,7 @@ namespace kexa_3_3
 void TextSlots::reserve(std::size_t count, std::size_t fewest)
 {
     const std::size_t slots = std::bit_ceil(std::max(2 * count, fewest));
-    if (m_slots != nullptr && slots <= m_mask + 1)
+    if (slots <= m_mask + 1)
     {
         return;
     }
@@ -20,9 +20,8 @@ void TextSlots::reserve(std::size_t count, std::size_t fewest)
     Slot* const grown = static_cast<Slot*>(memory);
     // The slots in use are moved together first. Which of them are free follows no pattern, so a
     // branch on it can hardly be predicted.
-    const std::size_t known = m_slots == nullptr ? 0 : m_mask + 1;
     std::size_t used = 0;
-    for (std::size_t index = 0; index < known; ++index)
+    for (std::size_t index = 0; index <= m_mask; ++index)
     {
         const Slot old = m_slots[index];
         m_slots[used] = old;
@@ -46,7 +45,7 @@ void TextSlots::reserve(std::size_t count, std::size_t fewest)
 
 void TextSlots::free() noexcept
 {
-    if (m_slots != nullptr)
+    if (m_slots != &m_none)
     {
         m_memory->deallocate(m_slots, (m_mask + 1) * sizeof(Slot), alignof(Slot));
     }

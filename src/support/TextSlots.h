@@ -34,7 +34,8 @@ public:
     // fewest: slots in any case.
     void reserve(std::size_t count, std::size_t fewest = usual_slots);
 
-    // The slot of the text, or the free one where it belongs. Needs room.
+    // The slot of the text, or the free one where it belongs, which is good for adding it only where
+    // there is room.
     template <class TextOf>
     [[nodiscard]] std::size_t slotOf(const HashedText& text, TextOf textOf) const
     {
@@ -57,7 +58,7 @@ public:
         return slot;
     }
 
-    // Where the search for a text begins. Needs room.
+    // Where the search for a text begins.
     [[nodiscard]] std::size_t homeOf(const HashedText& text) const noexcept
     {
         return markOf(text) & m_mask;
@@ -96,8 +97,9 @@ private:
     void free() noexcept;
 
     std::pmr::memory_resource* m_memory;
-    Slot* m_slots = nullptr; // none, or a power of two of them
-    std::size_t m_mask = 0;  // their number less one
+    Slot m_none = {absent, 0}; // spares every search a question as long as there is no room
+    Slot* m_slots = &m_none;   // a power of two of them
+    std::size_t m_mask = 0;    // their number less one
 };
 
 } // namespace kexa_3_3

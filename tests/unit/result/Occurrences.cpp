@@ -25,15 +25,15 @@ using Positions = std::vector<std::int32_t>;
 
 Occurrence position(std::int32_t number)
 {
-    return {.position = number, .isPosition = true};
+    return {.position = number, .parts = Occurrence::position_part};
 }
 Occurrence value(std::int32_t number)
 {
-    return {.position = number, .isValue = true};
+    return {.position = number, .parts = Occurrence::value_part};
 }
 Occurrence both(std::int32_t number)
 {
-    return {.position = number, .isPosition = true, .isValue = true};
+    return {.position = number, .parts = Occurrence::both_parts};
 }
 
 void add(Occurrences& occurrences, const Occurrence& occurrence, Arena& arena)
