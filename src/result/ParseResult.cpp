@@ -16,7 +16,9 @@ void ParseResult::release()
 
 std::int32_t ParseResult::isPresent(const wchar_t* name, std::int32_t from, std::int32_t to)
 {
-    if (!beginQuery(name, from, to))
+    const StoredOption* const option =
+        name == nullptr ? nullptr : m_options.find(HashedText::ofTerminated(name));
+    if (!beginQuery(option, from, to))
     {
         return 0;
     }
@@ -33,7 +35,8 @@ std::int32_t ParseResult::isPresent(const wchar_t* name, std::int32_t from, std:
 result_t ParseResult::getFirstValue(Value* out, const wchar_t* name, std::int32_t from,
                                     std::int32_t to)
 {
-    return answer(out, beginQuery(name, from, to) ? firstValue() : nullptr);
+    const StoredOption* const option = name == nullptr ? nullptr : m_options.findTerminated(name);
+    return answer(out, beginQuery(option, from, to) ? firstValue() : nullptr);
 }
 
 result_t ParseResult::getNextValue(Value* out, const wchar_t* /*name*/)
@@ -109,11 +112,12 @@ inline bool ParseResult::isAtEndOfValues() const noexcept
 }
 
 // Moves the cursor to the start of an option. Answers whether there is one.
-bool ParseResult::beginQuery(const wchar_t* name, std::int32_t from, std::int32_t to) noexcept
+inline bool ParseResult::beginQuery(const StoredOption* option, std::int32_t from,
+                                    std::int32_t to) noexcept
 {
     m_rangeFrom = from;
     m_rangeTo = to;
-    m_currentOption = name == nullptr ? nullptr : m_options.findTerminated(name);
+    m_currentOption = option;
     if (m_currentOption == nullptr)
     {
         return false;

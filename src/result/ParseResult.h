@@ -68,7 +68,8 @@ private:
     [[nodiscard]] bool walksOccurrences() const noexcept;
     [[nodiscard]] inline bool walksValuesInRange() const noexcept;
     [[nodiscard]] inline bool isAtEndOfValues() const noexcept;
-    [[nodiscard]] bool beginQuery(const wchar_t* name, std::int32_t from, std::int32_t to) noexcept;
+    [[nodiscard]] inline bool beginQuery(const StoredOption* option, std::int32_t from,
+                                         std::int32_t to) noexcept;
     [[nodiscard]] bool isInRange(const Occurrence& occurrence) const noexcept;
     [[nodiscard]] bool findPosition() noexcept;
     [[nodiscard]] inline const Occurrence* firstValue() noexcept;
