@@ -85,7 +85,7 @@ const Registration& RegisteredOptionStorage::registerOption(const wchar_t* names
         {
             makeRoom();
         }
-        const DeclaredNames found = findNames(orEmpty(names));
+        const DeclaredNames found = names == nullptr ? DeclaredNames() : findNames(names);
         if (found.count != 0) [[likely]]
         {
             // Where this fails, what it leaves behind lies in the owner's memory and needs no
@@ -256,7 +256,7 @@ RegisteredOptionStorage::makeOption(const Declaration& declaration, const Declar
 {
     static_assert(sizeof(OptionDescription) % alignof(HashedText) == 0 &&
                   sizeof(HashedText) % alignof(wchar_t) == 0);
-    const std::wstring_view description(orEmpty(declaration.description));
+    const std::wstring_view description = viewOf(declaration.description);
     const std::size_t textStart = sizeof(OptionDescription) + names.count * sizeof(HashedText);
     const std::size_t characters = names.text.size() + 1 + description.size() + 1;
     void* const memory =
