@@ -133,12 +133,15 @@ int ValueStoring::storeValue(const GivenValue& given, typename Run::Collector* c
     }
     SharedTexts* const texts = textsOf(collector);
     ValueEntry entry = {given.value, convertValue(given.option.valueType, given.value, texts)};
-    const int code = accept<Run>(given, separator != 0, texts, entry, error);
-    if (code == stored && collector != nullptr)
+    if (const int code = accept<Run>(given, separator != 0, texts, entry, error); code != stored)
+    {
+        return code;
+    }
+    if (collector != nullptr)
     {
         static_cast<void>(collector->storeValue(given.option, entry));
     }
-    return code;
+    return stored;
 }
 
 template <class Run>
