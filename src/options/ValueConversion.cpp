@@ -77,19 +77,25 @@ template <unsigned base>
     static_assert(base == 10 || base == 16);
 
     u64_t number = 0;
-    std::size_t count = 0;
-    for (const wchar_t character : digits)
+    for (const wchar_t character : digits.substr(0, always_fit))
     {
         const unsigned digit = digitValue<base>(character);
-        const bool fits = count < always_fit || number <= (Limits::max() - digit) / base;
-        if (digit >= base || !fits)
+        if (digit >= base)
         {
             return std::nullopt;
         }
         number = number * base + digit;
-        ++count;
     }
-    return count == 0 || number > highest ? std::nullopt : std::optional(number);
+    for (std::size_t index = always_fit; index < digits.size(); ++index)
+    {
+        const unsigned digit = digitValue<base>(digits[index]);
+        if (digit >= base || number > (Limits::max() - digit) / base)
+        {
+            return std::nullopt;
+        }
+        number = number * base + digit;
+    }
+    return digits.empty() || number > highest ? std::nullopt : std::optional(number);
 }
 
 template <class Integer>
