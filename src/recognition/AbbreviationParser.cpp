@@ -79,7 +79,7 @@ int AbbreviationParser::recognizeIn(const ArgumentQueue& arguments,
 // Answers whether the argument names an option, or several: parse then reports the ambiguity.
 bool AbbreviationParser::findMatch(std::wstring_view argument, const OptionIndex& index)
 {
-    if (argument.size() < shortest_option || hyphenPrefixLength(argument, 0) == 0)
+    if (argument.size() < shortest_option || countHyphens(argument) == 0)
     {
         return false;
     }

@@ -31,6 +31,19 @@ namespace kexa_3_3
     return position < text.size() && isHyphen(text[position]) ? 1 : 0;
 }
 
+// How many hyphen characters stand in front of an option's name: two at most.
+[[nodiscard]] inline std::size_t countHyphens(std::wstring_view argument) noexcept
+{
+    constexpr std::wstring_view usual = L"--";
+    if (argument.size() >= usual.size() &&
+        twoCharacters(argument.data()) == twoCharacters(usual.data())) [[likely]]
+    {
+        return usual.size();
+    }
+    const std::size_t first = hyphenPrefixLength(argument, 0);
+    return first == 0 ? 0 : first + hyphenPrefixLength(argument, first);
+}
+
 // Decides what is white space by the global locale at the time it is made.
 class WhiteSpace
 {
@@ -96,10 +109,8 @@ struct OptionArgument
 inline void splitOptionArgument(std::wstring_view argument, const WhiteSpace& whiteSpace,
                                 OptionArgument& split)
 {
-    std::size_t begin = hyphenPrefixLength(argument, 0);
-    begin += hyphenPrefixLength(argument, begin);
     std::wstring_view rest = argument;
-    rest.remove_prefix(begin);
+    rest.remove_prefix(countHyphens(argument));
     split.name = whiteSpace.nameIn(rest);
     rest.remove_prefix(split.name.size());
     split.hasValue = !rest.empty();
