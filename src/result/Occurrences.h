@@ -229,7 +229,7 @@ private:
 
     Piece m_inside; // holds m_first
     Occurrence m_first;
-    Piece* m_last; // the one to append to
+    Piece* m_last;            // the one to append to
     std::uint8_t m_parts = 0; // of all entries together
 };
 

@@ -115,8 +115,8 @@ void OptionResultTable::storeNewValue(const OptionDescription& option, ValueEntr
                                       const Place& place)
 {
     reserveToRecall(option.tableIndex());
-    StoredOption& stored = makeRecord(Names(option.names), option.namesAreJoined,
-                                      [&] { return adoptPaired(value); });
+    StoredOption& stored =
+        makeRecord(Names(option.names), option.namesAreJoined, [&] { return adoptPaired(value); });
     enter(option, stored, place);
 }
 
@@ -147,8 +147,7 @@ StoredOption* OptionResultTable::findTerminated(const wchar_t* name) const noexc
         return nullptr;
     }
     const Name& found = m_names[number];
-    return found.text == text ? found.record
-                                                     : findExactly(found.text, {text.data(), text.size()});
+    return found.text == text ? found.record : findExactly(found.text, {text.data(), text.size()});
 }
 
 // Whether all that is stored comes from one table of options, this one, in which no two have a name
@@ -330,8 +329,7 @@ std::vector<OptionResultTable::Part> OptionResultTable::partsOf(Names names) con
 }
 
 template <class... MakeFirst>
-inline StoredOption& OptionResultTable::makeRecord(Names names, bool joined,
-                                                   MakeFirst... makeFirst)
+inline StoredOption& OptionResultTable::makeRecord(Names names, bool joined, MakeFirst... makeFirst)
 {
     static_assert(alignof(StoredOption) >= alignof(wchar_t));
     // The record lies in one piece with the texts of its names, each with the zero behind it.
@@ -558,8 +556,9 @@ Occurrence OptionResultTable::take(ValueEntry& entry) noexcept
 // Takes a text that was made here. It stays where it is.
 inline Occurrence OptionResultTable::takeText(ValueEntry& entry) noexcept
 {
-    Occurrence occurrence = {
-        .position = entry.position, .kind = vexkit2::kind_wide_text, .parts = Occurrence::value_part};
+    Occurrence occurrence = {.position = entry.position,
+                             .kind = vexkit2::kind_wide_text,
+                             .parts = Occurrence::value_part};
     occurrence.word = SharedTexts::takeBack(entry.value);
     std::memcpy(&occurrence.text, &occurrence.word, sizeof(occurrence.text));
     return occurrence;

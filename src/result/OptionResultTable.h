@@ -156,8 +156,7 @@ private:
     // joined:    whether the texts of the names lie one behind the other.
     // makeFirst: answers the first occurrence of the record. Left out where that comes later.
     template <class... MakeFirst>
-    [[nodiscard]] StoredOption& makeRecord(Names names, bool joined,
-                                           MakeFirst... makeFirst);
+    [[nodiscard]] StoredOption& makeRecord(Names names, bool joined, MakeFirst... makeFirst);
     [[nodiscard]] static wchar_t* textsOf(void* record) noexcept;
     [[nodiscard]] static std::size_t lengthOf(Names names) noexcept;
     [[nodiscard]] static std::size_t lengthOfJoined(Names names) noexcept;

@@ -34,8 +34,8 @@ public:
     // fewest: slots in any case.
     void reserve(std::size_t count, std::size_t fewest = usual_slots);
 
-    // The slot of the text, or the free one where it belongs, which is good for adding it only where
-    // there is room.
+    // The slot of the text, or the free one where it belongs, which is good for adding it only
+    // where there is room.
     template <class TextOf>
     [[nodiscard]] std::size_t slotOf(const HashedText& text, TextOf textOf) const
     {

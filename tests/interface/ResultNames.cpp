@@ -53,6 +53,23 @@ TEST(ResultNames, NameListedTwiceIsOneEntry)
     EXPECT_EQ(host.texts(L"name"), (Texts{L"1", L"2"}));
 }
 
+TEST(ResultNames, SeparatorsBetweenNamesAreNoPartOfThem)
+{
+    for (const wchar_t* const names :
+         {L"name,n", L",name,n", L"name,,n", L"name,n,", L",,name,,,n,,"})
+    {
+        Host host;
+        host.addOption(names);
+        host.addOption(L"other");
+        ASSERT_EQ(host.parse({L"--name=1", L"-n=2", L"--other=3"}), 0);
+        EXPECT_EQ(host.texts(L"name"), (Texts{L"1", L"2"})) << toUtf8(names);
+        EXPECT_EQ(host.texts(L"n"), (Texts{L"1", L"2"})) << toUtf8(names);
+        EXPECT_EQ(host.texts(L"other"), Texts{L"3"}) << toUtf8(names);
+        EXPECT_FALSE(host.isPresent(L"")) << toUtf8(names);
+        EXPECT_FALSE(host.isPresent(L"name,n")) << toUtf8(names);
+    }
+}
+
 TEST(ResultNames, DefaultIsKnownByEveryName)
 {
     Host host;

@@ -320,7 +320,11 @@ TEST_F(SharedNamesTest, TextsOfOneHashAreToldApart)
     const OptionDescription another(no_group, false, pool, secondName);
     store(another, 1);
     EXPECT_EQ(positions(L"first"), (Positions{-1}));
+    Value value;
+    EXPECT_EQ(result.getFirstValue(&value, L"first", 0, no_position), result_nothing);
     store(one, 2);
+    EXPECT_EQ(result.getFirstValue(&value, L"first", 0, no_position), result_success);
+    EXPECT_EQ(value.position, 2);
     store(another, 3);
     EXPECT_EQ(positions(L"first"), (Positions{2}));
     for (const HashedText& name : secondName)
