@@ -12,15 +12,15 @@ rounds=${1:-5}
 short_rounds=7
 results=build/bench/results
 
-# What short rounds compare: where limits are close, how the cost of kexa grows, and what handlers
-# add. Each is a process of its own, so that none finds the heap as another one left it.
+# What short rounds compare: where limits are close, how the cost of kexa and of plain code grows, and
+# what handlers add. Each is a process of its own, so that none finds the heap as another one left it.
 closest=(
     '^cycle/small/(kexa|getopt_long|args)$'
     '^cycle/arguments/(10000|1000000)/(kexa|getopt_long)$'
-    '^cycle/typed/(7000|70000)/kexa$'
-    '^cycle/texts/(10000|100000)/kexa$'
-    '^cycle/integers/(10000|100000)/kexa$'
-    '^cycle/allowed/1000/(10000|100000)/kexa$'
+    '^cycle/typed/(7000|70000)/(kexa|std::from_chars)$'
+    '^cycle/texts/(10000|100000)/(kexa|cutting by hand)$'
+    '^cycle/integers/(10000|100000)/(kexa|cutting by hand)$'
+    '^cycle/allowed/1000/(10000|100000)/(kexa|std::unordered_set)$'
     '^declare/declarations/(2000|20000)/kexa$'
     '^handlers/arguments/10000/')
 

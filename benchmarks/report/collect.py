@@ -12,7 +12,7 @@ import subprocess
 import sys
 import tempfile
 
-from goals import LINEAR
+from goals import GROWTH
 from results import PEERS
 
 
@@ -52,12 +52,12 @@ def count_instructions(programs):
 
 
 def growths(programs):
-    """Of what should grow linearly, instructions for each unit at the large size divided by those at
-    the small one."""
+    """Of what should grow slowly, instructions for each unit at the large size divided by those at the
+    small one."""
     found = {}
-    for kind, small, large, _ in LINEAR:
-        workloads = [f"{kind.removeprefix('cycle/')}/{size}" for size in (small, large)]
-        counts = [difference(programs / "benchmark_cycles", "run", "kexa", workload, 1, 2)
+    for command, kind, small, large, *_ in GROWTH:
+        workloads = [f"{kind.partition('/')[2]}/{size}" for size in (small, large)]
+        counts = [difference(programs / "benchmark_cycles", command, "kexa", workload, 1, 2)
                   for workload in workloads]
         found[kind] = counts[1] / counts[0] * small / large
     return found
