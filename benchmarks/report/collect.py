@@ -12,7 +12,7 @@ import subprocess
 import sys
 import tempfile
 
-from goals import GROWTH
+from goals import GROWTHS
 from results import PEERS
 
 
@@ -52,14 +52,16 @@ def count_instructions(programs):
 
 
 def growths(programs):
-    """Of what should grow slowly, instructions for each unit at the large size divided by those at the
-    small one."""
+    """For each of GROWTHS, kexa's instructions for a unit at the large size divided by those for one at
+    the small size."""
     found = {}
-    for command, kind, small, large, *_ in GROWTH:
-        workloads = [f"{kind.partition('/')[2]}/{size}" for size in (small, large)]
-        counts = [difference(programs / "benchmark_cycles", command, "kexa", workload, 1, 2)
-                  for workload in workloads]
-        found[kind] = counts[1] / counts[0] * small / large
+    for one in GROWTHS:
+        family, _, kind = one.kind.partition("/")
+        command = {"cycle": "run", "declare": "declare"}[family]
+        small, large = (difference(programs / "benchmark_cycles", command, "kexa",
+                                   f"{kind}/{size}", 1, 2) / size
+                        for size in (one.small, one.large))
+        found[one.kind] = large / small
     return found
 
 

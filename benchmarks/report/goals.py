@@ -1,21 +1,35 @@
-"""The goals, each with what was measured. All times are medians, all ratios ratios within a round."""
+"""The goals, each with what was measured. All times are medians; ratios of times are medians of those
+within a round, ratios of instructions are of counts that do not vary."""
+
+import typing
 
 from results import CPP_PEERS, PEERS, median
 
-# How cost grows: what benchmark_cycles does, the measurement, a size and ten times that, what it is, by
-# what factor the instructions for each may grow at most, and plain code that does a part of the same.
-# Linear is 1, and a twentieth is left for what tables of powers of two leave empty; n log n is 1.303.
-GROWTH = [
-    ("declare", "declare/declarations", 2000, 20000,
-     "declaring one of 20,000 options, of one of 2,000", 1.3, None),
-    ("run", "cycle/typed", 7000, 70000,
-     "a typed value of 70,000, of one of 7,000", 1.05, "std::from_chars"),
-    ("run", "cycle/texts", 10000, 100000,
-     "a list's piece of 100,000, of one of 10,000 (texts)", 1.05, "cutting by hand"),
-    ("run", "cycle/integers", 10000, 100000,
-     "a list's piece of 100,000, of one of 10,000 (integers)", 1.05, "cutting by hand"),
-    ("run", "cycle/allowed/1000", 10000, 100000,
-     "one of 100,000 values checked against 1,000, of one of 10,000", 1.05, "std::unordered_set"),
+
+class Growth(typing.NamedTuple):
+    """How the cost of something grows with how much of it there is."""
+    kind: str  # of the measurement
+    small: int
+    large: int  # ten times that
+    what: str
+    limit: float  # of kexa's instructions for each at the large size, divided by those at the small one
+    plain: str | None = None  # code that is no parser and does a part of the same
+
+
+# Linear is 1; a twentieth is left for tables, whose sizes are powers of two. Declaring may grow as
+# n log n, which is 1.303 here.
+GROWTHS = [
+    Growth("declare/declarations", 2000, 20000,
+           "declaring one of 20,000 options, of one of 2,000", 1.3),
+    Growth("cycle/typed", 7000, 70000,
+           "a typed value of 70,000, of one of 7,000", 1.05, "std::from_chars"),
+    Growth("cycle/texts", 10000, 100000,
+           "a list's piece of 100,000, of one of 10,000 (texts)", 1.05, "cutting by hand"),
+    Growth("cycle/integers", 10000, 100000,
+           "a list's piece of 100,000, of one of 10,000 (integers)", 1.05, "cutting by hand"),
+    Growth("cycle/allowed/1000", 10000, 100000,
+           "one of 100,000 values checked against 1,000, of one of 10,000", 1.05,
+           "std::unordered_set"),
 ]
 
 
@@ -58,10 +72,11 @@ def closest(results):
                results.ratios(f"cycle/arguments/{size}", "kexa", "getopt_long"))
     yield ("an argument of 1,000,000, of one of 10,000",
            growths(results, "cycle/arguments", 10000, 1000000))
-    for _, kind, small, large, what, _, plain in GROWTH:
-        yield what, growths(results, kind, small, large)
-        if plain is not None:
-            yield f"the same by plain code ({plain})", growths(results, kind, small, large, plain)
+    for one in GROWTHS:
+        yield one.what, growths(results, one.kind, one.small, one.large)
+        if one.plain is not None:
+            yield (f"the same by plain code ({one.plain})",
+                   growths(results, one.kind, one.small, one.large, one.plain))
     yield "what a handler adds, of its calls made directly", handler_costs(results)
 
 
@@ -94,8 +109,8 @@ def all_goals(results):
             ratio, peer = worst_ratio(results, f"cycle/{kind}/{size}", PEERS)
             add(f"{size:,} options, {what}, of `getopt_long` and every C++ peer", 0.2, ratio,
                 detail=peer)
-    for _, kind, _, _, what, limit, _ in GROWTH:
-        add(f"{what} (instructions)", limit, results.counts["growth"][kind])
+    for one in GROWTHS:
+        add(f"{one.what} (instructions)", one.limit, results.counts["growth"][one.kind])
     add("option file of 1,000,000 lines, of memory plus reading", 2.0,
         option_file_ratio(results, 1000000))
     memory = results.counts["memory"]["option file"]

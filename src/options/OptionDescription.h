@@ -123,8 +123,9 @@ public:
 
     std::int32_t kind = 0;
 
-    // Whether it is known that the texts of all names, each with the zero that ends it, lie one
-    // behind the other.
+    // Whether the texts of all names are known to lie one behind the other in the order of the
+    // names, each with a zero behind it, so that they can be copied at once. Whoever adds a name
+    // clears it.
     bool namesAreJoined = false;
     OptionNames names;
     KeywordSet keywords;

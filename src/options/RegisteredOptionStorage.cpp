@@ -38,11 +38,6 @@ constexpr std::size_t largest_table_in_pool = 2048; // bytes; larger ones are fr
     return count < most_names || (count == most_names && last.size() <= longest_short_form);
 }
 
-[[nodiscard]] const wchar_t* orEmpty(const wchar_t* text) noexcept
-{
-    return text == nullptr ? L"" : text;
-}
-
 template <class T>
 [[nodiscard]] T* placeAt(std::byte* bytes) noexcept
 {
@@ -72,10 +67,10 @@ const Registration& RegisteredOptionStorage::registerOption(const wchar_t* names
                                                             bool isSwitch, std::int32_t valueType,
                                                             const wchar_t* groupText)
 {
-    const Declaration declaration = {names, keywords, description, isSwitch, valueType, groupText};
+    const Declaration declaration = {names, keywords, description, isSwitch, valueType};
     try
     {
-        const wchar_t* const group = orEmpty(groupText);
+        const wchar_t* const group = groupText == nullptr ? L"" : groupText;
         // Declarations of a group usually stand together.
         if (!isOfLastGroup(group)) [[unlikely]]
         {
@@ -193,7 +188,7 @@ RegisteredOptionStorage::DeclaredNames RegisteredOptionStorage::findNames(const 
 {
     NewName* name = m_names.data();
     const wchar_t* next = text;
-    m_areJoined = true;
+    bool joined = true;
     for (;; ++next)
     {
         const wchar_t* const begin = next;
@@ -216,7 +211,8 @@ RegisteredOptionStorage::DeclaredNames RegisteredOptionStorage::findNames(const 
         }
         else
         {
-            m_areJoined = false;
+            // Also for a ',' in front or at the end, which are too rare to tell apart.
+            joined = false;
         }
         if (*next == L'\0')
         {
@@ -224,7 +220,7 @@ RegisteredOptionStorage::DeclaredNames RegisteredOptionStorage::findNames(const 
         }
     }
     const auto count = static_cast<std::size_t>(name - m_names.data());
-    return {{text, next}, acceptsNames(count, m_names.back().text) ? count : 0};
+    return {{text, next}, acceptsNames(count, m_names.back().text) ? count : 0, joined};
 }
 
 // Reports names of which one is taken, unless there are too many of them anyway.
@@ -276,7 +272,7 @@ RegisteredOptionStorage::makeOption(const Declaration& declaration, const Declar
     option->description = {ownDescription, description.size()};
     option->separator = m_defaultSeparator;
     option->valueType = declaration.valueType;
-    option->namesAreJoined = m_areJoined;
+    option->namesAreJoined = names.joined;
     if (declaration.keywords != nullptr || declaration.isSwitch) [[unlikely]]
     {
         addKeywords(*option, declaration);

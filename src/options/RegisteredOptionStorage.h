@@ -88,7 +88,7 @@ public:
     [[nodiscard]] std::vector<OptionGroup> groups() const;
 
 private:
-    // What registerOption takes.
+    // What registerOption takes, without the group.
     struct Declaration
     {
         const wchar_t* names;
@@ -96,7 +96,6 @@ private:
         const wchar_t* description;
         bool isSwitch;
         std::int32_t valueType;
-        const wchar_t* groupText;
     };
 
     // The names of a declaration as they were written. m_names begins with them one by one.
@@ -104,6 +103,7 @@ private:
     {
         std::wstring_view text;
         std::size_t count = 0; // none where they are refused
+        bool joined = false;   // whether each but the last is followed by one ',' and the next name
     };
 
     // A name of the declaration at work.
@@ -153,7 +153,6 @@ private:
 
     // Of the declaration at work; behind its names, what earlier ones left, which nobody looks at.
     std::array<NewName, most_names> m_names;
-    bool m_areJoined = true; // whether nothing but one ',' lies between two of them
 };
 
 } // namespace kexa_3_3

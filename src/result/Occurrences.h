@@ -19,15 +19,15 @@ namespace kexa_3_3
 // an occurrence with its position. Many may be stored: kept small.
 struct Occurrence
 {
+    static constexpr std::uint8_t position_part = 1;
+    static constexpr std::uint8_t value_part = 2;
+    static constexpr std::uint8_t both_parts = position_part | value_part;
+
     const wchar_t* text = nullptr; // terminated by a zero; lives as long as the result
     std::uint64_t word = 0;        // of a variant, which others keep alive
     std::int32_t position = 0;
     std::uint16_t kind = vexkit2::kind_null; // of the variant
-    std::uint8_t parts = 0;                  // which of the two it is: as follows
-
-    static constexpr std::uint8_t position_part = 1;
-    static constexpr std::uint8_t value_part = 2;
-    static constexpr std::uint8_t both_parts = position_part | value_part;
+    std::uint8_t parts = 0;                  // which of the above it is
 
     [[nodiscard]] bool isPosition() const noexcept { return (parts & position_part) != 0; }
     [[nodiscard]] bool isValue() const noexcept { return (parts & value_part) != 0; }
@@ -159,6 +159,8 @@ public:
     {
         return (m_parts & Occurrence::value_part) != 0;
     }
+
+    // Positions and values, be it of different entries.
     [[nodiscard]] bool hasBoth() const noexcept { return m_parts == Occurrence::both_parts; }
 
     // How many entries there are, whatever they hold. Steps over whole pieces.

@@ -55,6 +55,21 @@ void forEachEntry(OptionResult& record, Take take, Append append) noexcept
     }
 }
 
+// How many characters the texts of names take with the zeros behind them.
+std::size_t lengthOf(std::span<const HashedText> names) noexcept
+{
+    return std::accumulate(names.begin(), names.end(), names.size(),
+                           [](std::size_t length, const HashedText& name)
+                           { return length + name.size(); });
+}
+
+// The same of names, one at least, whose texts lie one behind the other.
+std::size_t lengthOfJoined(std::span<const HashedText> names) noexcept
+{
+    const wchar_t* const end = names.back().data() + names.back().size() + 1;
+    return static_cast<std::size_t>(end - names.front().data());
+}
+
 } // namespace
 
 OptionResultTable::OptionResultTable(Garbage& strings)
@@ -135,7 +150,14 @@ inline void OptionResultTable::enter(const OptionDescription& option, StoredOpti
     m_recalled[option.tableIndex()] = &stored;
 }
 
-// Every query of a host begins here.
+StoredOption* OptionResultTable::find(const HashedText& name) const noexcept
+{
+    const std::uint32_t number = m_slots.numberAt(m_slots.slotOf(name, textOf()));
+    return number == TextSlots::absent ? nullptr : m_names[number].record;
+}
+
+// Here begins every query of values. Called from one place only, so that the compiler puts it
+// there.
 StoredOption* OptionResultTable::findTerminated(const wchar_t* name) const noexcept
 {
     // The search is for the hash, which keeps it small: what it finds is the name, or else a rare
@@ -147,7 +169,8 @@ StoredOption* OptionResultTable::findTerminated(const wchar_t* name) const noexc
         return nullptr;
     }
     const Name& found = m_names[number];
-    return found.text == text ? found.record : findExactly(found.text, {text.data(), text.size()});
+    return found.text == text ? found.record
+                              : find(HashedText(found.text, {text.data(), text.size()}));
 }
 
 // Whether all that is stored comes from one table of options, this one, in which no two have a name
@@ -348,21 +371,6 @@ inline StoredOption& OptionResultTable::makeRecord(Names names, bool joined, Mak
     return *new (memory) StoredOption(makeFirst...);
 }
 
-// How many characters the texts of names take with the zeros behind them.
-std::size_t OptionResultTable::lengthOf(Names names) noexcept
-{
-    return std::accumulate(names.begin(), names.end(), names.size(),
-                           [](std::size_t length, const HashedText& name)
-                           { return length + name.size(); });
-}
-
-// The same of names whose texts lie one behind the other.
-inline std::size_t OptionResultTable::lengthOfJoined(Names names) noexcept
-{
-    const wchar_t* const end = names.back().data() + names.back().size() + 1;
-    return static_cast<std::size_t>(end - names.front().data());
-}
-
 // Copies the texts of names one behind the other.
 void OptionResultTable::copyTexts(Names names, wchar_t* room) noexcept
 {
@@ -430,14 +438,6 @@ void OptionResultTable::moveInto(Entry*& entries, std::size_t used, std::size_t 
         m_memory.deallocate(entries, before * size, alignof(Entry));
     }
     entries = moved;
-}
-
-// The record of a name, found by comparing characters.
-StoredOption* OptionResultTable::findExactly(const HashedText& hashed,
-                                             std::wstring_view name) const noexcept
-{
-    const std::size_t slot = m_slots.slotOf(HashedText(hashed, name), textOf());
-    return m_slots.isFree(slot) ? nullptr : m_names[m_slots.numberAt(slot)].record;
 }
 
 // Lets names find the record that was made for them. They leave those that they found before.

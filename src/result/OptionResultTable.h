@@ -85,16 +85,13 @@ public:
     [[nodiscard]] SharedTexts& texts() noexcept { return m_texts; }
 
     // The record of a name, or null. It stays where it is as long as the table lives.
-    [[nodiscard]] StoredOption* find(const HashedText& name) const noexcept
-    {
-        return findExactly(name, name);
-    }
+    [[nodiscard]] StoredOption* find(const HashedText& name) const noexcept;
     [[nodiscard]] StoredOption* find(std::wstring_view name) const noexcept
     {
         return find(HashedText(name));
     }
 
-    // The same of a name that ends with its first zero.
+    // The same of a name that ends with its first zero. For queries of values, which take it in.
     [[nodiscard]] StoredOption* findTerminated(const wchar_t* name) const noexcept;
 
     // The names in the order of their first storing, each with its record.
@@ -110,11 +107,6 @@ public:
 
 private:
     using Names = std::span<const HashedText>;
-
-    // hashed: a text with the hash of the name, which is passed without it, or the search that ends
-    //         here would have to keep it in memory for this rare call.
-    [[nodiscard]] StoredOption* findExactly(const HashedText& hashed,
-                                            std::wstring_view name) const noexcept;
 
     [[nodiscard]] bool isOnlySource(const OptionIndex* index) const noexcept;
     void noteSource(const OptionIndex* index) noexcept;
@@ -153,13 +145,11 @@ private:
 
     // A record for names, which find it once they are bound to it, and the room that binding needs.
     //
-    // joined:    whether the texts of the names lie one behind the other.
+    // joined:    as OptionDescription::namesAreJoined.
     // makeFirst: answers the first occurrence of the record. Left out where that comes later.
     template <class... MakeFirst>
     [[nodiscard]] StoredOption& makeRecord(Names names, bool joined, MakeFirst... makeFirst);
     [[nodiscard]] static wchar_t* textsOf(void* record) noexcept;
-    [[nodiscard]] static std::size_t lengthOf(Names names) noexcept;
-    [[nodiscard]] static std::size_t lengthOfJoined(Names names) noexcept;
     static void copyTexts(Names names, wchar_t* room) noexcept;
     [[nodiscard]] StoredOption& copyRecord(const StoredOption& from, Names names);
     void reserveFor(std::size_t names)

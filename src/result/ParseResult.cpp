@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "support/Text.h"
+#include "support/HashedText.h"
 
 namespace kexa_3_3
 {
@@ -16,6 +16,7 @@ void ParseResult::release()
 
 std::int32_t ParseResult::isPresent(const wchar_t* name, std::int32_t from, std::int32_t to)
 {
+    // Asked more seldom than values are: not worth a second copy of their search.
     const StoredOption* const option =
         name == nullptr ? nullptr : m_options.find(HashedText::ofTerminated(name));
     if (!beginQuery(option, from, to))
@@ -111,7 +112,7 @@ inline bool ParseResult::isAtEndOfValues() const noexcept
     return walksValuesInRange() && m_currentOption->occurrences.isEnd(m_valueCursor);
 }
 
-// Moves the cursor to the start of an option. Answers whether there is one.
+// Begins a query of an option, null for none, and of a range. Answers whether there is an option.
 inline bool ParseResult::beginQuery(const StoredOption* option, std::int32_t from,
                                     std::int32_t to) noexcept
 {

@@ -81,8 +81,9 @@ template <class Ends>
     {
         return length == 0 || *left == *right;
     }
-    // Backwards, so that the last pair is always the one in front, even where a character of it
-    // belongs to the pair before: the end needs no question of its own.
+    // From the end in pairs. The one looked at last is the first two characters, whatever the
+    // length: where that is odd, the second of them is looked at twice, which spares the question
+    // whether a character is left over.
     for (; length > 2; length -= 2)
     {
         if (twoCharacters(left + length - 2) != twoCharacters(right + length - 2))

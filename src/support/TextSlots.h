@@ -34,8 +34,8 @@ public:
     // fewest: slots in any case.
     void reserve(std::size_t count, std::size_t fewest = usual_slots);
 
-    // The slot of the text, or the free one where it belongs, which is good for adding it only
-    // where there is room.
+    // The slot of the text, or the free one where it belongs. Before room is made there is one to
+    // be found, but none to put a text into.
     template <class TextOf>
     [[nodiscard]] std::size_t slotOf(const HashedText& text, TextOf textOf) const
     {
@@ -75,6 +75,7 @@ public:
         return m_slots[slot].number;
     }
 
+    // Needs room.
     void put(std::size_t slot, std::uint32_t number, const HashedText& text) noexcept
     {
         m_slots[slot] = {number, markOf(text)};
@@ -97,9 +98,12 @@ private:
     void free() noexcept;
 
     std::pmr::memory_resource* m_memory;
-    Slot m_none = {absent, 0}; // spares every search a question as long as there is no room
-    Slot* m_slots = &m_none;   // a power of two of them
-    std::size_t m_mask = 0;    // their number less one
+
+    // The only slot until room is made, and always free: searches need not ask whether there are
+    // any.
+    Slot m_none = {absent, 0};
+    Slot* m_slots = &m_none; // a power of two of them
+    std::size_t m_mask = 0;  // their number less one
 };
 
 } // namespace kexa_3_3

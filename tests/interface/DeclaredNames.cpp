@@ -101,6 +101,10 @@ TEST(DeclaredNames, RecordIsOverwrittenByTheNextDeclaration)
     EXPECT_NE(parser->addSwitch(L"b", L"", value_type_boolean, L"").option, option);
     EXPECT_EQ(first.status, 3);
     EXPECT_EQ(&parser->addOptionWithKeywords(L"c", L"", L"", value_type_string, L""), &first);
+    EXPECT_NE(first.option, nullptr);
+    EXPECT_EQ(&declare(*parser, nullptr), &first);
+    EXPECT_EQ(first.option, nullptr);
+    EXPECT_EQ(first.status, 1);
 }
 
 TEST(DeclaredNames, TakenNameIsReportedWithTheWholeNamesText)

@@ -88,6 +88,22 @@ TEST(OptionArgument, AtMostTwoHyphensAreSkipped)
                  {L"n-", L"n-", false, L""}});
 }
 
+TEST(OptionArgument, CharactersBehindTheArgumentAreNoPartOfIt)
+{
+    const WhiteSpace whiteSpace;
+    const std::wstring_view text = L"--name=value";
+    for (std::size_t length = 0; length <= text.size(); ++length)
+    {
+        const std::wstring alone(text.substr(0, length));
+        const OptionArgument parts = split(text.substr(0, length), whiteSpace);
+        const OptionArgument expected = split(alone, whiteSpace);
+        EXPECT_EQ(parts.name, expected.name) << length;
+        EXPECT_EQ(parts.name.data() - text.data(), expected.name.data() - alone.data()) << length;
+        EXPECT_EQ(parts.value, expected.value) << length;
+        EXPECT_EQ(parts.hasValue, expected.hasValue) << length;
+    }
+}
+
 TEST(OptionArgument, ValueBeginsBehindTheFirstEqualsSign)
 {
     expectSplit({{L"--name=value", L"name", true, L"value"},

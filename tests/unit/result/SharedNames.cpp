@@ -9,6 +9,7 @@
 
 #include "options/OptionDescription.h"
 #include "options/OptionIndex.h"
+#include "options/RegisteredOptionStorage.h"
 #include "options/ValueText.h"
 #include "result/ParseResult.h"
 #include "support/Garbage.h"
@@ -311,6 +312,27 @@ TEST_F(SharedNamesTest, RecordsAreFoundAgainByThoseWhoStoreThere)
     EXPECT_EQ(positions(L"d"), (Positions{1, 2, 3, 7}));
 }
 
+TEST_F(SharedNamesTest, CopyOfADeclaredOptionMayHaveFurtherNames)
+{
+    RegisteredOptionStorage options(pool, L',');
+    options.registerOption(L"a,b", nullptr, L"", false, value_type_string, L"");
+    options.registerOption(L"x,y", nullptr, L"", false, value_type_string, L"");
+    ASSERT_EQ(options.size(), 2U);
+    OptionDescription copy = options[0];
+    copy.addName(L"c");
+    store(copy, 1);
+    EXPECT_EQ(positions(L"a"), (Positions{1}));
+    EXPECT_EQ(positions(L"b"), (Positions{1}));
+    EXPECT_EQ(positions(L"c"), (Positions{1}));
+    store(options[0], 2);
+    store(options[1], 3);
+    EXPECT_EQ(positions(L"a"), (Positions{1, 2}));
+    EXPECT_EQ(positions(L"b"), (Positions{1, 2}));
+    EXPECT_EQ(positions(L"c"), (Positions{1}));
+    EXPECT_EQ(positions(L"x"), (Positions{3}));
+    EXPECT_EQ(positions(L"y"), (Positions{3}));
+}
+
 TEST_F(SharedNamesTest, TextsOfOneHashAreToldApart)
 {
     const HashedText first(L"first");
@@ -322,9 +344,11 @@ TEST_F(SharedNamesTest, TextsOfOneHashAreToldApart)
     EXPECT_EQ(positions(L"first"), (Positions{-1}));
     Value value;
     EXPECT_EQ(result.getFirstValue(&value, L"first", 0, no_position), result_nothing);
+    EXPECT_EQ(result.isPresent(L"first", 0, no_position), 0);
     store(one, 2);
     EXPECT_EQ(result.getFirstValue(&value, L"first", 0, no_position), result_success);
     EXPECT_EQ(value.position, 2);
+    EXPECT_EQ(result.isPresent(L"first", 0, no_position), 1);
     store(another, 3);
     EXPECT_EQ(positions(L"first"), (Positions{2}));
     for (const HashedText& name : secondName)

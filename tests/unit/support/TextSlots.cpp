@@ -109,6 +109,21 @@ TEST(TextSlots, KnownTextKeepsItsNumber)
     EXPECT_EQ(table.text(1).data(), first.data());
 }
 
+TEST(TextSlots, NothingIsFoundBeforeRoomIsMade)
+{
+    const TextSlots slots(*std::pmr::new_delete_resource());
+    const auto textOf = [](std::uint32_t)
+    {
+        return HashedText();
+    };
+    for (const wchar_t* const text : {L"", L"a", L"name"})
+    {
+        const std::size_t slot = slots.slotOf(HashedText(std::wstring_view(text)), textOf);
+        EXPECT_TRUE(slots.isFree(slot));
+        EXPECT_EQ(slots.numberAt(slot), absent);
+    }
+}
+
 TEST(TextSlots, EmptySlotsHoldNothing)
 {
     NumberedTexts table;

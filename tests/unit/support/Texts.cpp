@@ -27,6 +27,7 @@ std::vector<std::wstring> piecesOf(std::wstring_view text, wchar_t separator)
 TEST(Texts, NullIsAnEmptyView)
 {
     EXPECT_EQ(viewOf(nullptr), L"");
+    EXPECT_EQ(*viewOf(nullptr).data(), L'\0');
     EXPECT_EQ(viewOf(L""), L"");
     EXPECT_EQ(viewOf(L"text"), L"text");
 }
