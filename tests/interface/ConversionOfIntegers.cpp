@@ -37,6 +37,8 @@ std::vector<ConversionRow<T>> commonRows()
         {L"  +5  ", T{5}},
         {many_zeros, T{0}},
         {many_zeros + L"12", T{12}},
+        {many_zeros + L"x", refused},
+        {many_zeros + L"1:2", refused},
         {many_nines, refused},
         {L"+" + many_nines, refused},
         {L"-" + many_nines, refused},
