@@ -1,4 +1,5 @@
 #include <fstream>
+#include <stdexcept>
 #include <vector>
 
 #include "peers/KexaHost.h"
@@ -68,6 +69,11 @@ private:
 };
 
 } // namespace
+
+void throwMessageOf(kexa_3_3::IParser& parser)
+{
+    throw std::runtime_error("kexa: " + narrow(parser.getErrorMessage()));
+}
 
 KexaHost::KexaHost(const Workload& workload) : m_workload(workload)
 {

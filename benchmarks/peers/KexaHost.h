@@ -3,7 +3,6 @@
 #define KEXA_BENCHMARKS_KEXA_HOST_H
 
 #include <memory>
-#include <stdexcept>
 #include <string>
 
 #include <kexa/kexa.h>
@@ -24,11 +23,13 @@ struct Release
 using ParserPointer = std::unique_ptr<kexa_3_3::IParser, Release>;
 using ResultPointer = std::unique_ptr<kexa_3_3::IParseResult, Release>;
 
+[[noreturn]] void throwMessageOf(kexa_3_3::IParser& parser);
+
 inline void require(bool condition, kexa_3_3::IParser& parser)
 {
     if (!condition)
     {
-        throw std::runtime_error("kexa: " + narrow(parser.getErrorMessage()));
+        throwMessageOf(parser);
     }
 }
 
@@ -55,17 +56,21 @@ public:
         const std::vector<Option>& options = m_workload.options();
         for (std::size_t i = 0; i < options.size(); ++i)
         {
-            const wchar_t* const name = options[i].wideName.c_str();
-            kexa_3_3::result_t code =
-                m_result->getFirstValue(&value, name, 0, kexa_3_3::no_position);
-            if (code != kexa_3_3::result_success)
+            const Option& option = options[i];
+            const wchar_t* const name = option.wideName.c_str();
+            bool found = m_result->getFirstValue(&value, name, 0, kexa_3_3::no_position) ==
+                         kexa_3_3::result_success;
+            if (!found)
             {
                 sink.absent(i);
             }
-            while (code == kexa_3_3::result_success)
+            while (found)
             {
-                give(sink, i, options[i].type, value);
-                code = m_result->getNextValue(&value, name);
+                give(sink, i, option.type, value);
+                // An option that is given once at most is asked for once, as hosts of the other
+                // parsers have one variable for it.
+                found = (option.repeated || option.list || Sink::wants_all) &&
+                        m_result->getNextValue(&value, name) == kexa_3_3::result_success;
             }
         }
     }

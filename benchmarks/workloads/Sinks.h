@@ -19,6 +19,9 @@ namespace benchmarks
 class Tally
 {
 public:
+    // Whether to look for values where the workload has none.
+    static constexpr bool wants_all = false;
+
     void absent(std::size_t) noexcept { m_sum += 1; }
     void flag(std::size_t option, std::uint64_t count) noexcept { m_sum += (option + 7) * count; }
     void integer(std::size_t option, std::int64_t value) noexcept
@@ -51,6 +54,8 @@ private:
 class Record
 {
 public:
+    static constexpr bool wants_all = true;
+
     explicit Record(std::size_t optionCount) : m_options(optionCount) {}
 
     void absent(std::size_t option) { m_options.at(option).wasAbsent = true; }
