@@ -23,7 +23,11 @@ SharedTexts::~SharedTexts()
         const std::size_t held = region->held;
         // Another object may come to live at this address, once its memory was freed.
         region->owner.store(nullptr, std::memory_order_relaxed);
-        if (region->count.fetch_sub(held, std::memory_order_acq_rel) == held)
+        // Where no variant has a share left none can get one, so the count is final: to look at it
+        // spares the atomic subtraction. Acquired, since the last use of the region by another
+        // thread comes before its end.
+        if (region->count.load(std::memory_order_acquire) == held ||
+            region->count.fetch_sub(held, std::memory_order_acq_rel) == held)
         {
             ::operator delete(region);
         }
