@@ -5,7 +5,6 @@
 #include <charconv>
 #include <cstddef>
 #include <limits>
-#include <optional>
 #include <string>
 #include <system_error>
 #include <type_traits>
@@ -67,22 +66,31 @@ template <unsigned base>
     }
 }
 
+// What digits say. Not a std::optional: GCC puts its two words together in memory, byte by word,
+// and reads them back in words, for which the processor waits.
+struct Number
+{
+    u64_t value;
+    bool isValid;
+};
+
 // One or more digits and nothing else, up to and including `highest`.
 template <unsigned base>
-[[nodiscard]] std::optional<u64_t> readDigits(std::wstring_view digits, u64_t highest) noexcept
+[[nodiscard]] Number readDigits(std::wstring_view digits, u64_t highest) noexcept
 {
     // So many digits fit whatever they are; only behind them it takes a division to see.
     using Limits = std::numeric_limits<u64_t>;
     constexpr std::size_t always_fit = base == 10 ? Limits::digits10 : Limits::digits / 4;
     static_assert(base == 10 || base == 16);
 
+    constexpr Number none = {0, false};
     u64_t number = 0;
     for (const wchar_t character : digits.substr(0, always_fit))
     {
         const unsigned digit = digitValue<base>(character);
         if (digit >= base)
         {
-            return std::nullopt;
+            return none;
         }
         number = number * base + digit;
     }
@@ -91,11 +99,11 @@ template <unsigned base>
         const unsigned digit = digitValue<base>(digits[index]);
         if (digit >= base || number > (Limits::max() - digit) / base)
         {
-            return std::nullopt;
+            return none;
         }
         number = number * base + digit;
     }
-    return digits.empty() || number > highest ? std::nullopt : std::optional(number);
+    return digits.empty() || number > highest ? none : Number{number, true};
 }
 
 template <class Integer>
@@ -108,12 +116,12 @@ template <class Integer>
     {
         return variant_t();
     }
-    const std::optional<u64_t> number = readDigits<10>(text, negative ? highest + 1 : highest);
-    if (!number)
+    const Number number = readDigits<10>(text, negative ? highest + 1 : highest);
+    if (!number.isValid)
     {
         return variant_t();
     }
-    return variant_t(static_cast<Integer>(negative ? u64_t{0} - *number : *number));
+    return variant_t(static_cast<Integer>(negative ? u64_t{0} - number.value : number.value));
 }
 
 [[nodiscard]] variant_t convertUnsigned64(std::wstring_view text, SharedTexts* texts)
@@ -138,8 +146,8 @@ template <class Integer>
     {
         return convertDecimal<u64_t>(text, texts);
     }
-    const std::optional<u64_t> number = readDigits<16>(digits, highest);
-    return number ? variant_t(*number) : variant_t();
+    const Number number = readDigits<16>(digits, highest);
+    return number.isValid ? variant_t(number.value) : variant_t();
 }
 
 // Whether a well-formed decimal number, of which `std::from_chars` said that a double cannot hold

@@ -118,7 +118,8 @@ int AbbreviationParser::parseIn(ArgumentQueue& arguments, typename Run::Collecto
     {
         trace<Run>(L": value from the same argument taken: '", m_split.value, L"'");
     }
-    GivenValue given = {option, m_split.value, argument};
+    // In words, as they were just written: reading larger pieces makes the processor wait.
+    GivenValue given = {option, {m_split.value.data(), m_split.value.size()}, argument};
     bool takesNext = false;
     if (!takeValue<Run>(given, takesNext, arguments, error)) [[unlikely]]
     {

@@ -44,11 +44,11 @@ inline void findBestMatch(BestMatch& match, const OptionIndex& index, const Hash
     const std::int64_t exact = index.findAnswering(typedName);
     if (exact != OptionIndex::none)
     {
-        // One by one: an object to copy from would be written in words and read in larger ones,
-        // for which the processor waits.
+        // In words: where what was just written in words is read in larger pieces, the processor
+        // waits.
         match.count = 1;
         match.option = exact;
-        match.name = typedName;
+        match.name = std::wstring_view(typedName.data(), typedName.size());
         match.negated = false;
     }
     else
