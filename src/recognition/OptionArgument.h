@@ -62,19 +62,31 @@ public:
             return character == L'=' || isClassicSpace(character);
         };
         const wchar_t* next = text.data();
-        const wchar_t* const behind = next + text.size();
         TextHash hash;
-        for (std::size_t pairs = text.size() / 2; pairs != 0; --pairs, next += 2)
+        bool endsInSingle = false; // whether a last character of the name follows the pairs
+        for (std::size_t pairs = text.size() / 2;; --pairs, next += 2)
         {
-            // Letters stand above all that ends a name, in the basic set.
-            if (anyMayBeBelow<L'=' + 1>(twoCharacters(next)) &&
-                (endsName(next[0]) || endsName(next[1])))
+            if (pairs == 0)
             {
+                endsInSingle = text.size() % 2 != 0 && !endsName(*next);
                 break;
+            }
+            // Letters stand above all that ends a name, in the basic set.
+            if (anyMayBeBelow<L'=' + 1>(twoCharacters(next)))
+            {
+                if (endsName(next[0]))
+                {
+                    break;
+                }
+                if (endsName(next[1]))
+                {
+                    endsInSingle = true;
+                    break;
+                }
             }
             hash.addTwo(next);
         }
-        if (next != behind && !endsName(*next))
+        if (endsInSingle)
         {
             hash.addLast(*next);
             ++next;

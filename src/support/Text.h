@@ -61,8 +61,12 @@ void forEachPiece(std::wstring_view text, wchar_t separator, Use use)
 [[nodiscard]] inline bool containsCharacter(std::wstring_view text, wchar_t character) noexcept
 {
     constexpr std::size_t short_text = 16;
-    return text.size() > short_text ? text.find(character) != std::wstring_view::npos
-                                    : std::ranges::find(text, character) != text.end();
+    if (text.size() > short_text)
+    {
+        return text.find(character) != std::wstring_view::npos;
+    }
+    // Not std::any_of, nor a find: those look at four characters in turn, for long texts.
+    return std::ranges::any_of(text, [character](wchar_t other) { return other == character; });
 }
 
 // White space of the classic locale. The same six characters everywhere, since the C runtimes
