@@ -14,8 +14,6 @@ namespace kexa_3_3
 namespace
 {
 
-constexpr std::size_t expected_names = 32; // room taken at once, for programs of usual size
-
 // The smaller index of the two, where `none` counts as larger than any.
 std::int64_t firstOf(std::int64_t left, std::int64_t right) noexcept
 {
@@ -35,14 +33,15 @@ std::uint64_t newIdentity() noexcept
 } // namespace
 
 OptionIndex::OptionIndex(std::pmr::memory_resource& memory) noexcept
-    : m_identity(newIdentity()), m_names(memory), m_slots(memory)
+    : m_identity(newIdentity()), m_names(memory, m_firstNames.bytes()),
+      m_slots(memory, m_firstSlots.bytes())
 {
 }
 
 // Each name has a slot, so there is room for a name where the table of names has it.
 void OptionIndex::grow(std::size_t count)
 {
-    const std::size_t room = m_names.nextRoom(count, expected_names);
+    const std::size_t room = m_names.nextRoom(count);
     m_slots.reserve(room);
     m_names.grow(room);
 }

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "support/HashedText.h"
+#include "support/InlineBlock.h"
 #include "support/PlainTable.h"
 #include "support/TextSlots.h"
 
@@ -199,6 +200,10 @@ private:
     // Sorts in the names added since the last search.
     void sortNames() const;
 
+    static constexpr std::size_t expected_names = 32; // of a program of usual size
+
+    InlineBlock<PlainTable<Name>::bytesOf(expected_names)> m_firstNames;
+    InlineBlock<TextSlots::bytesFor(2 * expected_names)> m_firstSlots;
     std::uint64_t m_identity;
     bool m_sharesNames = false;
     bool m_holdsValues = false;

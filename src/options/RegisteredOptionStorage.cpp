@@ -20,8 +20,6 @@ namespace
 constexpr std::int32_t registered = 3;
 constexpr std::int32_t refused = 1;
 constexpr std::size_t longest_short_form = 2;
-constexpr std::size_t expected_options = 32; // room taken at once, for programs of usual size
-constexpr std::size_t expected_groups = 8;
 constexpr std::size_t largest_table_in_pool = 2048; // bytes; larger ones are freed as they grow
 
 // Whether a character belongs to a name, and is neither between names nor behind them.
@@ -48,8 +46,9 @@ template <class T>
 
 RegisteredOptionStorage::RegisteredOptionStorage(Garbage& owner, wchar_t defaultSeparator)
     : m_defaultSeparator(defaultSeparator), m_owner(owner),
-      m_memory(owner.memory(), largest_table_in_pool), m_options(m_memory), m_groups(m_memory),
-      m_groupSlots(m_memory), m_index(m_memory)
+      m_memory(owner.memory(), largest_table_in_pool), m_options(m_memory, m_firstOptions.bytes()),
+      m_groups(m_memory, m_firstGroups.bytes()), m_groupSlots(m_memory, m_firstGroupSlots.bytes()),
+      m_index(m_memory)
 {
 }
 
@@ -160,8 +159,8 @@ void RegisteredOptionStorage::changeGroup(const wchar_t* declared)
     }
     if (!m_groups.hasRoom(1))
     {
-        const std::size_t room = m_groups.nextRoom(1, expected_groups);
-        m_groupSlots.reserve(room, 2 * expected_groups);
+        const std::size_t room = m_groups.nextRoom(1);
+        m_groupSlots.reserve(room);
         m_groups.grow(room);
     }
     const std::wstring_view text(*end == L':' ? end + 1 : end);
@@ -177,7 +176,7 @@ void RegisteredOptionStorage::makeRoom()
     m_index.reserve(most_names);
     if (!m_options.hasRoom(1))
     {
-        m_options.grow(m_options.nextRoom(1, expected_options));
+        m_options.grow(m_options.nextRoom(1));
     }
 }
 
@@ -220,7 +219,9 @@ RegisteredOptionStorage::DeclaredNames RegisteredOptionStorage::findNames(const 
         }
     }
     const auto count = static_cast<std::size_t>(name - m_names.data());
-    return {{text, next}, acceptsNames(count, m_names.back().text) ? count : 0, joined};
+    // There is a third name only where there are so many.
+    const bool accepted = count < most_names || acceptsNames(count, m_names.back().text);
+    return {{text, next}, accepted ? count : 0, joined};
 }
 
 // Reports names of which one is taken, unless there are too many of them anyway.

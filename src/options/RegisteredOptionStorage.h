@@ -13,6 +13,7 @@
 #include "options/OptionDescription.h"
 #include "options/OptionIndex.h"
 #include "support/HashedText.h"
+#include "support/InlineBlock.h"
 #include "support/PlainTable.h"
 #include "support/SmallBlocks.h"
 #include "support/TextSlots.h"
@@ -109,8 +110,14 @@ private:
     // A name of the declaration at work.
     struct NewName
     {
-        HashedText text;      // as it was declared
-        std::size_t slot = 0; // its place in the index
+        // Sets nothing: the members are written before anybody looks at them.
+        NewName() noexcept {} // NOLINT(*-member-init, modernize-use-equals-default)
+
+        union
+        {
+            HashedText text; // as it was declared
+        };
+        std::size_t slot; // its place in the index
     };
 
     // An option that is made and not yet known.
@@ -139,11 +146,18 @@ private:
     void enter(const NewOption& made, const DeclaredNames& declared) noexcept;
     void destroyValues() noexcept;
 
+    // Of a program of usual size.
+    static constexpr std::size_t expected_options = 32;
+    static constexpr std::size_t expected_groups = 8;
+
     wchar_t m_defaultSeparator;
     Garbage& m_owner;
-    SmallBlocks m_memory;                     // of the tables
-    PlainTable<OptionDescription*> m_options; // in memory of m_owner
-    PlainTable<const OptionGroup*> m_groups;  // in memory of m_owner too
+    InlineBlock<PlainTable<OptionDescription*>::bytesOf(expected_options)> m_firstOptions;
+    InlineBlock<PlainTable<const OptionGroup*>::bytesOf(expected_groups)> m_firstGroups;
+    InlineBlock<TextSlots::bytesFor(expected_groups)> m_firstGroupSlots;
+    SmallBlocks m_memory;                     // of the tables, once they outgrow the first
+    PlainTable<OptionDescription*> m_options; // these lie in memory of m_owner
+    PlainTable<const OptionGroup*> m_groups;  // so do these
     Registration m_lastRegistration = {nullptr, 1};
 
     TextSlots m_groupSlots;                   // numbers are indices of m_groups
@@ -151,7 +165,7 @@ private:
     OptionIndex m_index;
     std::size_t m_actionCount = 0;
 
-    // Of the declaration at work; behind its names, what earlier ones left, which nobody looks at.
+    // Of the declaration at work; nobody looks at what lies behind its names.
     std::array<NewName, most_names> m_names;
 };
 

@@ -16,7 +16,6 @@ namespace kexa_3_3
 namespace
 {
 
-constexpr std::size_t expected_names = 32; // room taken at once, for command lines of usual size
 constexpr std::size_t largest_table_in_pool = 2048; // bytes; larger ones are freed as they grow
 
 // Whether every value is that of an occurrence of its own, as those of a command line are.
@@ -73,15 +72,16 @@ std::size_t lengthOfJoined(std::span<const HashedText> names) noexcept
 } // namespace
 
 OptionResultTable::OptionResultTable(Garbage& strings)
-    : m_strings(strings), m_memory(strings.memory(), largest_table_in_pool), m_slots(m_memory),
-      m_shares(&m_memory)
+    : m_strings(strings), m_memory(strings.memory(), largest_table_in_pool),
+      m_recalled(m_firstRecalled.data()), m_names(firstNames()),
+      m_slots(m_memory, m_firstSlots.bytes()), m_shares(&m_memory)
 {
 }
 
 OptionResultTable::~OptionResultTable()
 {
-    moveInto(m_recalled, 0, m_recalledSize, 0);
-    moveInto(m_names, 0, m_room, 0);
+    moveInto(m_recalled, m_firstRecalled.data(), 0, m_recalledSize, 0);
+    moveInto(m_names, firstNames(), 0, m_room, 0);
 }
 
 void OptionResultTable::store(const OptionDescription& option, OptionResult& record)
@@ -403,16 +403,16 @@ StoredOption& OptionResultTable::copyRecord(const StoredOption& from, Names name
 // Makes room for names to be added.
 void OptionResultTable::growNames(std::size_t names)
 {
-    const std::size_t room = std::max({m_size + names, std::size_t{2} * m_room, expected_names});
+    const std::size_t room = std::max(m_size + names, std::size_t{2} * m_room);
     m_slots.reserve(room);
-    moveInto(m_names, m_size, m_room, room);
+    moveInto(m_names, firstNames(), m_size, m_room, room);
     m_room = static_cast<std::uint32_t>(room);
 }
 
 void OptionResultTable::growRecalled(std::size_t size)
 {
-    const std::size_t room = std::max({size, 2 * m_recalledSize, expected_names});
-    moveInto(m_recalled, m_recalledSize, m_recalledSize, room);
+    const std::size_t room = std::max(size, 2 * m_recalledSize);
+    moveInto(m_recalled, m_firstRecalled.data(), m_recalledSize, m_recalledSize, room);
     std::fill(m_recalled + m_recalledSize, m_recalled + room, nullptr);
     m_recalledSize = room;
 }
@@ -420,10 +420,12 @@ void OptionResultTable::growRecalled(std::size_t size)
 // Gives entries other memory, or none. They are no tables of their own: one size and one room serve
 // the names and their slots. Throws std::bad_alloc, changing nothing.
 //
-// used: how many entries to copy; before, room: how many there was and is memory for.
+// first:        where entries lie at first, in memory that is part of the table.
+// used:         how many entries to copy.
+// before, room: how many there was and is memory for.
 template <class Entry>
-void OptionResultTable::moveInto(Entry*& entries, std::size_t used, std::size_t before,
-                                 std::size_t room)
+void OptionResultTable::moveInto(Entry*& entries, const Entry* first, std::size_t used,
+                                 std::size_t before, std::size_t room)
 {
     // NOLINTNEXTLINE(bugprone-sizeof-expression): entries may be pointers.
     constexpr std::size_t size = sizeof(Entry);
@@ -433,7 +435,7 @@ void OptionResultTable::moveInto(Entry*& entries, std::size_t used, std::size_t 
         moved = static_cast<Entry*>(m_memory.allocate(room * size, alignof(Entry)));
         std::uninitialized_copy_n(entries, used, moved);
     }
-    if (entries != nullptr)
+    if (entries != first)
     {
         m_memory.deallocate(entries, before * size, alignof(Entry));
     }

@@ -1,6 +1,7 @@
 // The records of a parse result, found by option name.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <forward_list>
@@ -13,6 +14,7 @@
 #include "result/StoredOption.h"
 #include "support/Garbage.h"
 #include "support/HashedText.h"
+#include "support/InlineBlock.h"
 #include "support/SharedTexts.h"
 #include "support/SmallBlocks.h"
 #include "support/TextSlots.h"
@@ -169,7 +171,12 @@ private:
     void growNames(std::size_t names);
     void growRecalled(std::size_t size);
     template <class Entry>
-    void moveInto(Entry*& entries, std::size_t used, std::size_t before, std::size_t room);
+    void moveInto(Entry*& entries, const Entry* first, std::size_t used, std::size_t before,
+                  std::size_t room);
+    [[nodiscard]] Name* firstNames() noexcept
+    {
+        return static_cast<Name*>(static_cast<void*>(m_firstNames.bytes().data()));
+    }
     void bind(Names names, StoredOption& stored) noexcept;
     inline void bindNew(Names names, StoredOption& stored) noexcept;
 
@@ -189,21 +196,27 @@ private:
     static constexpr std::uint64_t no_source = 0;
     static constexpr std::uint64_t several_sources = ~std::uint64_t{0};
 
+    // Of a command line of usual size.
+    static constexpr std::size_t expected_names = 32;
+
+    InlineBlock<expected_names * sizeof(Name)> m_firstNames;
+    InlineBlock<TextSlots::bytesFor(2 * expected_names)> m_firstSlots;
+    std::array<StoredOption*, expected_names> m_firstRecalled = {};
     Garbage& m_strings;
     SharedTexts m_texts;
-    SmallBlocks m_memory; // of the following
+    SmallBlocks m_memory; // of the following, once they outgrow the first, and of the shares
     std::uint64_t m_source = no_source;
 
     // The record that an option of some table was stored in last, by its index there. Where all
     // options come from one table whose names are all different, the record is that of the option;
     // otherwise it is a guess.
-    StoredOption** m_recalled = nullptr;
-    std::size_t m_recalledSize = 0;
+    StoredOption** m_recalled;
+    std::size_t m_recalledSize = expected_names;
 
-    Name* m_names = nullptr; // in the order of their first storing
+    Name* m_names; // in the order of their first storing
     std::uint32_t m_size = 0;
-    std::uint32_t m_room = 0; // in m_names and m_slots
-    TextSlots m_slots;        // of m_names
+    std::uint32_t m_room = expected_names; // in m_names and m_slots
+    TextSlots m_slots;                     // of m_names
 
     // Values whose blocks were made elsewhere: shares that the records rely on.
     std::pmr::forward_list<vexkit2::variant_t> m_shares;

@@ -6,6 +6,7 @@
 #include <memory>
 #include <memory_resource>
 #include <new>
+#include <span>
 #include <type_traits>
 
 namespace kexa_3_3
@@ -20,8 +21,20 @@ class PlainTable
     static_assert(std::is_trivially_copyable_v<T>);
 
 public:
+    // The bytes that some values take.
+    [[nodiscard]] static constexpr std::size_t bytesOf(std::size_t count) noexcept
+    {
+        return count * sizeof(T); // NOLINT(bugprone-sizeof-expression): of a pointer where T is one
+    }
+
     // memory: lives longer than the table.
-    explicit PlainTable(std::pmr::memory_resource& memory) noexcept : m_memory(&memory) {}
+    // first:  room to begin with, aligned as the values are. Lives as long as the table, and nobody
+    //         else uses it.
+    explicit PlainTable(std::pmr::memory_resource& memory, std::span<std::byte> first = {}) noexcept
+        : m_memory(&memory), m_first(static_cast<T*>(static_cast<void*>(first.data()))),
+          m_values(m_first), m_room(first.size() / bytesOf(1))
+    {
+    }
     ~PlainTable() { free(); }
     PlainTable(const PlainTable&) = delete;
     PlainTable& operator=(const PlainTable&) = delete;
@@ -33,10 +46,10 @@ public:
     }
 
     // How many values to make room for where there is none for `count` more: so many that appending
-    // stays cheap. smallest: at least these.
-    [[nodiscard]] std::size_t nextRoom(std::size_t count, std::size_t smallest) const noexcept
+    // stays cheap.
+    [[nodiscard]] std::size_t nextRoom(std::size_t count) const noexcept
     {
-        return std::max(m_size + count, std::max(2 * m_room, smallest));
+        return std::max(m_size + count, 2 * m_room);
     }
 
     // Makes room for `room` values in all, more than there is. Throws std::bad_alloc, changing
@@ -69,22 +82,19 @@ private:
     // Their numbers fit into 31 bits, which is what the tables' owners keep of them.
     static constexpr std::size_t most_values = 0x7FFFFFFF;
 
-    [[nodiscard]] static constexpr std::size_t bytesOf(std::size_t count) noexcept
-    {
-        return count * sizeof(T); // NOLINT(bugprone-sizeof-expression): of a pointer where T is one
-    }
     void free() noexcept
     {
-        if (m_values != nullptr)
+        if (m_values != m_first)
         {
             m_memory->deallocate(m_values, bytesOf(m_room), alignof(T));
         }
     }
 
     std::pmr::memory_resource* m_memory;
-    T* m_values = nullptr;
+    T* m_first; // or null
+    T* m_values;
     std::size_t m_size = 0;
-    std::size_t m_room = 0; // for so many values
+    std::size_t m_room; // for so many values
 };
 
 } // namespace kexa_3_3

@@ -1,23 +1,26 @@
 #include "support/TextSlots.h"
 
-#include <algorithm>
-#include <bit>
 #include <cstring>
 
 namespace kexa_3_3
 {
 
-void TextSlots::reserve(std::size_t count, std::size_t fewest)
+TextSlots::TextSlots(std::pmr::memory_resource& memory, std::span<std::byte> first) noexcept
+    : m_memory(&memory), m_first(makeFree(first.data(), first.size())), m_slots(m_first),
+      m_mask(first.size() / sizeof(Slot) - 1)
 {
-    const std::size_t slots = std::bit_ceil(std::max(2 * count, fewest));
+}
+
+void TextSlots::reserve(std::size_t count)
+{
+    const std::size_t slots = slotsFor(count);
     if (slots <= m_mask + 1)
     {
         return;
     }
     const std::size_t mask = slots - 1;
-    void* const memory = m_memory->allocate(slots * sizeof(Slot), alignof(Slot));
-    std::memset(memory, 0xFF, slots * sizeof(Slot)); // which makes all of them free
-    Slot* const grown = static_cast<Slot*>(memory);
+    Slot* const grown =
+        makeFree(m_memory->allocate(slots * sizeof(Slot), alignof(Slot)), slots * sizeof(Slot));
     // The slots in use are moved together first. Which of them are free follows no pattern, so a
     // branch on it can hardly be predicted.
     std::size_t used = 0;
@@ -43,9 +46,15 @@ void TextSlots::reserve(std::size_t count, std::size_t fewest)
     m_mask = mask;
 }
 
+TextSlots::Slot* TextSlots::makeFree(void* memory, std::size_t bytes) noexcept
+{
+    std::memset(memory, 0xFF, bytes); // all numbers then are `absent`
+    return static_cast<Slot*>(memory);
+}
+
 void TextSlots::free() noexcept
 {
-    if (m_slots != &m_none)
+    if (m_slots != m_first)
     {
         m_memory->deallocate(m_slots, (m_mask + 1) * sizeof(Slot), alignof(Slot));
     }

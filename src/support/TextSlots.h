@@ -1,9 +1,11 @@
 // The slots of a hash table of texts.
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <memory_resource>
+#include <span>
 
 #include "support/HashedText.h"
 
@@ -15,27 +17,38 @@ namespace kexa_3_3
 // that are equal.
 class TextSlots
 {
+    struct Slot
+    {
+        std::uint32_t number;
+
+        // A part of the text's hash: most other texts differ in it. Its lowest bits are the slot
+        // where a search begins, so the texts are not needed when slots are added.
+        std::uint32_t mark;
+    };
+
 public:
     static constexpr std::uint32_t absent = 0xFFFFFFFF;
 
-    // These leave few clusters among the names of a program of usual size.
-    static constexpr std::size_t usual_slots = 128;
+    // The bytes of slots with room for so many texts, one at least.
+    [[nodiscard]] static constexpr std::size_t bytesFor(std::size_t texts) noexcept
+    {
+        return slotsFor(texts) * sizeof(Slot);
+    }
 
     // memory: lives longer than this.
-    explicit TextSlots(std::pmr::memory_resource& memory) noexcept : m_memory(&memory) {}
+    // first:  where the first slots are: as many bytes as bytesFor answers, aligned as numbers of
+    // 32
+    //         bits are. Live as long as this, and nobody else uses them.
+    TextSlots(std::pmr::memory_resource& memory, std::span<std::byte> first) noexcept;
     ~TextSlots() { free(); }
     TextSlots(const TextSlots&) = delete;
     TextSlots& operator=(const TextSlots&) = delete;
 
-    // Makes room for `count` texts in all: twice as many slots, so that a search for a text that is
-    // not there ends soon. Slots found before are good no more. Throws std::bad_alloc, changing
-    // nothing.
-    //
-    // fewest: slots in any case.
-    void reserve(std::size_t count, std::size_t fewest = usual_slots);
+    // Makes room for `count` texts in all. Slots found before are good no more. Throws
+    // std::bad_alloc, changing nothing.
+    void reserve(std::size_t count);
 
-    // The slot of the text, or the free one where it belongs. Before room is made there is one to
-    // be found, but none to put a text into.
+    // The slot of the text, or the free one where it belongs.
     template <class TextOf>
     [[nodiscard]] std::size_t slotOf(const HashedText& text, TextOf textOf) const
     {
@@ -82,28 +95,25 @@ public:
     }
 
 private:
-    struct Slot
-    {
-        std::uint32_t number;
-
-        // A part of the text's hash: most other texts differ in it. Its lowest bits are the slot
-        // where a search begins, so the texts are not needed when slots are added.
-        std::uint32_t mark;
-    };
-
     [[nodiscard]] static std::uint32_t markOf(const HashedText& text) noexcept
     {
         return static_cast<std::uint32_t>(text.hash());
     }
+    // A power of two of them, and twice as many: few clusters then make a search long.
+    [[nodiscard]] static constexpr std::size_t slotsFor(std::size_t texts) noexcept
+    {
+        return std::bit_ceil(2 * texts);
+    }
+
+    // Makes slots, all of them free, of memory that has so many bytes.
+    [[nodiscard]] static Slot* makeFree(void* memory, std::size_t bytes) noexcept;
     void free() noexcept;
 
     std::pmr::memory_resource* m_memory;
 
-    // The only slot until room is made, and always free: searches need not ask whether there are
-    // any.
-    Slot m_none = {absent, 0};
-    Slot* m_slots = &m_none; // a power of two of them
-    std::size_t m_mask = 0;  // their number less one
+    Slot* m_first;
+    Slot* m_slots;      // a power of two of them
+    std::size_t m_mask; // their number less one
 };
 
 } // namespace kexa_3_3

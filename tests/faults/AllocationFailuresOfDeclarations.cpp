@@ -149,8 +149,8 @@ TEST(AllocationFailureOfDeclarations, LeavesThemWhollyMadeOrNotAtAll)
     std::size_t tried = 0;
     // The first block has 12 KiB. With less padding all of the declarations would fit into it, with
     // more of it the padding itself would not.
-    constexpr std::size_t lowest = 4096 / sizeof(wchar_t);
-    constexpr std::size_t highest = 9216 / sizeof(wchar_t);
+    constexpr std::size_t lowest = 6144 / sizeof(wchar_t);
+    constexpr std::size_t highest = 11264 / sizeof(wchar_t);
     constexpr std::size_t stride = 16 / sizeof(wchar_t);
     for (std::size_t padding = lowest; padding < highest && !testing::Test::HasFailure();
          padding += stride)

@@ -1,9 +1,12 @@
 // The slots of numbered texts, and the hashes by which they are found.
 #include "support/TextSlots.h"
 
+#include <array>
 #include <memory_resource>
 #include <string>
 #include <vector>
+
+#include "support/InlineBlock.h"
 
 #include "AllocationCount.h"
 #include "TextPrinting.h"
@@ -14,6 +17,7 @@ namespace
 using kexa_3_3::equalCharacters;
 using kexa_3_3::HashedText;
 using kexa_3_3::hashOf;
+using kexa_3_3::InlineBlock;
 using kexa_3_3::TextSlots;
 
 constexpr std::uint32_t absent = TextSlots::absent;
@@ -30,8 +34,6 @@ class NumberedTexts
     }
 
 public:
-    NumberedTexts() { m_slots.reserve(1); }
-
     void reserve(std::size_t count)
     {
         m_texts.reserve(m_texts.size() + count);
@@ -66,7 +68,8 @@ public:
 
 private:
     std::vector<HashedText> m_texts;
-    TextSlots m_slots{*std::pmr::new_delete_resource()};
+    InlineBlock<TextSlots::bytesFor(2)> m_firstSlots;
+    TextSlots m_slots{*std::pmr::new_delete_resource(), m_firstSlots.bytes()};
 };
 
 // Texts whose hashes agree in their lowest bits, so that they meet in one slot of every table that
@@ -109,9 +112,11 @@ TEST(TextSlots, KnownTextKeepsItsNumber)
     EXPECT_EQ(table.text(1).data(), first.data());
 }
 
-TEST(TextSlots, NothingIsFoundBeforeRoomIsMade)
+TEST(TextSlots, NothingIsFoundInTheFirstSlots)
 {
-    const TextSlots slots(*std::pmr::new_delete_resource());
+    // Zeros, which would be the number of a text.
+    alignas(std::uint32_t) std::array<std::byte, TextSlots::bytesFor(4)> first = {};
+    const TextSlots slots(*std::pmr::new_delete_resource(), first);
     const auto textOf = [](std::uint32_t)
     {
         return HashedText();
