@@ -63,6 +63,55 @@ TEST(ResultContents, OptionDeclaredAfterManyHasValuesOfItsOwn)
     }
 }
 
+// The last one is stored first: what comes then needs the memory behind a table that was too small.
+TEST(ResultContents, OptionsOfALargeTableAreStoredInAnyOrder)
+{
+    constexpr int count = 300;
+    Host host;
+    std::vector<std::wstring> arguments;
+    for (int number = 0; number < count; ++number)
+    {
+        const std::wstring name = L"o" + std::to_wstring(number);
+        host.addOption(name.c_str());
+        arguments.insert(arguments.begin(), L"-" + name + L"=" + std::to_wstring(number));
+    }
+    std::vector<const wchar_t*> pointers;
+    for (const std::wstring& argument : arguments)
+    {
+        pointers.push_back(argument.c_str());
+    }
+    for (int time = 1; time <= 2; ++time)
+    {
+        ASSERT_EQ(parse(host.parser(), pointers, &host.result()), 0);
+        for (int number = 0; number < count; ++number)
+        {
+            const Texts expected(static_cast<std::size_t>(time), std::to_wstring(number));
+            EXPECT_EQ(host.texts((L"o" + std::to_wstring(number)).c_str()), expected) << number;
+        }
+    }
+}
+
+// As many as no table of a result has room for at first, nor when it has grown once.
+TEST(ResultContents, EachOfManyNamesFindsTheValue)
+{
+    constexpr int count = 300;
+    Host host;
+    IOption& option = host.addOption(L"n0");
+    for (int number = 1; number < count; ++number)
+    {
+        option.addName((L"n" + std::to_wstring(number)).c_str());
+    }
+    host.addOption(L"other");
+    ASSERT_EQ(host.parse({L"-n7=value", L"-other=another", L"-n8=further"}), 0);
+    for (int number = 0; number < count; ++number)
+    {
+        EXPECT_EQ(host.texts((L"n" + std::to_wstring(number)).c_str()),
+                  (Texts{L"value", L"further"}))
+            << number;
+    }
+    EXPECT_EQ(host.texts(L"other"), Texts{L"another"});
+}
+
 TEST(ResultDefaults, DefaultIsGivenWhateverTheRange)
 {
     DefaultHost host;
