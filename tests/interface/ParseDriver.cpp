@@ -246,3 +246,14 @@ TEST_F(ParseDriver, AHostsOwnResultIsLeftAlone)
     EXPECT_EQ(host.parser().parseCommandLine(L"--name=b", &own), 0);
     EXPECT_EQ(own.queries, 0);
 }
+
+TEST_F(ParseDriver, AHostsOwnResultGetsNoDefaults)
+{
+    host.addOption(L"mode").setDefaultValue(vexkit2::variant_t(L"fast"));
+    OwnResult own;
+    EXPECT_EQ(toolbox::parse(host.parser(), {L"--name=a"}, &own), 0);
+    EXPECT_EQ(toolbox::parse(host.parser(), {L"--name=a"}, nullptr), 0);
+    EXPECT_EQ(own.queries, 0);
+    EXPECT_EQ(host.parse({}), 0);
+    EXPECT_EQ(host.texts(L"mode"), std::vector<std::wstring>{L"fast"});
+}
