@@ -203,7 +203,7 @@ private:
     static constexpr std::size_t expected_names = 32; // of a program of usual size
 
     InlineBlock<PlainTable<Name>::bytesOf(expected_names)> m_firstNames;
-    InlineBlock<TextSlots::bytesFor(2 * expected_names)> m_firstSlots;
+    InlineBlock<TextSlots::bytesFor(2 * expected_names)> m_firstSlots; // few clusters among so many
     std::uint64_t m_identity;
     bool m_sharesNames = false;
     bool m_holdsValues = false;

@@ -200,7 +200,7 @@ private:
     static constexpr std::size_t expected_names = 32;
 
     InlineBlock<expected_names * sizeof(Name)> m_firstNames;
-    InlineBlock<TextSlots::bytesFor(2 * expected_names)> m_firstSlots;
+    InlineBlock<TextSlots::bytesFor(2 * expected_names)> m_firstSlots; // few clusters among so many
     std::array<StoredOption*, expected_names> m_firstRecalled = {};
     Garbage& m_strings;
     SharedTexts m_texts;

@@ -36,9 +36,8 @@ public:
     }
 
     // memory: lives longer than this.
-    // first:  where the first slots are: as many bytes as bytesFor answers, aligned as numbers of
-    // 32
-    //         bits are. Live as long as this, and nobody else uses them.
+    // first:  where the first slots are: as many bytes as bytesFor answers, aligned as 32-bit
+    //         numbers are. Live as long as this, and nobody else uses them.
     TextSlots(std::pmr::memory_resource& memory, std::span<std::byte> first) noexcept;
     ~TextSlots() { free(); }
     TextSlots(const TextSlots&) = delete;
@@ -99,7 +98,7 @@ private:
     {
         return static_cast<std::uint32_t>(text.hash());
     }
-    // A power of two of them, and twice as many: few clusters then make a search long.
+    // Twice as many as texts, so that searches end soon, rounded up to a power of two.
     [[nodiscard]] static constexpr std::size_t slotsFor(std::size_t texts) noexcept
     {
         return std::bit_ceil(2 * texts);

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "support/Arena.h"
 #include "support/InlineBlock.h"
 
 #include "AllocationCount.h"
@@ -14,6 +15,7 @@
 namespace
 {
 
+using kexa_3_3::Arena;
 using kexa_3_3::equalCharacters;
 using kexa_3_3::HashedText;
 using kexa_3_3::hashOf;
@@ -69,7 +71,8 @@ public:
 private:
     std::vector<HashedText> m_texts;
     InlineBlock<TextSlots::bytesFor(2)> m_firstSlots;
-    TextSlots m_slots{*std::pmr::new_delete_resource(), m_firstSlots.bytes()};
+    Arena m_memory{64}; // whose blocks are counted
+    TextSlots m_slots{m_memory, m_firstSlots.bytes()};
 };
 
 // Texts whose hashes agree in their lowest bits, so that they meet in one slot of every table that
