@@ -8,7 +8,7 @@
 #include "help/OptionListing.h"
 #include "options/OptionDescription.h"
 #include "options/RegisteredOptionStorage.h"
-#include "support/Text.h"
+#include "support/text/Text.h"
 
 namespace kexa_3_3
 {
@@ -52,7 +52,7 @@ std::wstring formatTopicList(const RegisteredOptionStorage& options, bool hidden
     for (std::size_t index = 0; index < options.size(); ++index)
     {
         const OptionDescription& option = options[index];
-        if (!option.takesValue() && passesHiddenTest(option.group(), hidden))
+        if (!option.takesValue() && passesHiddenTest(option.group.name, hidden))
         {
             topics[option.primaryName()] = option.description;
             longest = std::max(longest, option.primaryName().size());
@@ -92,10 +92,8 @@ std::wstring formatRelatedHelp(const RegisteredOptionStorage& options, const wch
         return notAvailable(options, topic, hidden);
     }
     return listMatching(options, hidden,
-                        [found](const OptionDescription& option) {
-                            return &option != found &&
-                                   shareKeyword(option.keywords, found->keywords);
-                        });
+                        [found](const OptionDescription& option)
+                        { return &option != found && shareKeyword(option, *found); });
 }
 
 std::wstring formatFullHelp(const RegisteredOptionStorage& options, bool hidden)

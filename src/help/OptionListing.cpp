@@ -13,7 +13,7 @@
 #include "options/OptionDescription.h"
 #include "options/ValueText.h"
 #include "options/ValueType.h"
-#include "support/Text.h"
+#include "support/text/Text.h"
 
 namespace kexa_3_3
 {
@@ -41,12 +41,12 @@ void appendBooleanForms(std::wstring& column, const OptionDescription& option)
 
 void appendValueForm(std::wstring& column, const OptionDescription& option)
 {
-    if (option.allowedValues().empty())
+    if (option.allowedValues.empty())
     {
         column.append(L"=<").append(typeName(option)).push_back(L'>');
     }
     std::wstring_view before = L"=";
-    for (const vexkit2::variant_t& value : option.allowedValues())
+    for (const vexkit2::variant_t& value : option.allowedValues)
     {
         column.append(before).append(valueText(value));
         before = L" | ";
@@ -71,7 +71,7 @@ void appendNames(std::wstring& out, const OptionDescription& option)
     // The further names stand before the primary one, the last declared first.
     for (std::size_t position = option.names.size(); position > 1; --position)
     {
-        out.append(L"-").append(option.names[position - 1]).append(L", ");
+        out.append(L"-").append(option.names[position - 1].text()).append(L", ");
     }
     out.append(L"-").append(option.primaryName());
     if (option.valueType == value_type_boolean)
@@ -157,7 +157,7 @@ std::wstring formatNames(const OptionDescription& option)
 }
 
 std::wstring
-formatOptionHelp(const std::vector<std::pair<std::wstring_view, std::wstring_view>>& groups,
+formatOptionHelp(const std::vector<OptionGroup>& groups,
                  std::vector<const OptionDescription*> entries, bool hidden)
 {
     sortByName(entries);
@@ -166,7 +166,7 @@ formatOptionHelp(const std::vector<std::pair<std::wstring_view, std::wstring_vie
     {
         if (!entry->marked)
         {
-            byGroup[entry->group()].push_back(entry);
+            byGroup[entry->group.name].push_back(entry);
         }
     }
     std::wstring out;

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "support/Text.h"
+#include "support/text/Text.h"
 
 namespace kexa_3_3
 {

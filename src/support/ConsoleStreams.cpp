@@ -4,7 +4,7 @@
 #include <streambuf>
 #include <string>
 
-#include "support/Text.h"
+#include "support/text/Text.h"
 
 namespace kexa_3_3
 {

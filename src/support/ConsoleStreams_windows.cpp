@@ -8,7 +8,7 @@
 #include <windows.h>
 
 #include "support/ConsoleStreams.h"
-#include "support/Text.h"
+#include "support/text/Text.h"
 #include "support/Utf8.h"
 
 namespace kexa_3_3::internal

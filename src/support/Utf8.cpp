@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <cstring>
 
-#include "support/Text.h"
+#include "support/text/Text.h"
 
 namespace kexa_3_3
 {
