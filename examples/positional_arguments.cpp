@@ -22,7 +22,11 @@ void printRequest(IParseResult& result)
 {
     for (const Value& program : example::valuesOf(result, L"program"))
     {
-        example::print(std::wstring(L"program ") + program.as<const wchar_t*>() + L"\n");
+        const wchar_t* text = program.as<const wchar_t*>(); // null for an empty argument
+        if (text != nullptr)
+        {
+            example::print(std::wstring(L"program ") + text + L"\n");
+        }
     }
     const wchar_t* argument = nullptr;
     for (auto code = result.getFirstUnparsed(&argument); code == result_success;
