@@ -1,4 +1,4 @@
-#include "Trace.h"
+#include "TraceLines.h"
 
 namespace toolbox
 {

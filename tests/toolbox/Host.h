@@ -1,6 +1,6 @@
 // The library as a host uses it: owners, one parse with what it answered, and readers of a result.
-#ifndef KEXA_TESTS_INTERFACE_HOST_H
-#define KEXA_TESTS_INTERFACE_HOST_H
+#ifndef KEXA_TESTS_TOOLBOX_HOST_H
+#define KEXA_TESTS_TOOLBOX_HOST_H
 
 #include <cstdint>
 #include <initializer_list>

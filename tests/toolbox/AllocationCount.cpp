@@ -1,6 +1,7 @@
-#include "AllocationFaults.h"
+#include "AllocationCount.h"
 
 #include <atomic>
+#include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <new>
@@ -8,48 +9,41 @@
 namespace
 {
 
-// Test programs that use this run the library in one thread; only the number of live blocks is
-// changed by whoever allocates.
-bool insideCall = false;
-bool failedInCall = false;
-std::size_t counted = 0;
-std::size_t chosen = 0;
-faults::Extent chosenExtent = faults::Extent::oneAllocation;
+std::atomic<std::size_t> blocks{0};
+std::atomic<std::size_t> bytes{0};
 std::atomic<std::size_t> live{0};
+std::atomic<toolbox::AllocationFault> fault{nullptr};
 
-bool mustFail() noexcept
+void* allocate(std::size_t size, std::size_t padding = 0) noexcept
 {
-    if (!insideCall)
+    const toolbox::AllocationFault mustFail = fault.load(std::memory_order_relaxed);
+    if (mustFail != nullptr && mustFail())
     {
-        return false;
+        return nullptr;
     }
-    ++counted;
-    const bool again = failedInCall && chosenExtent == faults::Extent::restOfCall;
-    if (counted == chosen || again)
+    void* const block = std::malloc(size + padding == 0 ? 1 : size + padding);
+    if (block != nullptr)
     {
-        failedInCall = true;
-        return true;
+        blocks.fetch_add(1, std::memory_order_relaxed);
+        bytes.fetch_add(size, std::memory_order_relaxed);
+        live.fetch_add(1, std::memory_order_relaxed);
     }
-    return false;
-}
-
-void* allocate(std::size_t size) noexcept
-{
-    void* const block = mustFail() ? nullptr : std::malloc(size == 0 ? 1 : size);
-    live += block == nullptr ? 0 : 1;
     return block;
 }
 
 void release(void* block) noexcept
 {
-    live -= block == nullptr ? 0 : 1;
-    std::free(block);
+    if (block != nullptr)
+    {
+        live.fetch_sub(1, std::memory_order_relaxed);
+        std::free(block);
+    }
 }
 
-// Over-aligned memory: the address of the block that holds it stands right in front of it.
+// Over-aligned memory: the address of the block that holds it is stored right before it.
 void* allocateAligned(std::size_t size, std::size_t alignment) noexcept
 {
-    void* const block = allocate(size + alignment + sizeof(void*));
+    void* const block = allocate(size, alignment + sizeof(void*));
     if (block == nullptr)
     {
         return nullptr;
@@ -77,44 +71,25 @@ void* orThrow(void* block)
 
 } // namespace
 
-namespace faults
+namespace toolbox
 {
 
-void failAllocation(std::size_t number, Extent extent) noexcept
+AllocationCount allocationsSoFar() noexcept
 {
-    counted = 0;
-    chosen = number;
-    chosenExtent = extent;
-    failedInCall = false;
-}
-
-std::size_t allocationsCounted() noexcept
-{
-    return counted;
-}
-
-bool lastCallFailed() noexcept
-{
-    return failedInCall;
+    return {blocks.load(std::memory_order_relaxed), bytes.load(std::memory_order_relaxed)};
 }
 
 std::size_t liveBlocks() noexcept
 {
-    return live;
+    return live.load(std::memory_order_relaxed);
 }
 
-LibraryCall::LibraryCall() noexcept
+void setAllocationFault(AllocationFault newFault) noexcept
 {
-    failedInCall = false;
-    insideCall = true;
+    fault.store(newFault, std::memory_order_relaxed);
 }
 
-LibraryCall::~LibraryCall()
-{
-    insideCall = false;
-}
-
-} // namespace faults
+} // namespace toolbox
 
 void* operator new(std::size_t size)
 {

@@ -1,6 +1,6 @@
 // A folder of its own for each test, gone with it.
-#ifndef KEXA_TESTS_INTERFACE_TEMPORARY_FOLDER_H
-#define KEXA_TESTS_INTERFACE_TEMPORARY_FOLDER_H
+#ifndef KEXA_TESTS_TOOLBOX_TEMPORARY_FOLDER_H
+#define KEXA_TESTS_TOOLBOX_TEMPORARY_FOLDER_H
 
 #include <filesystem>
 #include <string>

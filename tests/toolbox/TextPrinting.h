@@ -1,7 +1,7 @@
 // Wide texts as UTF-8: for comparing with bytes, and for showing the row of a table that failed.
 // GoogleTest comes with it.
-#ifndef KEXA_TESTS_INTERFACE_TEXT_PRINTING_H
-#define KEXA_TESTS_INTERFACE_TEXT_PRINTING_H
+#ifndef KEXA_TESTS_TOOLBOX_TEXT_PRINTING_H
+#define KEXA_TESTS_TOOLBOX_TEXT_PRINTING_H
 
 #include <string>
 #include <string_view>

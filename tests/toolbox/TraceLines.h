@@ -1,6 +1,6 @@
 // The trace of one parse, line by line.
-#ifndef KEXA_TESTS_INTERFACE_TRACE_H
-#define KEXA_TESTS_INTERFACE_TRACE_H
+#ifndef KEXA_TESTS_TOOLBOX_TRACE_LINES_H
+#define KEXA_TESTS_TOOLBOX_TRACE_LINES_H
 
 #include <initializer_list>
 #include <string>

@@ -1,8 +1,8 @@
-#include "ResultContents.h"
+#include "ResultDescription.h"
 
 #include <sstream>
 
-#include "../interface/Host.h"
+#include "Host.h"
 
 namespace faults
 {

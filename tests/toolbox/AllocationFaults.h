@@ -1,12 +1,15 @@
-// Replaces the allocation functions of the whole program, so that a chosen allocation of the
-// library fails. Link AllocationFaults.cpp into the test program to use it.
-#ifndef KEXA_TESTS_FAULTS_ALLOCATION_FAULTS_H
-#define KEXA_TESTS_FAULTS_ALLOCATION_FAULTS_H
+// Makes a chosen allocation of the library fail.
+#ifndef KEXA_TESTS_TOOLBOX_ALLOCATION_FAULTS_H
+#define KEXA_TESTS_TOOLBOX_ALLOCATION_FAULTS_H
 
 #include <cstddef>
 
+#include "AllocationCount.h"
+
 namespace faults
 {
+
+using toolbox::liveBlocks;
 
 // How much fails.
 enum class Extent
@@ -23,9 +26,6 @@ std::size_t allocationsCounted() noexcept;
 
 // Whether an allocation failed inside the library call that ended last.
 bool lastCallFailed() noexcept;
-
-// Blocks allocated by anybody in this program and not freed.
-std::size_t liveBlocks() noexcept;
 
 // Allocations count, and may fail, only while one of these lives: the test's own never fail.
 class LibraryCall

@@ -1,6 +1,6 @@
 // All that a parse result holds, as text or as lists to add up.
-#ifndef KEXA_TESTS_FAULTS_RESULT_CONTENTS_H
-#define KEXA_TESTS_FAULTS_RESULT_CONTENTS_H
+#ifndef KEXA_TESTS_TOOLBOX_RESULT_DESCRIPTION_H
+#define KEXA_TESTS_TOOLBOX_RESULT_DESCRIPTION_H
 
 #include <cstdint>
 #include <map>

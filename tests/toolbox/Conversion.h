@@ -1,6 +1,6 @@
 // One text converted to a value type, as an option of that type takes it from the command line.
-#ifndef KEXA_TESTS_INTERFACE_CONVERSION_H
-#define KEXA_TESTS_INTERFACE_CONVERSION_H
+#ifndef KEXA_TESTS_TOOLBOX_CONVERSION_H
+#define KEXA_TESTS_TOOLBOX_CONVERSION_H
 
 #include <cstdint>
 #include <optional>

@@ -4,7 +4,7 @@
 #include <sstream>
 
 #include "AllocationFaults.h"
-#include "ResultContents.h"
+#include "ResultDescription.h"
 
 namespace faults
 {

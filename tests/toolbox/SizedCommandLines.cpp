@@ -1,4 +1,4 @@
-#include "Hosts.h"
+#include "SizedCommandLines.h"
 
 #include <stdexcept>
 

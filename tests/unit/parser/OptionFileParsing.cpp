@@ -10,7 +10,7 @@
 #include "result/ParseResult.h"
 #include "support/Garbage.h"
 
-#include "../recognition/GivenArguments.h"
+#include "GivenArguments.h"
 #include "TemporaryFolder.h"
 #include "TextPrinting.h"
 

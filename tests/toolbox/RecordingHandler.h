@@ -1,6 +1,6 @@
 // An event handler that writes down what it is told and answers as a test asks it to.
-#ifndef KEXA_TESTS_INTERFACE_RECORDING_HANDLER_H
-#define KEXA_TESTS_INTERFACE_RECORDING_HANDLER_H
+#ifndef KEXA_TESTS_TOOLBOX_RECORDING_HANDLER_H
+#define KEXA_TESTS_TOOLBOX_RECORDING_HANDLER_H
 
 #include <functional>
 #include <string>

@@ -1,6 +1,6 @@
 // A handler of the library's events that writes them down.
-#ifndef NAIVE_RECORDING_HANDLER_H
-#define NAIVE_RECORDING_HANDLER_H
+#ifndef NAIVE_RULE_HANDLER_H
+#define NAIVE_RULE_HANDLER_H
 
 #include <cstddef>
 #include <string>
@@ -15,10 +15,10 @@ namespace naive
 {
 
 // Writes down every event and answers as its rule says.
-class RecordingHandler final : public kexa_3_3::EventHandler
+class RuleHandler final : public kexa_3_3::EventHandler
 {
 public:
-    RecordingHandler(std::size_t index, const HandlerRule& rule, std::vector<Event>& events)
+    RuleHandler(std::size_t index, const HandlerRule& rule, std::vector<Event>& events)
         : m_index(index), m_rule(&rule), m_events(&events)
     {
     }

@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include "../interface/TextPrinting.h"
 #include "AllocationFaults.h"
+#include "TextPrinting.h"
 
 namespace faults
 {

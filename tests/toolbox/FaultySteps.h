@@ -1,7 +1,7 @@
 // Runs the steps of a cycle of library calls, one allocation of which may be made to fail, and
 // compares each with the same cycle without a failure.
-#ifndef KEXA_TESTS_FAULTS_FAULTY_STEPS_H
-#define KEXA_TESTS_FAULTS_FAULTY_STEPS_H
+#ifndef KEXA_TESTS_TOOLBOX_FAULTY_STEPS_H
+#define KEXA_TESTS_TOOLBOX_FAULTY_STEPS_H
 
 #include <functional>
 #include <string>

@@ -4,7 +4,7 @@
 
 #include "AllocationFaults.h"
 #include "HostCycle.h"
-#include "ResultContents.h"
+#include "ResultDescription.h"
 
 namespace faults
 {

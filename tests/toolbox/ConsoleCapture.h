@@ -1,6 +1,6 @@
 // What the library writes to standard output or standard error, byte for byte.
-#ifndef KEXA_TESTS_INTERFACE_CONSOLE_CAPTURE_H
-#define KEXA_TESTS_INTERFACE_CONSOLE_CAPTURE_H
+#ifndef KEXA_TESTS_TOOLBOX_CONSOLE_CAPTURE_H
+#define KEXA_TESTS_TOOLBOX_CONSOLE_CAPTURE_H
 
 #include <functional>
 #include <string>

@@ -1,6 +1,6 @@
 // Everything a host does with the library, from createParser to release, as steps that may fail.
-#ifndef KEXA_TESTS_FAULTS_HOST_CYCLE_H
-#define KEXA_TESTS_FAULTS_HOST_CYCLE_H
+#ifndef KEXA_TESTS_TOOLBOX_HOST_CYCLE_H
+#define KEXA_TESTS_TOOLBOX_HOST_CYCLE_H
 
 #include <functional>
 #include <initializer_list>
@@ -9,9 +9,9 @@
 
 #include <kexa/kexa.h>
 
-#include "../interface/Host.h"
-#include "../interface/TemporaryFolder.h"
 #include "FaultySteps.h"
+#include "Host.h"
+#include "TemporaryFolder.h"
 
 namespace faults
 {
