@@ -9,7 +9,7 @@ ENTRY_POINTS = {
     "kexa_3_3::createParser(kexa_3_3::IParser**, int)",
     "kexa_3_3::getLastValue(kexa_3_3::IParseResult*, wchar_t const*, int, int)",
     "wchar_t const* kexa_3_3::Value::as<wchar_t const*>() const",
-    # Both come in two variants (complete and base object) of one name.
+    # Constructor and destructor are exported twice each: for complete and for base objects.
     "kexa_3_3::WordWrappedText::WordWrappedText(wchar_t const*, wchar_t const*, size_t, size_t)",
     "kexa_3_3::WordWrappedText::~WordWrappedText()",
     "kexa_3_3::WordWrappedText::getText() const",
@@ -24,12 +24,12 @@ def run(*command, text=None):
 
 
 def elf_symbols(tool, library):
-    """Mangled names of all dynamic symbols that are defined."""
+    """Returns the mangled names of all dynamic symbols that the library defines."""
     return [line.split()[-1] for line in run(tool, "-D", "--defined-only", library).splitlines()]
 
 
 def dll_symbols(tool, library):
-    """Mangled names of the export table, and whatever has only a number."""
+    """Returns the mangled names in the export table, with an entry for each unnamed export."""
     dump = run(tool, "-p", library)
     names = re.search(r"\[Ordinal/Name Pointer\] Table\n((?:.*\[.*\n)*)", dump)
     addresses = re.search(r"Export Address Table -- Ordinal Base \d+\n((?:.*\[.*\n)*)", dump)
@@ -52,7 +52,7 @@ def main():
     else:
         mangled = elf_symbols(arguments.nm, arguments.library)
     symbols = set(run(arguments.cxxfilt, text="\n".join(mangled)).splitlines())
-    # The two platforms differ in what size_t is.
+    # size_t is unsigned long on Linux and unsigned long long on Windows.
     symbols = {re.sub(r"unsigned long(?: long)?", "size_t", symbol) for symbol in symbols}
     print("\n".join(sorted(symbols)))
     for symbol in sorted(ENTRY_POINTS - symbols):

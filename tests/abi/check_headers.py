@@ -1,33 +1,34 @@
-"""Compiles every installed header alone as Visual C++ would see it: with Clang's Microsoft mode and
-the stand-ins for the standard headers, in C++17 and C++20."""
+"""Compiles the installed headers for 64-bit Windows with the ABI of Visual C++: each alone in C++17,
+all together in C++20."""
 
 import argparse
 import pathlib
 import subprocess
 import sys
 
-STANDARD = pathlib.Path(__file__).parent / "standard"
+import visual_cpp
 
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--compiler", required=True)
+    parser.add_argument("--mingw", required=True, help="g++ of MinGW")
     parser.add_argument("--include", required=True, help="the folder that holds kexa/kexa.h")
     arguments = parser.parse_args()
-    headers = sorted((pathlib.Path(arguments.include) / "kexa").glob("*.h"))
+    headers = sorted((pathlib.Path(arguments.include) / "kexa").rglob("*.h"))
+    names = [header.relative_to(arguments.include).as_posix() for header in headers]
+    options = visual_cpp.compiler_options(arguments.mingw)
     failures = 0
-    for standard in ["c++17", "c++20"]:
-        for header in headers:
-            include = f'#include "kexa/{header.name}"\n'
-            command = [arguments.compiler, "-target", "x86_64-pc-windows-msvc", "-std=" + standard]
-            command += ["-Wall", "-Wextra", "-Wpedantic", "-Werror", "-nostdinc++"]
-            command += ["-I" + arguments.include, "-isystem", str(STANDARD), "-fsyntax-only"]
-            # Twice: a header without a guard defines its classes again.
-            result = subprocess.run(command + ["-x", "c++", "-"], input=2 * include,
-                                    capture_output=True, text=True)
-            if result.returncode != 0:
-                failures += 1
-                print(f"{header.name} ({standard}):\n{result.stderr}")
+    for standard, included in [("c++17", [name]) for name in names] + [("c++20", names)]:
+        lines = "".join(f'#include "{name}"\n' for name in included)
+        command = [arguments.compiler, "-std=" + standard] + options
+        command += ["-Wall", "-Wextra", "-Wpedantic", "-Werror"]
+        command += ["-I" + arguments.include, "-fsyntax-only", "-x", "c++", "-"]
+        # Twice: a header without a guard defines its classes again.
+        result = subprocess.run(command, input=2 * lines, capture_output=True, text=True)
+        if result.returncode != 0:
+            failures += 1
+            print(f"{' '.join(included)} ({standard}):\n{result.stderr}")
     print(f"{len(headers)} headers, {failures} failures")
     return 1 if failures or not headers else 0
 

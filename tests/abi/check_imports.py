@@ -1,6 +1,6 @@
-"""Lists the DLLs that a DLL needs, those that these need included.
+"""Lists the DLLs that a DLL needs, directly and through other DLLs.
 
-Each must be one that every Windows has, or be named with --beside and lie in the same folder.
+Each has to be part of every Windows, or to be named with --beside and to lie in the DLL's folder.
 """
 
 import argparse
@@ -21,7 +21,7 @@ def imports(tool, file):
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--objdump", required=True)
-    parser.add_argument("--beside", action="append", default=[], help="a DLL that has to be needed")
+    parser.add_argument("--beside", action="append", default=[], help="a DLL that must be needed")
     parser.add_argument("dll")
     arguments = parser.parse_args()
     folder = pathlib.Path(arguments.dll).parent

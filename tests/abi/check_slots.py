@@ -2,12 +2,12 @@
 
 The headers go through a compiler that dumps how it lays the classes out:
 
-    microsoft   Clang for x86_64-pc-windows-msvc, with the stand-ins for the standard headers
-    itanium     Clang for x86_64-pc-linux-gnu, likewise: the ABI of GCC, with member offsets
-    gcc         GCC itself, native or MinGW, with its own standard library
+    microsoft   Clang for x86_64-pc-windows-msvc, with the standard library of MinGW
+    itanium     Clang for x86_64-pc-linux-gnu: the ABI of GCC, with member offsets
+    gcc         GCC itself, native or MinGW
 
-With --swapped the headers are first copied and two declarations in them swapped, one pair after the
-other; every swap must then be noticed.
+With --swapped, the headers are copied once for each pair of slots.SWAPS and the two declarations
+exchanged in the copy: each exchange has to be reported.
 """
 
 import argparse
@@ -19,6 +19,7 @@ import sys
 import tempfile
 
 import slots
+import visual_cpp
 
 HERE = pathlib.Path(__file__).parent
 
@@ -34,9 +35,10 @@ def compile_and_dump(arguments, include, source, standard, work):
         options = ["-c", "-o", str(work / "contract.o"), "-fdump-lang-class=" + str(dump)]
         command = common + options + [str(checks)]
     else:
-        target = "windows-msvc" if arguments.dump == "microsoft" else "linux-gnu"
-        options = ["-target", "x86_64-pc-" + target]
-        options += ["-nostdinc++", "-isystem", str(HERE / "standard")]
+        if arguments.dump == "microsoft":
+            options = visual_cpp.compiler_options(arguments.mingw)
+        else:
+            options = ["-target", "x86_64-pc-linux-gnu"]
         options += ["-Xclang", "-fdump-vtable-layouts", "-Xclang", "-fdump-record-layouts"]
         command = common + warnings + options + ["-S", "-o", str(work / "contract.s"), str(source)]
     result = subprocess.run(command, capture_output=True, text=True)
@@ -47,7 +49,7 @@ def compile_and_dump(arguments, include, source, standard, work):
 
 
 def offset_assertions():
-    """GCC's dump tells sizes only: the offsets of public members, as a compiler can check them."""
+    """Assertions on the offsets of public members, since GCC dumps no more than sizes."""
     lines = []
     for record, (_, members) in slots.RECORDS.items():
         for member, offset in members.items():
@@ -89,7 +91,7 @@ def gcc_tables(dump):
 
 
 def clang_records(dump):
-    """Record name -> (size, {member: offset}), members of members left out."""
+    """Record name -> (size, {member: offset}), without members of members."""
     records = {}
     pattern = r"Dumping AST Record Layout\n *0 \| \w+ (.*)\n((?: +\d+ \| .*\n)*) +\| \[sizeof=(\d+)"
     for match in re.finditer(pattern, dump):
@@ -105,7 +107,7 @@ def gcc_records(dump):
 
 
 def compare(arguments, dump):
-    """Answers the differences as lines of text."""
+    """Returns the differences as lines of text."""
     is_gcc = arguments.dump == "gcc"
     tables = gcc_tables(dump) if is_gcc else clang_tables(dump)
     records = gcc_records(dump) if is_gcc else clang_records(dump)
@@ -156,7 +158,7 @@ def swap(folder, file, first, second):
 
 
 def find_declaration(path, text, name):
-    """The declaration of an operation or a data member: from its line's begin to its ";" or "}"."""
+    """The declaration of an operation or a data member, from its first line to its ";" or "}"."""
     pattern = (rf"^    (?:virtual )?[^\n;{{}}]*(?<![\w~]){name}(?:\([^)]*\))?(?: = [^;]*)?"
                r"(?:;|\n    \{.*?\n    \})")
     found = re.findall(pattern, text, re.M | re.S)
@@ -182,9 +184,10 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--dump", choices=["microsoft", "itanium", "gcc"], required=True)
     parser.add_argument("--compiler", required=True)
+    parser.add_argument("--mingw", help="g++ of MinGW; needed for microsoft")
     parser.add_argument("--include", required=True, help="the folder that holds kexa/kexa.h")
     parser.add_argument("--private-include", action="append", default=[],
-                        help="the library's sources: checks its own parser class as well")
+                        help="the library's sources: checks its parser class as well")
     parser.add_argument("--swapped", action="store_true")
     arguments = parser.parse_args()
     with tempfile.TemporaryDirectory() as folder:

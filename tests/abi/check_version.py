@@ -1,4 +1,4 @@
-"""Compares the version resource of a DLL, all of it, with what the library says of itself."""
+"""Compares every entry of a DLL's version resource with the expected text."""
 
 import argparse
 import pathlib
@@ -10,7 +10,7 @@ STRINGS = {
     "FileDescription": "Command-line parsing library",
     "FileVersion": "{version}.0",
     "InternalName": "kexa",
-    "LegalCopyright": None,  # changes with the years
+    "LegalCopyright": None,  # any text: the year in it changes
     "OriginalFilename": "kexa.dll",
     "ProductName": "kexa",
     "ProductVersion": "{version}.0",
@@ -18,7 +18,7 @@ STRINGS = {
 
 
 def block(data, position):
-    """One node of the resource: its key, its value and where its children begin, and its end."""
+    """Returns a node of the resource: key, value, start of its children, end of the node."""
     length, value_length, is_text = struct.unpack_from("<HHH", data, position)
     end_of_key = position + 6
     while data[end_of_key:end_of_key + 2] != b"\0\0":

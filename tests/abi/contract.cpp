@@ -1,5 +1,5 @@
-// Makes the compiler lay out the classes of the contract with the host and their virtual tables, so
-// that they can be dumped and compared. Nothing here is run.
+// Compiled only for the compiler's dump of class layouts and virtual tables, which check_slots.py
+// reads. Never run.
 #include <cstddef>
 
 #include <kexa/kexa.h>
@@ -10,8 +10,8 @@ using vexkit2::variant_t;
 namespace
 {
 
-// One class that can be made for each interface: a compiler lays a table out where a constructor
-// needs it, and names the operations of a table only where they are not pure.
+// One class for each interface, since a compiler emits a virtual table only for a class that is
+// constructed, and GCC names only operations that are not pure.
 class Handler : public EventHandler
 {
 };
@@ -46,7 +46,7 @@ public:
 class Parser : public IParser
 {
 public:
-    // Declared in another order than the interface's: the slots are the interface's all the same.
+    // In reverse order: the slots follow the declarations of the interface, not these.
     void addCompatibleActions(const std::set<std::wstring>&) override {}
     bool enableOptionFiles(const wchar_t*, const wchar_t*) override { return false; }
     bool removeEventHandler(EventHandler*) override { return false; }

@@ -1,5 +1,5 @@
-// Exceptions that cross the border between host and library, in both directions. With one C++
-// runtime for both, nothing of them is left behind; with two, each would count its own half only.
+// Exceptions that cross the border between host and library, in both directions. The number of
+// uncaught exceptions shows whether both use one C++ runtime: each runtime counts its own.
 #include <gtest/gtest.h>
 
 #include <exception>
@@ -43,21 +43,21 @@ kexa_3_3::result_t parseWith(ThrowingHandler& handler)
     return code;
 }
 
-TEST(ExceptionsAcross, StandardExceptionOfAHandlerEndsInTheLibrary)
+TEST(ExceptionsAcross, StandardExceptionOfAHandlerIsCaughtByTheLibrary)
 {
     ThrowingHandler handler(true);
     EXPECT_EQ(parseWith(handler), kexa_3_3::result_standard_exception);
     EXPECT_EQ(std::uncaught_exceptions(), 0);
 }
 
-TEST(ExceptionsAcross, AnyOtherExceptionOfAHandlerEndsInTheLibrary)
+TEST(ExceptionsAcross, AnyOtherExceptionOfAHandlerIsCaughtByTheLibrary)
 {
     ThrowingHandler handler(false);
     EXPECT_EQ(parseWith(handler), kexa_3_3::result_unknown_exception);
     EXPECT_EQ(std::uncaught_exceptions(), 0);
 }
 
-TEST(ExceptionsAcross, ExceptionOfTheLibraryEndsInTheHost)
+TEST(ExceptionsAcross, ExceptionOfTheLibraryIsCaughtByTheHost)
 {
     EXPECT_THROW(kexa_3_3::WordWrappedText(L"", L"text", 5, 3), std::out_of_range);
     EXPECT_EQ(std::uncaught_exceptions(), 0);

@@ -1,5 +1,5 @@
-// As contract.cpp, with the parser that the library itself hands out: its own operations stand
-// behind those of the interface.
+// The classes of contract.cpp and the parser that createParser returns, whose own operations follow
+// those of the interface.
 #include "contract.cpp"
 
 #include "parser/BasicParser.h"
@@ -7,7 +7,7 @@
 namespace
 {
 
-// Adds nothing. Its constructor makes the compiler lay the table out here.
+// The constructor makes the compiler emit the virtual table, and with it the dump, in this file.
 class LibraryParser : public BasicParser
 {
 public:

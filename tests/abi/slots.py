@@ -24,10 +24,10 @@ PARSER = EVENT_HANDLER + [
     "removeEventHandler",
     "enableOptionFiles",
     "addCompatibleActions",
-    "destructor",  # slot 20; GCC gives a destructor two slots
+    "destructor",  # slot 20, and 21 with GCC, where a destructor takes two
 ]
 
-# Behind the destructor, out of the hosts' reach.
+# The slots after the destructor are not part of the interface.
 BASIC_PARSER = PARSER + [
     "parseArguments",
     "parseVector",
@@ -56,8 +56,8 @@ PARSE_RESULT = [
     "destructor",
 ]
 
-# The classes of contract.cpp that derive from the interfaces. GCC tells no names in the tables of
-# the interfaces themselves.
+# Classes of contract.cpp, each derived from one interface. The interfaces themselves do not serve:
+# GCC dumps a pure operation without its name.
 TABLES = {
     "anonymous::Handler": EVENT_HANDLER,
     "anonymous::Parser": PARSER,
@@ -67,7 +67,7 @@ TABLES = {
 
 PRIVATE_TABLES = {"anonymous::LibraryParser": BASIC_PARSER}
 
-# Size, and members with their offsets, in bytes.
+# Name: size, {member: offset}, all in bytes.
 RECORDS = {
     "vexkit2::variant_t": (16, {"m_value": 0, "m_type": 8}),
     "kexa_3_3::Value": (32, {"data": 0, "status": 8, "position": 12, "value": 16}),
@@ -76,7 +76,7 @@ RECORDS = {
     "kexa_3_3::WordWrappedText": (32, {"m_text": 0}),
 }
 
-# Pairs whose exchange must be noticed: header, one declaration, another.
+# Pairs of declarations whose exchange has to be reported: header, one declaration, the other.
 SWAPS = [
     ("event_handler.h", "onOptionParsed", "onUnknownArgument"),
     ("parser.h", "release", "createParseResult"),

@@ -1,9 +1,9 @@
 # Configures, builds and runs the project in SOURCE against the library installed in PREFIX.
 #
-# BUILD                            the project's build tree; made anew
+# BUILD                            the project's build tree; removed first
 # GENERATOR MAKE_PROGRAM COMPILER FLAGS TOOLCHAIN CONFIG
 #                                  how the library was built
-# EMULATOR                         what runs a program of another system (optional)
+# EMULATOR                         runs programs of another system (optional)
 file(REMOVE_RECURSE "${BUILD}")
 set(options "-DCMAKE_BUILD_TYPE=${CONFIG}" "-DCMAKE_MAKE_PROGRAM=${MAKE_PROGRAM}"
     "-DCMAKE_CXX_FLAGS=${FLAGS}")
@@ -18,7 +18,7 @@ execute_process(COMMAND "${CMAKE_COMMAND}" -G "${GENERATOR}" -S "${SOURCE}" -B "
 execute_process(COMMAND "${CMAKE_COMMAND}" --build "${BUILD}" --config "${CONFIG}"
     COMMAND_ERROR_IS_FATAL ANY)
 
-# Nothing of how the library itself is compiled may reach who links it.
+# The library's own warnings and definitions are not passed on to a project that links it.
 file(READ "${BUILD}/compile_commands.json" commands)
 string(REPLACE "${FLAGS}" "" commands "${commands}")
 if(commands MATCHES "( [-/]W[^ l]*)|KEXA_BUILDING|KEXA_STATIC")
@@ -26,7 +26,7 @@ if(commands MATCHES "( [-/]W[^ l]*)|KEXA_BUILDING|KEXA_STATIC")
 endif()
 
 if(EXISTS "${PREFIX}/bin/kexa.dll")
-    # A Windows program is shipped in the folder of its DLLs, and that folder runs anywhere.
+    # Windows finds DLLs in the program's folder: a folder with all of them needs nothing else.
     set(folder "${BUILD}/shipped")
     file(COPY "${PREFIX}/bin/" DESTINATION "${folder}")
     file(GLOB_RECURSE program "${BUILD}/consumer.exe")

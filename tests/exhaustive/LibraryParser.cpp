@@ -4,7 +4,7 @@
 
 #include "kexa/parse_result.h"
 #include "LibraryResult.h"
-#include "RecordingHandler.h"
+#include "RuleHandler.h"
 
 namespace naive
 {

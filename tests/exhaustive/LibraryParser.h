@@ -36,7 +36,7 @@ private:
     ParserPointer m_parser;
 };
 
-class RecordingHandler;
+class RuleHandler;
 
 // How a parse is asked for.
 struct ParseCall
@@ -72,7 +72,7 @@ private:
     Parser m_naive;
     std::vector<std::wstring> m_names;
     ParserPointer m_parser;
-    std::vector<RecordingHandler> m_handlers; // contiguous, so in the order of their addresses
+    std::vector<RuleHandler> m_handlers; // contiguous, so in the order of their addresses
     std::vector<Event> m_events;
     NumberProbe m_probe;
     std::int32_t m_nextNumber;

@@ -5,8 +5,8 @@
 
 #include <gtest/gtest.h>
 
-#include "../interface/ConsoleCapture.h"
 #include "AllocationFaults.h"
+#include "ConsoleCapture.h"
 #include "HostCycle.h"
 
 using namespace toolbox;

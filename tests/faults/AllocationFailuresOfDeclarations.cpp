@@ -9,9 +9,9 @@
 
 #include <gtest/gtest.h>
 
-#include "../interface/Host.h"
 #include "AllocationFaults.h"
 #include "FaultySteps.h"
+#include "Host.h"
 
 using namespace kexa_3_3;
 using namespace toolbox;

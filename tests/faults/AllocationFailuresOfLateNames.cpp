@@ -6,8 +6,8 @@
 
 #include <gtest/gtest.h>
 
-#include "../interface/Host.h"
 #include "AllocationFaults.h"
+#include "Host.h"
 
 using namespace kexa_3_3;
 using namespace toolbox;

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "../interface/Host.h"
+#include "Host.h"
 
 using namespace kexa_3_3;
 using namespace toolbox;

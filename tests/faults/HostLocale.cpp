@@ -3,7 +3,7 @@
 #include <locale>
 #include <string>
 
-#include "../interface/Host.h"
+#include "Host.h"
 
 using namespace kexa_3_3;
 using namespace toolbox;

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "../interface/Host.h"
+#include "Host.h"
 #include "recognition/ValueStoring.h"
 
 using namespace kexa_3_3;

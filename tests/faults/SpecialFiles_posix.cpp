@@ -10,7 +10,7 @@
 #include <sys/un.h>
 #include <unistd.h>
 
-#include "../interface/Host.h"
+#include "Host.h"
 
 using namespace kexa_3_3;
 using namespace toolbox;

@@ -9,10 +9,13 @@
 #include <gtest/gtest.h>
 
 #include "AllocationCount.h"
-#include "Hosts.h"
+#include "SizedCommandLines.h"
 
 namespace
 {
+
+using toolbox::AllocationCount;
+using toolbox::countAllocations;
 
 constexpr std::size_t smallest = 1024;
 

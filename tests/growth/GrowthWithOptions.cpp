@@ -5,10 +5,13 @@
 #include <gtest/gtest.h>
 
 #include "AllocationCount.h"
-#include "Hosts.h"
+#include "SizedCommandLines.h"
 
 namespace
 {
+
+using toolbox::AllocationCount;
+using toolbox::countAllocations;
 
 constexpr std::size_t few = 64;
 constexpr std::size_t many = 4096;

@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <exception>
 
-#include "Hosts.h"
+#include "SizedCommandLines.h"
 
 extern "C" void growth_boundary();
 

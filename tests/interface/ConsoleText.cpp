@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <iostream>
 
-#include "Trace.h"
+#include "TraceLines.h"
 
 using namespace kexa_3_3;
 using namespace toolbox;

@@ -1,5 +1,5 @@
 // Every trace line of the abbreviation parser and of the storing of values.
-#include "Trace.h"
+#include "TraceLines.h"
 
 using namespace kexa_3_3;
 using namespace toolbox;

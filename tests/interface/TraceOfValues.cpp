@@ -1,5 +1,5 @@
 // The trace lines of values that are not stored, of positional arguments, and of the driver.
-#include "Trace.h"
+#include "TraceLines.h"
 
 using namespace kexa_3_3;
 using namespace toolbox;

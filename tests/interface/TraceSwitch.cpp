@@ -1,5 +1,5 @@
 // When the trace is on: the keyword that the host never sees.
-#include "Trace.h"
+#include "TraceLines.h"
 
 using namespace kexa_3_3;
 using namespace toolbox;

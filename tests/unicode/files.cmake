@@ -1,4 +1,4 @@
-# Option files whose names are not ASCII either.
+# Option files with names and contents beyond ASCII.
 file(WRITE "${work}/wünsche 😀.txt" "; 😀 a comment
 --text=aus der Datei 𝒳😀
 -mood 😀

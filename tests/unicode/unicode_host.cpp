@@ -1,5 +1,5 @@
-// A host that hands text from the command line to every way through the library and prints what
-// comes out. The first argument says which way; the others are the command line of that way.
+// Passes text from the command line through the library and prints the output. The first argument
+// selects the operation; the others are its arguments.
 #include <string>
 
 #include "common/Arguments.h"
@@ -38,7 +38,7 @@ void printValues(kexa_3_3::IParseResult& result, const wchar_t* name)
     for (const kexa_3_3::Value& value : example::valuesOf(result, name))
     {
         example::print(std::wstring(name) + L": " + value.as<const wchar_t*>() + L"\n");
-        // What the variant holds must be the same text as the one beside it.
+        // The variant holds the text that is returned beside it.
         if (value.value != variant_t::reference(value.as<const wchar_t*>()))
         {
             example::print(L"... and its variant is another text\n");
@@ -69,7 +69,7 @@ int help()
     return 0;
 }
 
-// Declares the name that it is given twice.
+// Declares two options with this name.
 int declare(const wchar_t* name)
 {
     const ParserPointer parser = makeParser();
@@ -89,20 +89,20 @@ int wrap(const wchar_t* lead, const wchar_t* text, const wchar_t* indent, const 
 
 int run(int argc, const wchar_t* const* argv)
 {
-    const std::wstring way = argc > 1 ? argv[1] : L"";
-    if (way == L"parse")
+    const std::wstring operation = argc > 1 ? argv[1] : L"";
+    if (operation == L"parse")
     {
         return parse(argc - 1, argv + 1);
     }
-    if (way == L"help")
+    if (operation == L"help")
     {
         return help();
     }
-    if (way == L"declare" && argc == 3)
+    if (operation == L"declare" && argc == 3)
     {
         return declare(argv[2]);
     }
-    if (way == L"wrap" && argc == 6)
+    if (operation == L"wrap" && argc == 6)
     {
         return wrap(argv[2], argv[3], argv[4], argv[5]);
     }

@@ -1,4 +1,4 @@
-// An event handler that the host builds by hand: a pointer to a table of three operations.
+// An event handler made without a class of the library: a pointer to a table of three functions.
 #ifndef KEXA_TESTS_ABI_HANDLER_H
 #define KEXA_TESTS_ABI_HANDLER_H
 
@@ -13,7 +13,7 @@ struct Handler
     Handler(const Handler&) = delete;
     Handler& operator=(const Handler&) = delete;
 
-    const void* const* const table; // first: this is where the library looks
+    const void* const* const table; // first, as in every object with virtual operations
     std::vector<std::wstring> events;
 };
 

@@ -3,13 +3,13 @@
 namespace
 {
 
-// A constant of the host as the variant that refers to it.
+// A variant that refers to a text of the host.
 RawVariant textVariant(const wchar_t* text)
 {
     return {reinterpret_cast<std::uint64_t>(text), kind_wide_reference};
 }
 
-TEST_F(SlotHost, EveryBuilderOperationAnswersTheOption)
+TEST_F(SlotHost, EveryBuilderOperationReturnsTheOption)
 {
     void* const option = declare(parser::add_option, L"mode", type_string);
     const RawVariant fast = textVariant(L"fast");
@@ -39,7 +39,7 @@ TEST_F(SlotHost, TheBuilderOperationsChangeWhatAParseTakes)
     call<void*>(option, option::add_allowed_value, &slow);
     call<void*>(option, option::add_deprecated_value, &quick, &fast);
     call<void*>(option, option::set_separator, L'+');
-    call<void*>(option, option::set_marked); // positional, with that
+    call<void*>(option, option::set_marked); // takes positional arguments as well
 
     EXPECT_EQ(parse({L"-kind=quick+s", L"slow"}), 0);
     EXPECT_EQ(values(L"mode"), (Texts{L"fast", L"slow", L"slow"}));

@@ -18,7 +18,7 @@ TEST_F(SlotHost, OptionsAreDeclaredParsedAndRead)
     EXPECT_EQ(errorMessage(), L"");
 }
 
-TEST_F(SlotHost, OneArgumentPerLineOfACommandLine)
+TEST_F(SlotHost, EachLineOfACommandLineIsOneArgument)
 {
     declare(parser::add_option, L"count", type_integer);
     EXPECT_EQ(call<std::int32_t>(m_parser, parser::parse_command_line, L"; comment\n-count 7\n",
@@ -48,7 +48,7 @@ TEST_F(SlotHost, CompatibleActionsAreGivenTogether)
     EXPECT_EQ(parse({L"-list", L"-sum"}), 0);
 }
 
-TEST_F(SlotHost, EveryHelpSlotGivesItsOwnText)
+TEST_F(SlotHost, EveryHelpSlotReturnsItsOwnText)
 {
     declare(parser::add_switch, L"list", type_boolean);
     declare(parser::add_option, L"count", type_integer);
@@ -64,7 +64,7 @@ TEST_F(SlotHost, EveryHelpSlotGivesItsOwnText)
               group + L"-count=<integer>              Text of it\n\n");
 }
 
-TEST_F(SlotHost, HandlersAreToldThroughTheirOwnTable)
+TEST_F(SlotHost, HandlersAreCalledThroughTheirOwnTable)
 {
     declare(parser::add_option, L"count", type_integer);
     Handler handler;

@@ -71,7 +71,7 @@ Texts SlotHost::values(const wchar_t* name)
         texts.emplace_back(static_cast<const wchar_t*>(value.data));
         code = call<std::int32_t>(m_result, parse_result::get_next_value, &value, name);
     }
-    EXPECT_EQ(value.value.kind, kind_null); // which owns nothing
+    EXPECT_EQ(value.value.kind, kind_null); // owns nothing that this host would have to free
     return texts;
 }
 
@@ -80,7 +80,7 @@ int main(int argc, char** argv)
     testing::InitGoogleTest(&argc, argv);
     if (argc != 2)
     {
-        return 2; // the path of the library is missing
+        return 2; // usage: slot_host LIBRARY
     }
     SlotHost::libraryPath = argv[1];
     return RUN_ALL_TESTS();

@@ -1,12 +1,11 @@
-// The library as a host knows it that has no header of it: slot numbers, plain records, one name.
+// The binary interface as plain data: slot numbers, records, and the exported name of createParser.
 #ifndef KEXA_TESTS_ABI_SLOTS_H
 #define KEXA_TESTS_ABI_SLOTS_H
 
 #include <cstddef>
 #include <cstdint>
 
-// The name under which the library exports createParser: the compiler's, which is part of the
-// contract with hosts that were compiled before.
+// The exported name of createParser, as mangled by the compiler. Compiled hosts contain it.
 #if defined(_MSC_VER)
 inline constexpr char create_parser_name[] =
     "?createParser@kexa_3_3@@YA?AW4result_t@1@PEAPEAVIParser@1@H@Z";
@@ -16,8 +15,8 @@ inline constexpr char create_parser_name[] = "_ZN8kexa_3_312createParserEPPNS_7I
 
 using CreateParser = std::int32_t (*)(void** out, std::int32_t flags);
 
-// An object of the library begins with a pointer to its table of operations. On the 64-bit
-// platforms an operation is called as a function whose first argument is the object.
+// An object of the library begins with the pointer to its virtual table. On 64-bit platforms, a
+// virtual operation is called as a function whose first argument is the object.
 template <class Result, class... Arguments>
 Result call(void* object, std::size_t slot, Arguments... arguments)
 {
@@ -81,7 +80,7 @@ enum Slot : std::size_t
 };
 } // namespace parse_result
 
-// The records that cross the border, member for member.
+// Mirrors of the records that host and library exchange, member for member.
 struct RawVariant
 {
     std::uint64_t data;

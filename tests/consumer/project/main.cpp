@@ -3,12 +3,12 @@
 #include <cstdio>
 
 #if !defined(_MSVC_LANG)
-static_assert(__cplusplus == 201703L, "the library must not raise the standard of who links it");
+static_assert(__cplusplus == 201703L, "linking the library must not change the C++ standard");
 #endif
 
 int main(int argc, char** argv)
 {
-    // Code that the library's own warnings would not let pass.
+    // Fails to compile if the library's own warnings reach this project.
     short argument_count = argc;
     wchar_t texts[8][32] = {};
     const wchar_t* arguments[8] = {};

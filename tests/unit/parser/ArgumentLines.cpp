@@ -9,7 +9,7 @@
 
 #include "support/Utf8.h"
 
-#include "../recognition/GivenArguments.h"
+#include "GivenArguments.h"
 #include "TextPrinting.h"
 
 namespace

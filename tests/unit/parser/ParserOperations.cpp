@@ -11,7 +11,7 @@
 #include "recognition/ValueStoring.h"
 #include "result/ParseResult.h"
 
-#include "../recognition/GivenArguments.h"
+#include "GivenArguments.h"
 #include "TemporaryFolder.h"
 #include "TextPrinting.h"
 

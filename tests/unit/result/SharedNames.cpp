@@ -14,7 +14,7 @@
 #include "result/ParseResult.h"
 #include "support/Garbage.h"
 
-#include "../options/EnteredOption.h"
+#include "EnteredOption.h"
 #include "StoredContents.h"
 #include "TextPrinting.h"
 

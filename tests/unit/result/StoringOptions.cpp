@@ -12,7 +12,7 @@
 #include "support/Garbage.h"
 #include "support/HashedText.h"
 
-#include "../options/EnteredOption.h"
+#include "EnteredOption.h"
 #include "StoredContents.h"
 #include "TextPrinting.h"
 
