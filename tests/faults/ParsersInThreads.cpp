@@ -1,4 +1,4 @@
-// Parsers of different threads do not disturb each other.
+// Different parsers may be used by different threads at the same time.
 #include <atomic>
 #include <functional>
 #include <string>
@@ -17,7 +17,8 @@ using Texts = std::vector<std::wstring>;
 
 constexpr int parses = 100000;
 
-// Runs an action in several threads at once, each with its number.
+// Runs an action in several threads, which start it at the same time. Passes the index of the
+// thread.
 void inThreads(int count, const std::function<void(int)>& action)
 {
     std::atomic<int> waiting{count};
@@ -41,8 +42,8 @@ void inThreads(int count, const std::function<void(int)>& action)
     }
 }
 
-// A host with options of its own, whose parses can be foretold. Answers of a parse are compared
-// here and not by GoogleTest: there are too many.
+// A host with predictable parses. The results are not compared with GoogleTest's macros, which are
+// too slow for so many parses.
 class ThreadHost
 {
 public:
@@ -58,7 +59,7 @@ public:
         m_host.addSwitch(L"clean");
     }
 
-    // Parses in a way that depends on the round. Answers whether all came out right.
+    // Parses arguments that depend on the round. Returns whether the results are right.
     bool parse(int round)
     {
         m_host.renewResult();
@@ -102,7 +103,7 @@ private:
 
 } // namespace
 
-TEST(ParsersInThreads, OfTwoThreadsAnswerRightly)
+TEST(ParsersInThreads, OfTwoThreadsGiveRightResults)
 {
     std::atomic<int> wrong{0};
     std::atomic<int> done{0};
@@ -146,7 +147,7 @@ TEST(ParsersInThreads, MayBeHandedFromOneThreadToAnother)
     }
 }
 
-TEST(ParsersInThreads, ExplainAtTheSameTime)
+TEST(ParsersInThreads, FormatHelpAtTheSameTime)
 {
     ThreadHost reference(0);
     const std::wstring help = reference.host().parser().showFullHelp(false);
@@ -191,8 +192,8 @@ TEST(ParsersInThreads, ReadOptionFilesAtTheSameTime)
     EXPECT_EQ(wrong, 0);
 }
 
-// What is printed whatever the trace: each line whole, none lost.
-TEST(ParsersInThreads, WarnAndComplainAtTheSameTime)
+// These messages are printed even if the trace is off. No line may be lost or split.
+TEST(ParsersInThreads, PrintWarningsAtTheSameTime)
 {
     constexpr std::size_t rounds = 500;
     const auto warn = [](int)
