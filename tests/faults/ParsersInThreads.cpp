@@ -1,4 +1,6 @@
 // Different parsers may be used by different threads at the same time.
+#include <algorithm>
+#include <array>
 #include <atomic>
 #include <functional>
 #include <string>
@@ -119,6 +121,47 @@ TEST(ParsersInThreads, OfTwoThreadsGiveRightResults)
               });
     EXPECT_EQ(wrong, 0);
     EXPECT_EQ(done, 2 * parses);
+}
+
+// All parsers of the process share the counter of positions. Several rounds make it likely that
+// both threads really convert values at the same time.
+TEST(ParsersInThreads, GiveOutUniqueAscendingPositions)
+{
+    constexpr int rounds = 20;
+    constexpr std::size_t values = 20000;
+    std::wstring list = L"--number=";
+    for (std::size_t count = 0; count < values; ++count)
+    {
+        list += L"1,";
+    }
+    std::array<Host, 2> hosts;
+    std::array<std::vector<std::int32_t>, 2> positions;
+    for (Host& host : hosts)
+    {
+        host.addOption(L"number", value_type_integer);
+    }
+    for (int round = 0; round < rounds; ++round)
+    {
+        inThreads(2, [&](int number)
+                  { hosts.at(static_cast<std::size_t>(number)).parse({list.c_str()}); });
+        for (std::size_t number = 0; number < hosts.size(); ++number)
+        {
+            for (const ReadValue& value : hosts[number].values(L"number"))
+            {
+                positions[number].push_back(value.position);
+            }
+            hosts[number].renewResult();
+        }
+    }
+    std::vector<std::int32_t> all;
+    for (const std::vector<std::int32_t>& ofThread : positions)
+    {
+        EXPECT_EQ(ofThread.size(), rounds * values);
+        EXPECT_TRUE(std::is_sorted(ofThread.begin(), ofThread.end())) << "a position ran backwards";
+        all.insert(all.end(), ofThread.begin(), ofThread.end());
+    }
+    std::sort(all.begin(), all.end());
+    EXPECT_EQ(std::adjacent_find(all.begin(), all.end()), all.end()) << "a position was used twice";
 }
 
 TEST(ParsersInThreads, MayBeMadeAndReleasedAtTheSameTime)
