@@ -1,5 +1,5 @@
-# Runs PROGRAM under callgrind. Fails if a phase grows faster than linearly with the arguments, or if the
-# cost of one argument grows with the number of options.
+# Runs PROGRAM under callgrind. Fails if a phase grows faster than linearly with the arguments, or
+# if the cost of one argument grows with the number of options.
 if(NOT OBSTACLE STREQUAL "")
     message("skipped: ${OBSTACLE}")
     return()
@@ -49,8 +49,8 @@ foreach(line IN LISTS lines)
     list(APPEND counts ${instructions})
     list(LENGTH counts length)
     if(length EQUAL 3)
-        # Linear growth adds twice as much in the second doubling as in the first, quadratic growth four
-        # times as much. A fifth is added for noise.
+        # Linear growth adds twice as much in the second doubling as in the first, quadratic growth
+        # four times as much. A fifth is added for noise.
         list(GET counts 0 first)
         list(GET counts 1 second)
         math(EXPR allowed "(${second} - ${first}) * 24 / 10")
@@ -60,9 +60,9 @@ foreach(line IN LISTS lines)
             set(failed TRUE)
         endif()
     elseif(length EQUAL 4)
-        # 32 times as many options (or allowed values) for an equal number of arguments. One record per
-        # option costs more than one record that grows, and a search may take one step more for each
-        # doubling.
+        # 32 times as many options (or allowed values) for an equal number of arguments. One record
+        # per option costs more than one record that grows, and a search may take one step more for
+        # each doubling.
         list(GET counts 2 before)
         math(EXPR allowed "${before} * 25 / 10")
         if(instructions GREATER allowed)
