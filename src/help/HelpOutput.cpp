@@ -24,7 +24,7 @@ std::wstring notAvailable(const RegisteredOptionStorage& options, std::wstring_v
                         formatTopicList(options, hidden)});
 }
 
-// The listing of the options that take a value and pass the test, nothing where there are none.
+// Returns the listing of the options that take a value and pass the test; empty if there are none.
 template <class Test>
 std::wstring listMatching(const RegisteredOptionStorage& options, bool hidden, Test passes)
 {
