@@ -99,7 +99,7 @@ std::wstring formatRelatedHelp(const RegisteredOptionStorage& options, const wch
 std::wstring formatFullHelp(const RegisteredOptionStorage& options, bool hidden)
 {
     return listMatching(options, hidden,
-                        [](const OptionDescription& option) { return option.keywords.empty(); });
+                        [](const OptionDescription& option) { return option.keywords().empty(); });
 }
 
 } // namespace kexa_3_3

@@ -42,12 +42,12 @@ void appendBooleanForms(std::wstring& column, const OptionDescription& option)
 
 void appendValueForm(std::wstring& column, const OptionDescription& option)
 {
-    if (option.allowedValues.empty())
+    if (option.allowedValues().empty())
     {
         column.append(L"=<").append(typeName(option)).push_back(L'>');
     }
     std::wstring_view before = L"=";
-    for (const vexkit2::variant_t& value : option.allowedValues)
+    for (const vexkit2::variant_t& value : option.allowedValues())
     {
         column.append(before).append(valueText(value));
         before = L" | ";

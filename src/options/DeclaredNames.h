@@ -6,7 +6,6 @@
 #include <string_view>
 
 #include "support/text/HashedText.h"
-#include "support/text/Text.h"
 
 namespace kexa_3_3
 {
@@ -18,18 +17,26 @@ class DeclaredNames
 public:
     static constexpr std::size_t most = 3;
 
-    // text: outlives this.
-    explicit DeclaredNames(std::wstring_view text) noexcept
+    // text: null-terminated; outlives this.
+    explicit DeclaredNames(const wchar_t* text) noexcept
     {
-        forEachPiece(text, L',',
-                     [this](std::wstring_view piece)
-                     {
-                         if (m_count < most)
-                         {
-                             m_names[m_count] = HashedText(piece);
-                         }
-                         ++m_count;
-                     });
+        const wchar_t* begin = text;
+        TextHash hash;
+        for (const wchar_t* next = text;; ++next)
+        {
+            if (*next != L',' && *next != L'\0')
+            {
+                hash.add(*next);
+                continue;
+            }
+            add({begin, static_cast<std::size_t>(next - begin)}, hash);
+            if (*next == L'\0')
+            {
+                break;
+            }
+            begin = next + 1;
+            hash = TextHash();
+        }
     }
 
     // Whether an option may have so many names.
@@ -46,6 +53,19 @@ public:
     [[nodiscard]] const HashedText* end() const noexcept { return m_names.data() + m_count; }
 
 private:
+    void add(std::wstring_view name, const TextHash& hash) noexcept
+    {
+        if (name.empty())
+        {
+            return;
+        }
+        if (m_count < most)
+        {
+            m_names[m_count] = HashedText(name, hash);
+        }
+        ++m_count;
+    }
+
     std::array<HashedText, most> m_names;
     std::size_t m_count = 0; // of all pieces, also where there are too many
 };

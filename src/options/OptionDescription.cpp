@@ -1,6 +1,7 @@
 #include "options/OptionDescription.h"
 
 #include <algorithm>
+#include <cassert>
 #include <tuple>
 
 #include "options/OptionIndex.h"
@@ -25,29 +26,32 @@ IOption& OptionDescription::addName(const wchar_t* name)
         names.push_back(text.movedTo(owner->keep(text.text())));
         return *this;
     }
-    const OptionIndex::NewName added = index->prepare(text, valueType == value_type_boolean);
+    const bool boolean = valueType == value_type_boolean;
+    const HashedText kept = index->keep(text, boolean);
     index->reserveMore(1);
-    names.push_back(added.name);
-    index->add(added, m_place.held.number);
+    names.push_back(kept);
+    index->add(kept, m_place.held.number, boolean);
     return *this;
 }
 
 IOption& OptionDescription::addAllowedValue(const vexkit2::variant_t& value)
 {
-    allowedValues.push_back(value);
+    ValueRestriction& restriction = m_restriction.make();
+    restriction.allowedValues.push_back(value);
     if (separator == 0)
     {
         separator = L',';
     }
-    m_valueIndex.held.reset();
+    restriction.index.held.reset();
     return *this;
 }
 
 IOption& OptionDescription::addDeprecatedValue(const vexkit2::variant_t& oldValue,
                                                const vexkit2::variant_t& replacement)
 {
-    deprecatedValues.emplace(oldValue, replacement);
-    m_valueIndex.held.reset();
+    ValueRestriction& restriction = m_restriction.make();
+    restriction.deprecatedValues.emplace(oldValue, replacement);
+    restriction.index.held.reset();
     return *this;
 }
 
@@ -73,17 +77,21 @@ IOption& OptionDescription::setMarked()
 
 IOption& OptionDescription::addKeywords(const wchar_t* list)
 {
+    if (list == nullptr)
+    {
+        return *this;
+    }
     // Collected first: the option gets all of them or, where memory runs out, none.
-    std::set<std::wstring_view> added;
+    Keywords added;
     forEachPiece(viewOf(list), L',',
                  [this, &added](std::wstring_view piece)
                  {
-                     if (!keywords.contains(piece) && !added.contains(piece))
+                     if (!keywords().contains(piece) && !added.contains(piece))
                      {
                          added.insert(owner->keep(piece));
                      }
                  });
-    keywords.merge(added);
+    m_keywords.make().merge(added);
     notePositional();
     return *this;
 }
@@ -117,19 +125,21 @@ void OptionDescription::notePositional() noexcept
 
 const AllowedValueIndex& OptionDescription::allowedValueIndex() const
 {
-    if (m_valueIndex.held == nullptr)
+    assert(restriction() != nullptr);
+    std::unique_ptr<AllowedValueIndex>& index = restriction()->index.held;
+    if (index == nullptr)
     {
-        m_valueIndex.held =
-            std::make_unique<AllowedValueIndex>(valueType, allowedValues, deprecatedValues);
+        index = std::make_unique<AllowedValueIndex>(valueType, restriction()->allowedValues,
+                                                    restriction()->deprecatedValues);
     }
-    return *m_valueIndex.held;
+    return *index;
 }
 
 bool shareKeyword(const OptionDescription& left, const OptionDescription& right)
 {
-    const auto& [fewer, more] = left.keywords.size() < right.keywords.size()
-                                    ? std::tie(left.keywords, right.keywords)
-                                    : std::tie(right.keywords, left.keywords);
+    const auto& [fewer, more] = left.keywords().size() < right.keywords().size()
+                                    ? std::tie(left.keywords(), right.keywords())
+                                    : std::tie(right.keywords(), left.keywords());
     return std::any_of(fewer.begin(), fewer.end(),
                        [&more = more](std::wstring_view keyword) { return more.contains(keyword); });
 }

@@ -7,12 +7,14 @@
 #include <memory>
 #include <memory_resource>
 #include <set>
+#include <span>
 #include <string_view>
 #include <vector>
 
 #include "kexa/option.h"
 
 #include "options/AllowedValueIndex.h"
+#include "options/Lazy.h"
 #include "options/NotCopied.h"
 #include "support/text/HashedText.h"
 
@@ -31,6 +33,16 @@ struct OptionGroup
 {
     std::wstring_view name;
     std::wstring_view text;
+};
+
+// Which values an option accepts, where it does not accept all of its type.
+struct ValueRestriction
+{
+    std::vector<vexkit2::variant_t> allowedValues;
+    std::map<vexkit2::variant_t, vexkit2::variant_t> deprecatedValues; // old value to replacement
+
+    // The candidates for a typed value. Made on first use after a change of them.
+    mutable NotCopied<std::unique_ptr<AllowedValueIndex>> index;
 };
 
 // The place of an option among all that the parsers of this process ever declared.
@@ -77,7 +89,7 @@ public:
     [[nodiscard]] bool takesValue() const noexcept { return valueMode != 0; }
     [[nodiscard]] bool isPositional() const noexcept
     {
-        return takesValue() && (marked || keywords.contains(positional_keyword));
+        return takesValue() && (marked || keywords().contains(positional_keyword));
     }
 
     // Makes the option one of an index, which learns from then on of further names and of the
@@ -87,13 +99,30 @@ public:
     // Equal for no two options of this process that are in an index.
     [[nodiscard]] OptionIdentity identity() const noexcept;
 
-    // The candidates for a typed value. Made on first use after a change of them; throws
+    using Keywords = std::set<std::wstring_view>;
+    [[nodiscard]] const Keywords& keywords() const noexcept
+    {
+        static const Keywords none;
+        return m_keywords.get() == nullptr ? none : *m_keywords.get();
+    }
+
+    // Null where no allowed and no deprecated value was declared.
+    [[nodiscard]] const ValueRestriction* restriction() const noexcept
+    {
+        return m_restriction.get();
+    }
+    [[nodiscard]] std::span<const vexkit2::variant_t> allowedValues() const noexcept
+    {
+        using Values = std::span<const vexkit2::variant_t>;
+        return restriction() == nullptr ? Values() : Values(restriction()->allowedValues);
+    }
+
+    // The candidates for a typed value. Precondition: there is a restriction. Throws
     // std::bad_alloc.
     [[nodiscard]] const AllowedValueIndex& allowedValueIndex() const;
 
     std::int32_t kind = 0;
     std::pmr::vector<HashedText> names;
-    std::set<std::wstring_view> keywords;
     OptionGroup group;
     std::wstring_view description;
     bool marked = false;
@@ -102,8 +131,6 @@ public:
     wchar_t separator = L',';
     std::int32_t valueType = no_value_type;
     vexkit2::variant_t defaultValue;
-    std::vector<vexkit2::variant_t> allowedValues;
-    std::map<vexkit2::variant_t, vexkit2::variant_t> deprecatedValues;
     Garbage* owner;
 
 private:
@@ -116,7 +143,8 @@ private:
     void notePositional() noexcept;
 
     NotCopied<Place> m_place;
-    mutable NotCopied<std::unique_ptr<AllowedValueIndex>> m_valueIndex;
+    Lazy<Keywords> m_keywords;
+    Lazy<ValueRestriction> m_restriction;
 };
 
 // Whether two options have a keyword in common.

@@ -13,7 +13,7 @@ namespace kexa_3_3
 namespace
 {
 
-constexpr std::size_t expected_texts = 32; // of a program of usual size
+constexpr std::size_t expected_texts = 64; // of a program of usual size
 
 std::uint64_t newIdentity() noexcept
 {
@@ -21,115 +21,111 @@ std::uint64_t newIdentity() noexcept
     return last.fetch_add(1, std::memory_order_relaxed) + 1;
 }
 
-template <class Vector>
-void reserveMore(Vector& elements, std::size_t count)
-{
-    const std::size_t needed = elements.size() + count;
-    if (needed > elements.capacity())
-    {
-        elements.reserve(std::max(needed, 2 * elements.capacity()));
-    }
-}
-
 } // namespace
 
 OptionIndex::OptionIndex(Garbage& pool)
     : m_pool(pool), m_identity(newIdentity()), m_texts(pool.memory(), expected_texts),
-      m_candidates(&pool.memory())
+      m_repeated(&pool.memory()), m_sorted(&pool.memory())
 {
-    m_candidates.reserve(expected_texts);
 }
 
-OptionIndex::NewName OptionIndex::prepare(const HashedText& name, bool boolean)
+HashedText OptionIndex::keep(const HashedText& name, bool boolean)
 {
-    if (!boolean)
-    {
-        return {name.movedTo(m_pool.keep(name.text())), HashedText()};
-    }
-    // One copy for both: the name is the end of its negation.
-    const std::wstring_view negated = m_pool.keepJoined(negation, name.text());
-    return {name.movedTo(negated.substr(negation.size())), HashedText(negated)};
+    return name.movedTo(boolean ? m_pool.keepJoined(negation, name.text()).substr(negation.size())
+                                : m_pool.keep(name.text()));
 }
 
-void OptionIndex::reserveMore(std::size_t names)
-{
-    constexpr std::size_t texts_of_name = 2; // with the negation
-    m_texts.reserveMore(texts_of_name * names);
-    kexa_3_3::reserveMore(m_candidates, texts_of_name * names);
-}
-
-void OptionIndex::add(const NewName& name, std::size_t option) noexcept
+void OptionIndex::add(const HashedText& name, std::size_t option, bool boolean) noexcept
 {
     const auto number = static_cast<std::uint32_t>(option);
-    addCandidate(name.name, number, true);
-    if (!name.negated.text().empty())
+    addCandidate(name, number, true);
+    if (boolean)
     {
-        addCandidate(name.negated, number, false);
+        const std::wstring_view text = name.text();
+        const std::wstring_view negated(text.data() - negation.size(),
+                                        negation.size() + text.size());
+        assert(negated.starts_with(negation));
+        addCandidate(HashedText(negated), number, false);
     }
 }
 
 void OptionIndex::addCandidate(const HashedText& text, std::uint32_t option, bool isName) noexcept
 {
-    KnownText* known = m_texts.find(text);
-    if (known == nullptr)
+    KnownText& known = m_texts.findOrAdd(text);
+    if (known.option == no_option)
     {
-        known = &m_texts.add({text});
+        known.option = option;
+        known.number = m_candidateCount;
     }
+    else
+    {
+        assert(m_repeated.size() < m_repeated.capacity());
+        m_repeated.push_back({known.name.text(), option, m_candidateCount});
+    }
+    ++m_candidateCount;
     // An earlier option may get a name that a later one has.
-    known->candidate = std::min(known->candidate, option);
+    known.firstOption = std::min(known.firstOption, option);
     if (isName)
     {
-        known->named = std::min(known->named, option);
+        known.firstNamed = std::min(known.firstNamed, option);
     }
-    assert(m_candidates.size() < m_candidates.capacity());
-    const auto number = static_cast<std::uint32_t>(m_candidates.size());
-    m_candidates.push_back({text.text(), option, number});
 }
 
 std::optional<std::size_t> OptionIndex::findNamed(const HashedText& name) const noexcept
 {
     const KnownText* const known = m_texts.find(name);
-    return known == nullptr || known->named == no_option ? std::nullopt
-                                                         : std::optional<std::size_t>(known->named);
+    return known == nullptr || known->firstNamed == no_option
+               ? std::nullopt
+               : std::optional<std::size_t>(known->firstNamed);
 }
 
 std::optional<std::size_t> OptionIndex::findCandidate(const HashedText& text) const noexcept
 {
     const KnownText* const known = m_texts.find(text);
-    return known == nullptr ? std::nullopt : std::optional<std::size_t>(known->candidate);
+    return known == nullptr ? std::nullopt : std::optional<std::size_t>(known->firstOption);
 }
 
-void OptionIndex::sortCandidates() const noexcept
+// Sorts in what was added since the last search.
+void OptionIndex::sortCandidates() const
 {
-    if (m_sortedCandidates == m_candidates.size())
+    if (m_sorted.size() == m_candidateCount)
     {
         return;
+    }
+    m_sorted.reserve(m_candidateCount);
+    const auto known = static_cast<std::ptrdiff_t>(m_sorted.size());
+    for (; m_sortedTexts < m_texts.size(); ++m_sortedTexts)
+    {
+        const KnownText& text = m_texts[m_sortedTexts];
+        m_sorted.push_back({text.name.text(), text.option, text.number});
+    }
+    for (; m_sortedRepeated < m_repeated.size(); ++m_sortedRepeated)
+    {
+        m_sorted.push_back(m_repeated[m_sortedRepeated]);
     }
     const auto before = [](const Candidate& left, const Candidate& right)
     {
         return left.text < right.text;
     };
-    const auto middle = m_candidates.begin() + static_cast<std::ptrdiff_t>(m_sortedCandidates);
-    std::sort(middle, m_candidates.end(), before);
-    std::inplace_merge(m_candidates.begin(), middle, m_candidates.end(), before);
-    m_sortedCandidates = m_candidates.size();
+    std::sort(m_sorted.begin() + known, m_sorted.end(), before);
+    std::inplace_merge(m_sorted.begin(), m_sorted.begin() + known, m_sorted.end(), before);
 }
 
 // The candidates that begin with a text are neighbours in the sorted list.
 std::pair<OptionIndex::Candidates::const_iterator, OptionIndex::Candidates::const_iterator>
-OptionIndex::prefixRange(std::wstring_view beginning) const noexcept
+OptionIndex::prefixRange(std::wstring_view beginning) const
 {
     sortCandidates();
     const auto first = std::lower_bound(
-        m_candidates.cbegin(), m_candidates.cend(), beginning,
+        m_sorted.cbegin(), m_sorted.cend(), beginning,
         [](const Candidate& candidate, std::wstring_view text) { return candidate.text < text; });
-    const auto last = std::partition_point(first, m_candidates.cend(),
+    const auto last = std::partition_point(first, m_sorted.cend(),
                                            [beginning](const Candidate& candidate)
                                            { return candidate.text.starts_with(beginning); });
     return {first, last};
 }
 
-OptionIndex::PrefixMatches OptionIndex::matchPrefix(std::wstring_view beginning) const noexcept
+OptionIndex::PrefixMatches OptionIndex::matchPrefix(std::wstring_view beginning) const
 {
     const auto [first, last] = prefixRange(beginning);
     PrefixMatches matches;

@@ -1,6 +1,7 @@
 // Finds options by name and by the beginning of a name.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <memory_resource>
@@ -38,22 +39,25 @@ public:
     // A number that no other index in this process has.
     [[nodiscard]] std::uint64_t identity() const noexcept { return m_identity; }
 
-    // A name whose text, and that of its negation, lie in the pool.
-    struct NewName
-    {
-        HashedText name;
-        HashedText negated; // of a boolean option; otherwise empty
-    };
-
-    // Copies a name into the pool. Throws std::bad_alloc.
-    [[nodiscard]] NewName prepare(const HashedText& name, bool boolean);
+    // Copies a name into the pool; that of a boolean option stands behind "no-" there, so that its
+    // negation needs no copy. Throws std::bad_alloc.
+    [[nodiscard]] HashedText keep(const HashedText& name, bool boolean);
 
     // Makes room for `names` further names. Throws std::bad_alloc, changing nothing.
-    void reserveMore(std::size_t names);
+    void reserveMore(std::size_t names)
+    {
+        constexpr std::size_t texts_of_name = 2; // with the negation
+        m_texts.reserveMore(texts_of_name * names);
+        if (m_repeated.capacity() - m_repeated.size() < texts_of_name * names)
+        {
+            m_repeated.reserve(std::max(2 * m_repeated.capacity(),
+                                        m_repeated.size() + texts_of_name * names));
+        }
+    }
 
-    // Adds a name of an option, behind those that the option has already. Precondition:
-    // reserveMore() made room.
-    void add(const NewName& name, std::size_t option) noexcept;
+    // Adds a name of an option, behind those that the option has already. Preconditions: the name
+    // was kept, and reserveMore() made room.
+    void add(const HashedText& name, std::size_t option, bool boolean) noexcept;
 
     // The first option, in table order, that has exactly this name.
     [[nodiscard]] std::optional<std::size_t> findNamed(const HashedText& name) const noexcept;
@@ -61,14 +65,14 @@ public:
     // The first option, in table order, of which the text is a name or the negation of one.
     [[nodiscard]] std::optional<std::size_t> findCandidate(const HashedText& text) const noexcept;
 
-    // The candidates that begin with a text.
+    // The candidates that begin with a text. The following throw std::bad_alloc, changing nothing.
     struct PrefixMatches
     {
         std::size_t count = 0;
         std::size_t option = 0;      // where count is 1
         std::wstring_view candidate; // where count is 1; lies in the pool
     };
-    [[nodiscard]] PrefixMatches matchPrefix(std::wstring_view beginning) const noexcept;
+    [[nodiscard]] PrefixMatches matchPrefix(std::wstring_view beginning) const;
 
     // The texts of these candidates, in table order.
     [[nodiscard]] std::vector<std::wstring_view> listPrefix(std::wstring_view beginning) const;
@@ -85,14 +89,7 @@ public:
 private:
     static constexpr std::uint32_t no_option = 0xFFFFFFFF; // larger than any number
 
-    // A text that one option or several are found by.
-    struct KnownText
-    {
-        HashedText name;
-        std::uint32_t named = no_option;     // the first option with this name
-        std::uint32_t candidate = no_option; // the first one that the text is a candidate of
-    };
-
+    // A candidate, and where it stands in table order.
     struct Candidate
     {
         std::wstring_view text;
@@ -100,18 +97,31 @@ private:
         std::uint32_t number; // in the order of adding
     };
 
+    // A text that is a candidate, perhaps of several options.
+    struct KnownText
+    {
+        HashedText name;
+        std::uint32_t option = no_option; // the one that it was added for first
+        std::uint32_t number = 0;
+        std::uint32_t firstOption = no_option; // in table order
+        std::uint32_t firstNamed = no_option;  // in table order, of those that have it as a name
+    };
+
     using Candidates = std::pmr::vector<Candidate>;
 
     void addCandidate(const HashedText& text, std::uint32_t option, bool isName) noexcept;
-    void sortCandidates() const noexcept;
+    void sortCandidates() const;
     [[nodiscard]] std::pair<Candidates::const_iterator, Candidates::const_iterator>
-    prefixRange(std::wstring_view beginning) const noexcept;
+    prefixRange(std::wstring_view beginning) const;
 
     Garbage& m_pool;
     std::uint64_t m_identity;
     NameTable<KnownText> m_texts;
-    mutable Candidates m_candidates;           // each one, also where several have one text
-    mutable std::size_t m_sortedCandidates = 0; // that many at the front are sorted by text
+    Candidates m_repeated; // candidates whose text was known when they were added
+    std::uint32_t m_candidateCount = 0;
+    mutable Candidates m_sorted; // by text; made when it is first needed
+    mutable std::size_t m_sortedTexts = 0;    // that many of m_texts are in it
+    mutable std::size_t m_sortedRepeated = 0; // that many of m_repeated are in it
     std::optional<std::size_t> m_firstPositional;
 };
 

@@ -1,11 +1,10 @@
 #include "options/RegisteredOptionStorage.h"
 
 #include <algorithm>
-#include <array>
+#include <cassert>
 #include <exception>
 #include <optional>
 #include <string>
-#include <utility>
 
 #include "support/ConsoleStreams.h"
 #include "support/memory/Garbage.h"
@@ -44,22 +43,22 @@ const Registration& RegisteredOptionStorage::registerOption(const wchar_t* names
                                                             const wchar_t* groupText)
 {
     m_lastRegistration = {nullptr, refused};
+    const std::size_t before = m_options.size();
     try
     {
-        const OptionGroup group = enterGroup(viewOf(groupText));
-        const DeclaredNames declared(viewOf(names));
+        const OptionGroup group = enterGroup(groupText == nullptr ? L"" : groupText);
+        const DeclaredNames declared(names == nullptr ? L"" : names);
         if (!declared.areAcceptable())
         {
             return m_lastRegistration;
         }
         if (std::any_of(declared.begin(), declared.end(),
-                        [this](const HashedText& name) { return m_index.findNamed(name); }))
+                        [this](const HashedText& name) { return m_index.findNamed(name).has_value(); }))
         {
             reportTakenName(viewOf(names));
             return m_lastRegistration;
         }
-
-        OptionDescription option(group, isSwitch, m_owner);
+        OptionDescription& option = m_options.emplace_back(group, isSwitch, m_owner);
         option.description = m_owner.keep(viewOf(description));
         option.separator = m_defaultSeparator;
         option.valueType = valueType;
@@ -68,12 +67,16 @@ const Registration& RegisteredOptionStorage::registerOption(const wchar_t* names
         {
             option.addKeywords(names);
         }
-        m_lastRegistration = {&enterOption(std::move(option), declared), registered};
-        m_hasActions = m_hasActions || isSwitch;
+        enter(option, declared);
+        m_lastRegistration = {&option, registered};
     }
-    catch (const std::exception&) // NOLINT(bugprone-empty-catch)
+    catch (const std::exception&)
     {
         // There is no memory: a failed declaration like any other.
+        if (m_options.size() > before)
+        {
+            m_options.pop_back();
+        }
     }
     return m_lastRegistration;
 }
@@ -101,44 +104,48 @@ const OptionDescription* RegisteredOptionStorage::find(const HashedText& name) c
     return number ? &m_options[*number] : nullptr;
 }
 
-// Adds an option that has all but its names. Throws std::bad_alloc, changing nothing.
-OptionDescription& RegisteredOptionStorage::enterOption(OptionDescription option,
-                                                        const DeclaredNames& declared)
+// Gives the last option its names and makes it known by them. Throws std::bad_alloc; the index is
+// unchanged then.
+void RegisteredOptionStorage::enter(OptionDescription& option, const DeclaredNames& names)
 {
+    assert(&option == &m_options.back());
     const bool boolean = option.valueType == value_type_boolean;
-    std::array<OptionIndex::NewName, DeclaredNames::most> names;
-    std::transform(declared.begin(), declared.end(), names.begin(),
-                   [this, boolean](const HashedText& name)
-                   { return m_index.prepare(name, boolean); });
-    option.names.reserve(declared.size());
-    m_index.reserveMore(declared.size());
-    OptionDescription& entered = m_options.emplace_back(std::move(option));
+    option.names.reserve(names.size());
+    for (const HashedText& name : names)
+    {
+        option.names.push_back(m_index.keep(name, boolean));
+    }
+    m_index.reserveMore(names.size());
 
     // Nothing fails from here on.
     const std::size_t number = m_options.size() - 1;
-    for (std::size_t position = 0; position < declared.size(); ++position)
+    for (const HashedText& name : option.names)
     {
-        entered.names.push_back(names[position].name);
-        m_index.add(names[position], number);
+        m_index.add(name, number, boolean);
     }
-    entered.enterInto(m_index, number);
-    return entered;
+    option.enterInto(m_index, number);
+    m_hasActions = m_hasActions || !option.takesValue();
 }
 
 // Returns the group that a declaration names, with the text that it was first declared with.
-OptionGroup RegisteredOptionStorage::enterGroup(std::wstring_view groupText)
+OptionGroup RegisteredOptionStorage::enterGroup(const wchar_t* groupText)
 {
-    const std::size_t colon = groupText.find(L':');
-    const HashedText name(groupText.substr(0, colon));
-    const NamedGroup* group = m_groups.find(name);
-    if (group == nullptr)
+    TextHash hash;
+    const wchar_t* end = groupText;
+    for (; *end != L':' && *end != L'\0'; ++end)
     {
-        const std::wstring_view text =
-            colon == std::wstring_view::npos ? std::wstring_view() : groupText.substr(colon + 1);
-        m_groups.reserveMore(1);
-        group = &m_groups.add({name.movedTo(m_owner.keep(name.text())), m_owner.keep(text)});
+        hash.add(*end);
     }
-    return {group->name.text(), group->text};
+    const HashedText name({groupText, static_cast<std::size_t>(end - groupText)}, hash);
+    if (const NamedGroup* const known = m_groups.find(name))
+    {
+        return {known->name.text(), known->text};
+    }
+    const std::wstring_view text(*end == L':' ? end + 1 : end);
+    const OptionGroup group = {m_owner.keep(name.text()), m_owner.keep(text)};
+    m_groups.reserveMore(1);
+    m_groups.findOrAdd(name.movedTo(group.name)).text = group.text;
+    return group;
 }
 
 std::vector<OptionGroup> RegisteredOptionStorage::groups() const

@@ -94,12 +94,11 @@ private:
         std::wstring_view text;
     };
 
-    [[nodiscard]] OptionGroup enterGroup(std::wstring_view groupText);
-    [[nodiscard]] OptionDescription& enterOption(OptionDescription option,
-                                                 const DeclaredNames& declared);
+    [[nodiscard]] OptionGroup enterGroup(const wchar_t* groupText);
+    void enter(OptionDescription& option, const DeclaredNames& names);
 
     wchar_t m_defaultSeparator;
-    std::pmr::deque<OptionDescription> m_options; // whose elements never move
+    std::pmr::deque<OptionDescription> m_options; // the elements never move
     NameTable<NamedGroup> m_groups;
     Garbage& m_owner;
     Registration m_lastRegistration = {nullptr, 1};

@@ -28,7 +28,7 @@ std::wstring conversionMessage(const OptionDescription& option, std::wstring_vie
 std::wstring possibleValues(const OptionDescription& option)
 {
     std::wstring list;
-    for (const variant_t& value : option.allowedValues)
+    for (const variant_t& value : option.allowedValues())
     {
         list += concatenate({list.empty() ? L"'" : L", '", valueText(value), L"'"});
     }
@@ -84,7 +84,7 @@ ValueVerdict checkAllowedValue(const OptionDescription& option, std::wstring_vie
         return ValueVerdict::refused;
     }
 
-    const auto& deprecatedValues = option.deprecatedValues;
+    const auto& deprecatedValues = option.restriction()->deprecatedValues;
     const auto deprecated = deprecatedValues.find(*match);
     if (deprecated != deprecatedValues.end())
     {

@@ -53,7 +53,7 @@ Overview survey(const OptionResultTable& result, const RegisteredOptionStorage& 
         else
         {
             overview.valueOptionSeen = true;
-            if (!option->keywords.empty())
+            if (!option->keywords().empty())
             {
                 overview.restricted.push_back({name, option});
             }

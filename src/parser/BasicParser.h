@@ -85,7 +85,7 @@ private:
     template <class MakeHelp>
     const wchar_t* help(MakeHelp makeHelp);
 
-    InlineBlock<12288> m_firstBlock; // holds the declarations of a usual program
+    InlineBlock<24576> m_firstBlock; // holds the declarations of a usual program
     Garbage m_strings;               // before the options, which keep their texts in it
     RegisteredOptionStorage m_options;
     std::wstring m_errorMessage;

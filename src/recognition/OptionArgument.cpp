@@ -1,9 +1,17 @@
 #include "recognition/OptionArgument.h"
 
-#include <algorithm>
-
 namespace kexa_3_3
 {
+
+namespace
+{
+
+bool isClassicNameEnd(wchar_t character) noexcept
+{
+    return character == L'=' || isClassicSpace(character);
+}
+
+} // namespace
 
 WhiteSpace::WhiteSpace()
     : m_facet(m_locale == std::locale::classic() ? nullptr
@@ -11,19 +19,30 @@ WhiteSpace::WhiteSpace()
 {
 }
 
+HashedText WhiteSpace::nameIn(std::wstring_view text) const
+{
+    TextHash hash;
+    std::size_t length = 0;
+    // Letters and digits of the classic locale stand above all that ends a name.
+    while (length < text.size() &&
+           (m_facet == nullptr ? text[length] > L'=' || !isClassicNameEnd(text[length])
+                               : text[length] != L'=' && !contains(text[length])))
+    {
+        hash.add(text[length]);
+        ++length;
+    }
+    return HashedText({text.data(), length}, hash);
+}
+
 OptionArgument splitOptionArgument(std::wstring_view argument, const WhiteSpace& whiteSpace)
 {
-    std::wstring_view rest = argument.substr(countHyphens(argument));
-    const auto end = std::find_if(rest.begin(), rest.end(),
-                                  [&whiteSpace](wchar_t character)
-                                  { return character == L'=' || whiteSpace.contains(character); });
-    const auto length = static_cast<std::size_t>(end - rest.begin());
-    OptionArgument split;
-    split.name = HashedText(rest.substr(0, length));
-    split.hasValue = length < rest.size();
+    std::wstring_view rest = argument;
+    rest.remove_prefix(countHyphens(argument));
+    const HashedText name = whiteSpace.nameIn(rest);
+    rest.remove_prefix(name.text().size());
+    OptionArgument split = {name, {}, !rest.empty()};
     if (split.hasValue)
     {
-        rest.remove_prefix(length);
         const bool behindSpace = rest.front() != L'=';
         rest.remove_prefix(1);
         while (behindSpace && !rest.empty() && whiteSpace.contains(rest.front()))

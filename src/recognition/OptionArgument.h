@@ -49,6 +49,9 @@ public:
                                   : m_facet->is(std::ctype_base::space, character);
     }
 
+    // What stands before the first "=" or white space, or the whole text.
+    [[nodiscard]] HashedText nameIn(std::wstring_view text) const;
+
 private:
     std::locale m_locale;
     const std::ctype<wchar_t>* m_facet; // null for the classic locale

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cassert>
+#include <utility>
+#include <vector>
 
 #include "options/OptionDescription.h"
 
@@ -33,12 +35,18 @@ void OptionResultTable::store(const OptionDescription& option, OptionResult& rec
 {
     assert(!option.names.empty());
     Occurrences added = makeOccurrences(record);
-    if (StoredOption* const shared = findShared(option))
+    std::optional<Occurrence> byDefault = makeDefault(record);
+    StoredOption* const shared = sharedRecord(option);
+    if (shared == nullptr)
     {
-        shared->occurrences.append(std::move(added));
+        storeApart(option, added);
         return;
     }
-    storeElsewhere(option, std::move(added), record);
+    if (shared->empty())
+    {
+        shared->byDefault = std::move(byDefault);
+    }
+    shared->occurrences.append(std::move(added));
 }
 
 void OptionResultTable::storeValue(const OptionDescription& option, ValueEntry& value)
@@ -46,14 +54,14 @@ void OptionResultTable::storeValue(const OptionDescription& option, ValueEntry& 
     assert(!option.names.empty());
     Occurrence occurrence = makeOccurrence(value);
     occurrence.isPosition = true;
-    if (StoredOption* const shared = findShared(option))
+    if (StoredOption* const shared = sharedRecord(option))
     {
         shared->occurrences.append(std::move(occurrence));
         return;
     }
     Occurrences added(m_strings.memory());
     added.append(std::move(occurrence));
-    storeElsewhere(option, std::move(added), OptionResult());
+    storeApart(option, added);
 }
 
 const StoredOption* OptionResultTable::find(const HashedText& name) const noexcept
@@ -69,121 +77,115 @@ bool OptionResultTable::isFilledFrom(std::uint64_t identity) const noexcept
                        { return stored.source.index == identity; });
 }
 
-// The record that all names of the option find and no other name, or null. One that was made for
-// the option stays so until a name of it comes to lead elsewhere, or the option gets another one.
-StoredOption* OptionResultTable::findShared(const OptionDescription& option) noexcept
+// The record that all names of the option find and no other name, made where the first name is
+// unknown; null where the names lead to several records, or to one that others find too.
+StoredOption* OptionResultTable::sharedRecord(const OptionDescription& option)
 {
     const NamedRecord* const found = m_names.find(option.names.front());
-    const bool isShared = found != nullptr && found->record->source.index != 0 &&
-                          found->record->source == option.identity() &&
-                          found->record->names == option.names.size();
-    return isShared ? found->record : nullptr;
+    if (found == nullptr)
+    {
+        return &makeShared(option);
+    }
+    // A record that was made for the option stays its own until a name of it comes to lead
+    // elsewhere, or the option gets another name.
+    StoredOption* const record = found->record;
+    return record->source == option.identity() && record->source.index != 0 &&
+                   record->names == option.names.size()
+               ? record
+               : nullptr;
 }
 
-void OptionResultTable::storeElsewhere(const OptionDescription& option, Occurrences added,
-                                       const OptionResult& record)
+// Makes an empty record for an option whose first name is unknown. Other names of it may have led to
+// another option before. Where this throws, some names may lead to an empty record, which queries
+// take for none.
+StoredOption& OptionResultTable::makeShared(const OptionDescription& option)
 {
-    const StoredOption* const first = find(option.names.front());
-    if (first == nullptr)
+    m_names.reserveMore(option.names.size());
+    StoredOption& record = m_records.emplace_back(option.identity(), m_strings.memory());
+    // The first name comes last of those that may fail: it decides whether the option is known.
+    bool othersAreKnown = false;
+    for (auto name = option.names.rbegin(); name != option.names.rend(); ++name)
     {
-        storeNew(option, std::move(added), record);
-    }
-    else
-    {
-        storeApart(option, *first, added);
-    }
-}
-
-// Stores an option whose first name is unknown: under all its names, of which others may have led
-// to another option before.
-void OptionResultTable::storeNew(const OptionDescription& option, Occurrences added,
-                                 const OptionResult& record)
-{
-    std::optional<Occurrence> byDefault;
-    if (!record.defaultText.empty())
-    {
-        byDefault.emplace();
-        byDefault->text = m_strings.keep(record.defaultText).data();
-        byDefault->value = record.defaultValue;
-        byDefault->position = static_cast<std::int32_t>(record.defaultPosition);
-    }
-    Bindings bindings = prepareBindings(option);
-    StoredOption& stored = m_records.emplace_back(option.identity(), m_strings.memory());
-    stored.byDefault = std::move(byDefault);
-    stored.occurrences.append(std::move(added));
-    for (NamedRecord& binding : bindings)
-    {
-        binding.record = &stored;
-        bind(binding);
-    }
-}
-
-// Stores an option whose names do not lead to exactly one record: each gets one of its own.
-//
-// first: the record of the first name. A name that is unknown starts as a copy of it.
-void OptionResultTable::storeApart(const OptionDescription& option, const StoredOption& first,
-                                   const Occurrences& added)
-{
-    Bindings bindings = prepareBindings(option);
-    std::vector<Occurrences> copies;
-    copies.reserve(bindings.size());
-    for (NamedRecord& binding : bindings)
-    {
-        const NamedRecord* const known = m_names.find(binding.name);
-        const StoredOption& before = known == nullptr ? first : *known->record;
-        copies.emplace_back(added);
-        if (known != nullptr && before.names == 1)
+        if (m_names.find(*name) == nullptr)
         {
-            binding.record = known->record;
-            continue;
+            bind(name->movedTo(m_strings.keep(name->text())), record);
         }
-        binding.record = &m_records.emplace_back(OptionIdentity(), m_strings.memory());
-        binding.record->occurrences.append(Occurrences(before.occurrences));
-        binding.record->byDefault = before.byDefault;
+        else
+        {
+            othersAreKnown = true;
+        }
     }
-    for (std::size_t number = 0; number < bindings.size(); ++number)
+    if (othersAreKnown)
     {
-        bindings[number].record->occurrences.append(std::move(copies[number]));
-        bind(bindings[number]);
+        for (const HashedText& name : option.names)
+        {
+            bind(name, record);
+        }
     }
+    return record;
 }
 
-// Returns the different names of an option, without records yet. Afterwards nothing about binding
-// them fails.
-OptionResultTable::Bindings OptionResultTable::prepareBindings(const OptionDescription& option)
+// Stores an option whose names do not share exactly one record: each gets one of its own. A name
+// that is unknown starts as a copy of the first one.
+void OptionResultTable::storeApart(const OptionDescription& option, const Occurrences& added)
 {
-    Bindings bindings(&m_strings.memory());
-    bindings.reserve(option.names.size());
+    struct Step
+    {
+        HashedText name;
+        StoredOption* record;
+        Occurrences added;
+    };
+    const StoredOption& first = *m_names.find(option.names.front())->record;
+    std::vector<Step> steps;
+    steps.reserve(option.names.size());
     for (const HashedText& name : option.names)
     {
-        const bool isRepeated = std::any_of(bindings.begin(), bindings.end(),
-                                            [&name](const NamedRecord& other)
-                                            { return other.name == name; });
-        if (!isRepeated)
+        if (std::any_of(steps.begin(), steps.end(),
+                        [&name](const Step& step) { return step.name == name; }))
         {
-            bindings.push_back({name.movedTo(m_strings.keep(name.text()))});
+            continue;
         }
+        const NamedRecord* const known = m_names.find(name);
+        StoredOption* const record = known == nullptr          ? &copyRecord(first)
+                                     : known->record->names > 1 ? &copyRecord(*known->record)
+                                                                : known->record;
+        const HashedText kept =
+            known == nullptr ? name.movedTo(m_strings.keep(name.text())) : known->name;
+        steps.push_back({kept, record, added});
     }
-    m_names.reserveMore(bindings.size());
-    return bindings;
+    m_names.reserveMore(steps.size());
+
+    // Nothing fails from here on.
+    for (Step& step : steps)
+    {
+        bind(step.name, *step.record);
+        step.record->occurrences.append(std::move(step.added));
+    }
 }
 
-// Lets a name lead to a record.
-void OptionResultTable::bind(const NamedRecord& binding) noexcept
+StoredOption& OptionResultTable::copyRecord(const StoredOption& from)
 {
-    assert(binding.record != nullptr);
-    NamedRecord* known = m_names.find(binding.name);
-    if (known == nullptr)
+    Occurrences occurrences(from.occurrences);
+    StoredOption& copy = m_records.emplace_back(OptionIdentity(), m_strings.memory());
+    copy.occurrences.append(std::move(occurrences));
+    copy.byDefault = from.byDefault;
+    return copy;
+}
+
+// Lets a name lead to a record. A name that is new is kept, and there is room for it.
+void OptionResultTable::bind(const HashedText& name, StoredOption& record) noexcept
+{
+    StoredOption*& target = m_names.findOrAdd(name).record;
+    if (target == &record)
     {
-        m_names.add(binding);
-        ++binding.record->names;
+        return;
     }
-    else if (known->record != binding.record)
+    if (target != nullptr)
     {
-        --known->record->names;
-        known->record = binding.record;
-        ++binding.record->names;
+        --target->names;
     }
+    target = &record;
+    ++record.names;
 }
 
 // Moves what a record holds into a list of occurrences.
@@ -222,6 +224,20 @@ Occurrence OptionResultTable::makeOccurrence(ValueEntry& entry)
     occurrence.position = entry.position;
     occurrence.isValue = true;
     return occurrence;
+}
+
+// The default that a record brings, or none.
+std::optional<Occurrence> OptionResultTable::makeDefault(const OptionResult& record)
+{
+    std::optional<Occurrence> made;
+    if (!record.defaultText.empty())
+    {
+        made.emplace();
+        made->text = m_strings.keep(record.defaultText).data();
+        made->value = record.defaultValue;
+        made->position = static_cast<std::int32_t>(record.defaultPosition);
+    }
+    return made;
 }
 
 } // namespace kexa_3_3

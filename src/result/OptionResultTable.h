@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <deque>
 #include <memory_resource>
+#include <optional>
 #include <string_view>
-#include <vector>
 
 #include "result/OptionResult.h"
 #include "result/StoredOption.h"
@@ -62,20 +62,14 @@ public:
     [[nodiscard]] bool isFilledFrom(std::uint64_t identity) const noexcept;
 
 private:
-    [[nodiscard]] StoredOption* findShared(const OptionDescription& option) noexcept;
-    void storeElsewhere(const OptionDescription& option, Occurrences added,
-                        const OptionResult& record);
-    void storeNew(const OptionDescription& option, Occurrences added, const OptionResult& record);
-    void storeApart(const OptionDescription& option, const StoredOption& first,
-                    const Occurrences& added);
-
+    [[nodiscard]] StoredOption* sharedRecord(const OptionDescription& option);
+    [[nodiscard]] StoredOption& makeShared(const OptionDescription& option);
+    void storeApart(const OptionDescription& option, const Occurrences& added);
+    [[nodiscard]] StoredOption& copyRecord(const StoredOption& from);
+    void bind(const HashedText& name, StoredOption& record) noexcept;
     [[nodiscard]] Occurrences makeOccurrences(OptionResult& record);
     [[nodiscard]] Occurrence makeOccurrence(ValueEntry& entry);
-
-    // Where names are about to lead.
-    using Bindings = std::pmr::vector<NamedRecord>;
-    [[nodiscard]] Bindings prepareBindings(const OptionDescription& option);
-    void bind(const NamedRecord& binding) noexcept;
+    [[nodiscard]] std::optional<Occurrence> makeDefault(const OptionResult& record);
 
     Garbage& m_strings;
     SharedTexts m_texts;

@@ -4,7 +4,6 @@
 #include <stdexcept>
 
 #include "support/text/HashedText.h"
-#include "support/text/Text.h"
 
 namespace kexa_3_3
 {
@@ -125,7 +124,7 @@ bool ParseResult::beginQuery(const wchar_t* name, std::int32_t from, std::int32_
 {
     m_rangeFrom = from;
     m_rangeTo = to;
-    m_currentOption = name == nullptr ? nullptr : m_options.find(viewOf(name));
+    m_currentOption = name == nullptr ? nullptr : m_options.find(HashedText::ofTerminated(name));
     if (m_currentOption == nullptr)
     {
         return false;

@@ -62,7 +62,7 @@ private:
     [[nodiscard]] const Occurrence* nextInRange() noexcept;
     [[nodiscard]] const Occurrence* nextDefault() noexcept;
 
-    InlineBlock<6144> m_firstBlock; // holds what a command line of usual size leaves
+    InlineBlock<8192> m_firstBlock; // holds what a command line of usual size leaves
     Garbage m_strings; // keeps every text handed out, so it is destroyed after what refers to it
     OptionResultTable m_options;
 

@@ -1,15 +1,9 @@
 #include "support/memory/Garbage.h"
 
-#include <algorithm>
-
 namespace kexa_3_3
 {
 
-// The heap by name: the default resource is the host's to change.
-Garbage::Garbage(std::span<std::byte> first)
-    : m_memory(first.data(), first.size(), std::pmr::new_delete_resource()), m_interned(&m_memory)
-{
-}
+Garbage::Garbage(std::span<std::byte> first) : m_memory(first), m_interned(&m_memory) {}
 
 const wchar_t* Garbage::intern(const wchar_t* text)
 {
@@ -25,18 +19,28 @@ std::wstring_view Garbage::internText(std::wstring_view text)
 
 std::wstring_view Garbage::keep(std::wstring_view text)
 {
-    return keepJoined(text, std::wstring_view());
+    wchar_t* const copy = roomFor(text.size());
+    text.copy(copy, text.size());
+    return {copy, text.size()};
 }
+
 
 std::wstring_view Garbage::keepJoined(std::wstring_view first, std::wstring_view second)
 {
     const std::size_t length = first.size() + second.size();
-    std::pmr::polymorphic_allocator<wchar_t> allocator(&m_memory);
-    wchar_t* const copy = allocator.allocate(length + 1);
-    wchar_t* const end = std::copy(second.begin(), second.end(),
-                                   std::copy(first.begin(), first.end(), copy));
-    *end = L'\0';
+    wchar_t* const copy = roomFor(length);
+    first.copy(copy, first.size());
+    second.copy(copy + first.size(), second.size());
     return {copy, length};
+}
+
+// Room for a text of `length` characters, with the zero behind it.
+wchar_t* Garbage::roomFor(std::size_t length)
+{
+    void* const memory = m_memory.take((length + 1) * sizeof(wchar_t), alignof(wchar_t));
+    auto* const room = static_cast<wchar_t*>(memory);
+    room[length] = L'\0';
+    return room;
 }
 
 } // namespace kexa_3_3

@@ -7,6 +7,8 @@
 #include <span>
 #include <string_view>
 
+#include "support/memory/Arena.h"
+
 namespace kexa_3_3
 {
 
@@ -36,10 +38,12 @@ public:
     std::wstring_view keepJoined(std::wstring_view first, std::wstring_view second);
 
     // Memory that lives as long as the pool. What is allocated from it is never given back.
-    [[nodiscard]] std::pmr::memory_resource& memory() noexcept { return m_memory; }
+    [[nodiscard]] Arena& memory() noexcept { return m_memory; }
 
 private:
-    std::pmr::monotonic_buffer_resource m_memory;
+    [[nodiscard]] wchar_t* roomFor(std::size_t length);
+
+    Arena m_memory;
     std::pmr::set<std::wstring_view> m_interned;
 };
 

@@ -36,54 +36,31 @@ public:
     // Makes room for `count` further entries. Throws std::bad_alloc, changing nothing.
     void reserveMore(std::size_t count)
     {
-        const std::size_t needed = m_entries.size() + count;
-        if (needed <= m_entries.capacity())
+        if (m_entries.capacity() - m_entries.size() < count)
         {
-            return;
+            grow(m_entries.size() + count);
         }
-        const std::size_t room = std::bit_ceil(needed);
-        if (room > largest_room)
-        {
-            throw std::bad_alloc(); // GCOVR_EXCL_LINE: billions of entries fit no test machine
-        }
-        std::pmr::vector<Slot> slots(slotsFor(room), Slot(), m_slots.get_allocator());
-        m_entries.reserve(room);
-        for (const Slot& slot : m_slots)
-        {
-            if (slot.number != no_entry)
-            {
-                slots[freeSlotIn(slots, slot.hash)] = slot;
-            }
-        }
-        m_slots.swap(slots);
     }
 
-    // Adds an entry. Preconditions: reserveMore() made room, and no entry has the name.
-    Entry& add(Entry entry) noexcept
+    // Returns the entry with the name, a new one where there is none. Precondition: reserveMore()
+    // made room.
+    Entry& findOrAdd(const HashedText& name) noexcept
     {
-        assert(m_entries.size() < m_entries.capacity());
-        assert(find(entry.name) == nullptr);
-        const std::uint32_t hash = entry.name.hash();
-        m_slots[freeSlotIn(m_slots, hash)] = {static_cast<std::uint32_t>(m_entries.size()), hash};
-        return m_entries.emplace_back(std::move(entry));
+        Slot& slot = m_slots[placeOf(name)];
+        if (slot.number == no_entry)
+        {
+            assert(m_entries.size() < m_entries.capacity());
+            slot = {static_cast<std::uint32_t>(m_entries.size()), name.hash()};
+            m_entries.emplace_back().name = name;
+        }
+        return m_entries[slot.number];
     }
 
     // The entry with the name, or null. An address is valid until the next reserveMore().
     [[nodiscard]] const Entry* find(const HashedText& name) const noexcept
     {
-        const std::size_t mask = m_slots.size() - 1;
-        for (std::size_t place = name.hash() & mask;; place = (place + 1) & mask)
-        {
-            const Slot& slot = m_slots[place];
-            if (slot.number == no_entry)
-            {
-                return nullptr;
-            }
-            if (slot.hash == name.hash() && m_entries[slot.number].name == name)
-            {
-                return &m_entries[slot.number];
-            }
-        }
+        const std::uint32_t number = m_slots[placeOf(name)].number;
+        return number == no_entry ? nullptr : &m_entries[number];
     }
     [[nodiscard]] Entry* find(const HashedText& name) noexcept
     {
@@ -92,6 +69,7 @@ public:
 
     [[nodiscard]] bool empty() const noexcept { return m_entries.empty(); }
     [[nodiscard]] std::size_t size() const noexcept { return m_entries.size(); }
+    [[nodiscard]] const Entry& operator[](std::size_t number) const { return m_entries[number]; }
     [[nodiscard]] auto begin() const noexcept { return m_entries.begin(); }
     [[nodiscard]] auto end() const noexcept { return m_entries.end(); }
 
@@ -107,14 +85,46 @@ private:
         std::uint32_t hash = 0;
     };
 
+    void grow(std::size_t needed)
+    {
+        const std::size_t room = std::bit_ceil(needed);
+        if (room > largest_room)
+        {
+            throw std::bad_alloc(); // GCOVR_EXCL_LINE: billions of entries fit no test machine
+        }
+        std::pmr::vector<Slot> slots(slotsFor(room), Slot(), m_slots.get_allocator());
+        m_entries.reserve(room);
+        for (const Slot& slot : m_slots)
+        {
+            if (slot.number != no_entry)
+            {
+                slots[freePlaceIn(slots, slot.hash)] = slot;
+            }
+        }
+        m_slots.swap(slots);
+    }
+
     // A power of two, at least twice the number of entries: searches end after few steps.
     [[nodiscard]] static std::size_t slotsFor(std::size_t entries) noexcept
     {
         return 2 * std::bit_ceil(entries);
     }
 
-    [[nodiscard]] static std::size_t freeSlotIn(const std::pmr::vector<Slot>& slots,
-                                                std::uint32_t hash) noexcept
+    // The slot of the name, or the free one where it belongs.
+    [[nodiscard]] std::size_t placeOf(const HashedText& name) const noexcept
+    {
+        const std::size_t mask = m_slots.size() - 1;
+        std::size_t place = name.hash() & mask;
+        while (m_slots[place].number != no_entry &&
+               (m_slots[place].hash != name.hash() || m_entries[m_slots[place].number].name != name))
+        {
+            place = (place + 1) & mask;
+        }
+        return place;
+    }
+
+    [[nodiscard]] static std::size_t freePlaceIn(const std::pmr::vector<Slot>& slots,
+                                                 std::uint32_t hash) noexcept
     {
         const std::size_t mask = slots.size() - 1;
         std::size_t place = hash & mask;

@@ -1,6 +1,8 @@
 // Texts that carry their hash.
 #pragma once
 
+#include <bit>
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -8,27 +10,60 @@
 namespace kexa_3_3
 {
 
-// FNV-1a over wide characters (G. Fowler, L. C. Noll, K.-P. Vo; the 64-bit offset basis and prime),
-// the upper half folded into the lower one, which tables use. Only texts that a host declares are
-// stored in tables, so the hash need not withstand an enemy who chooses what is stored.
-[[nodiscard]] constexpr std::uint32_t hashOf(std::wstring_view text) noexcept
+// The hash of a text, taken character by character. Two steps a character, since each waits for the
+// one before; the product at the end spreads what they gathered over all bits (multiplicative
+// hashing by the golden ratio: D. E. Knuth, The Art of Computer Programming, 6.4). Only texts that a
+// host declares are stored in tables, so the hash need not withstand an enemy who chooses them.
+class TextHash
 {
-    constexpr std::uint64_t offset_basis = 0xCBF29CE484222325;
-    constexpr std::uint64_t prime = 0x00000100000001B3;
-    std::uint64_t state = offset_basis;
-    for (const wchar_t character : text)
+public:
+    constexpr void add(wchar_t character) noexcept
     {
-        state = (state ^ static_cast<std::uint32_t>(character)) * prime;
+        m_state = std::rotl(m_state, 5) ^ static_cast<std::uint32_t>(character);
     }
-    return static_cast<std::uint32_t>(state ^ (state >> 32));
-}
+    [[nodiscard]] constexpr std::uint32_t value() const noexcept
+    {
+        constexpr std::uint64_t golden_ratio = 0x9E3779B97F4A7C15;
+        return static_cast<std::uint32_t>(m_state * golden_ratio >> 32);
+    }
+
+private:
+    std::uint64_t m_state = 0;
+};
 
 // A view of a text that is looked up again and again. The text outlives it.
 class HashedText
 {
 public:
-    HashedText() noexcept : HashedText(std::wstring_view(L"")) {}
-    explicit HashedText(std::wstring_view text) noexcept : m_text(text), m_hash(hashOf(text)) {}
+    HashedText() noexcept = default; // empty
+    explicit HashedText(std::wstring_view text) noexcept : m_text(text)
+    {
+        TextHash hash;
+        for (const wchar_t character : text)
+        {
+            hash.add(character);
+        }
+        m_hash = hash.value();
+    }
+
+    // Precondition: `hash` is that of the text.
+    HashedText(std::wstring_view text, const TextHash& hash) noexcept
+        : m_text(text), m_hash(hash.value())
+    {
+        assert(*this == HashedText(text));
+    }
+
+    // A null-terminated text, of which length and hash are taken in one pass.
+    [[nodiscard]] static HashedText ofTerminated(const wchar_t* text) noexcept
+    {
+        TextHash hash;
+        const wchar_t* end = text;
+        for (; *end != L'\0'; ++end)
+        {
+            hash.add(*end);
+        }
+        return HashedText(std::wstring_view(text, static_cast<std::size_t>(end - text)), hash);
+    }
 
     // copy: an equal text at another place.
     [[nodiscard]] HashedText movedTo(std::wstring_view copy) const noexcept
@@ -48,7 +83,7 @@ public:
 
 private:
     std::wstring_view m_text;
-    std::uint32_t m_hash;
+    std::uint32_t m_hash = TextHash().value();
 };
 
 } // namespace kexa_3_3

@@ -9,11 +9,10 @@
 namespace kexa_3_3
 {
 
-// A C string as a view; null counts as empty. Behind the last character stands a zero in any case,
-// which callers may copy.
+// A C string as a view; null counts as empty. A zero stands behind the last character in any case.
 [[nodiscard]] inline std::wstring_view viewOf(const wchar_t* text)
 {
-    return text == nullptr ? std::wstring_view(L"") : std::wstring_view(text);
+    return text == nullptr ? std::wstring_view(L"", 0) : std::wstring_view(text);
 }
 
 [[nodiscard]] inline std::wstring_view viewOf(const std::wstring& text) noexcept

@@ -1,0 +1,40 @@
+// A member that is made when it is first needed.
+#pragma once
+
+#include <memory>
+
+namespace kexa_3_3
+{
+
+// For what few objects of a class have: the others pay for a pointer. A copy has a copy of it.
+template <class T>
+class Lazy
+{
+public:
+    Lazy() noexcept = default;
+    ~Lazy() = default;
+    Lazy(const Lazy& other)
+        : m_made(other.m_made == nullptr ? nullptr : std::make_unique<T>(*other.m_made))
+    {
+    }
+    Lazy(Lazy&&) noexcept = default;
+    Lazy& operator=(const Lazy&) = delete;
+
+    // Null before make() was called.
+    [[nodiscard]] const T* get() const noexcept { return m_made.get(); }
+
+    // Throws what making it throws, changing nothing.
+    T& make()
+    {
+        if (m_made == nullptr)
+        {
+            m_made = std::make_unique<T>();
+        }
+        return *m_made;
+    }
+
+private:
+    std::unique_ptr<T> m_made;
+};
+
+} // namespace kexa_3_3
