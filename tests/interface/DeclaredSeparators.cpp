@@ -1,4 +1,4 @@
-// The character at which one argument is cut into several values.
+// The character that separates several values in one argument.
 #include <string>
 #include <vector>
 
