@@ -202,6 +202,8 @@ TEST(LastValueOfAHostsResult, ExceptionOfAHostsOwnResultIsCaught)
             Value value;
             EXPECT_NO_THROW(value = getLastValue(&result, L"name", 0, no_position));
             SCOPED_TRACE(std::to_string(failingCall) + (standard ? ", standard" : ", other"));
+            EXPECT_EQ(value.status,
+                      standard ? result_standard_exception : result_unknown_exception);
             expectNothing(value);
         }
     }
