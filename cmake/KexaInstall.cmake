@@ -5,8 +5,8 @@ install(TARGETS kexa EXPORT kexaTargets
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
     ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 if(MINGW AND NOT KEXA_STATIC_RUNTIME)
-    # Interfaces and exceptions cross between host and library, so both share one C++ runtime: it
-    # comes along, and the folder of kexa.dll runs anywhere.
+    # Objects and exceptions pass between host and library, so both must share one C++ runtime. It is
+    # installed beside kexa.dll, so that programs in that folder run on a system without MinGW.
     install(FILES ${KEXA_RUNTIME_DLLS} DESTINATION "${CMAKE_INSTALL_BINDIR}")
 endif()
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/kexa" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")

@@ -1,5 +1,5 @@
-# What every target of this project is compiled with. The settings are private to our own targets:
-# a consumer of the library sees none of them.
+# Compiler settings for all targets of this project. They are private to these targets and are not
+# passed on to consumers of the library.
 add_library(kexa_build_settings INTERFACE)
 target_compile_features(kexa_build_settings INTERFACE cxx_std_20)
 
@@ -17,11 +17,11 @@ else()
         target_compile_options(kexa_build_settings INTERFACE
             -Wduplicated-cond -Wlogical-op -Wuseless-cast)
         if(CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-            # GCC 12 sees copies overlap and run over in every concatenation of strings.
+            # GCC 12 warns wrongly of overlapping copies and overflows where strings are concatenated.
             target_compile_options(kexa_build_settings INTERFACE
                 -Wno-restrict -Wno-stringop-overflow -Wno-stringop-overread -Wno-array-bounds)
             if(CMAKE_CXX_FLAGS MATCHES "_FORTIFY_SOURCE")
-                # So do the fortified functions of the C library, which warn by an attribute.
+                # The fortified functions of the C library give these wrong warnings by an attribute.
                 target_compile_options(kexa_build_settings INTERFACE -Wno-attribute-warning)
             endif()
         endif()
@@ -31,7 +31,7 @@ else()
     endif()
 endif()
 
-# Settings for a target of this project: the common ones, no compiler extensions.
+# Gives a target of this project the common settings, without compiler extensions.
 function(kexa_configure_target target)
     target_link_libraries(${target} PRIVATE kexa_build_settings)
     set_target_properties(${target} PROPERTIES

@@ -1,21 +1,21 @@
-# What only Windows needs: where programs find the DLLs, the C++ runtime of MinGW, version
-# resources, and running the tests of a cross build.
+# Settings for Windows: the folder of programs and DLLs, the C++ runtime of MinGW, version resources,
+# and running the tests of a cross build.
 enable_language(RC)
 
-# A Windows program looks for its DLLs in its own folder first: everything is built into one, so
-# that tests and examples start from the build tree as they would from an installed folder.
+# Windows searches the DLLs of a program in the program's own folder first. Everything is built into one
+# folder, so that tests and examples run from the build tree.
 if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_RUNTIME_OUTPUT_DIRECTORY)
     set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
 endif()
 
-# The DLLs of MinGW's C++ runtime, as kexa.dll needs them: KEXA_RUNTIME_DLLS, full paths. Empty with
-# MSVC, whose runtime is installed by its own package.
+# KEXA_RUNTIME_DLLS: the full paths of the DLLs of MinGW's C++ runtime that kexa.dll imports. Empty with
+# MSVC, whose runtime has an installer of its own.
 set(KEXA_RUNTIME_DLLS "")
 if(MINGW)
     cmake_path(GET CMAKE_CXX_COMPILER PARENT_PATH compiler_folder)
     foreach(dll IN ITEMS libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
-        # A cross compiler answers a path; a native one keeps its DLLs beside itself and answers
-        # the name alone.
+        # A cross compiler prints a path. A native compiler prints only the name; its DLLs are in the
+        # folder of the compiler.
         execute_process(COMMAND "${CMAKE_CXX_COMPILER}" -print-file-name=${dll}
             OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
         if(NOT IS_ABSOLUTE "${path}")
@@ -32,8 +32,8 @@ if(MINGW)
     endif()
 endif()
 
-# Links the C++ runtime into a DLL, which then needs nothing beyond what Windows itself has. With
-# MSVC the choice is made when compiling, for all of the project alike.
+# Links the C++ runtime into a DLL, which then imports only DLLs of Windows. With MSVC the runtime is
+# chosen when compiling, for the whole project.
 function(kexa_link_static_runtime target)
     if(MINGW)
         target_link_options(${target} PRIVATE -static)
@@ -43,7 +43,7 @@ if(MSVC AND KEXA_STATIC_RUNTIME)
     set(CMAKE_MSVC_RUNTIME_LIBRARY "MultiThreaded$<$<CONFIG:Debug>:Debug>")
 endif()
 
-# Gives a DLL the version resource made from a template.
+# Adds the version resource that a template describes to a DLL.
 function(kexa_add_version_resource target template)
     set(resource "${CMAKE_CURRENT_BINARY_DIR}/${target}.rc")
     configure_file("${template}" "${resource}" @ONLY)
@@ -56,8 +56,8 @@ if(CMAKE_CROSSCOMPILING AND CMAKE_HOST_UNIX AND NOT CMAKE_CROSSCOMPILING_EMULATO
     set(CMAKE_CROSSCOMPILING_EMULATOR ${KEXA_WINE})
 endif()
 
-# The Wine server lives from the first test to the last: the tests wine_start and wine_stop, which
-# CTest puts around those that need them. Called once.
+# Adds the tests wine_start and wine_stop. CTest runs them before and after all tests that require the
+# fixture "wine", so one Wine server runs for all of them. Called once.
 function(kexa_add_wine_session)
     add_test(NAME wine_start COMMAND ${KEXA_WINE} --start)
     add_test(NAME wine_stop COMMAND ${KEXA_WINE} --stop)
@@ -65,7 +65,8 @@ function(kexa_add_wine_session)
     set_tests_properties(wine_stop PROPERTIES FIXTURES_CLEANUP wine)
 endfunction()
 
-# Puts all other tests of the current folder into that session, once its file is read.
+# Makes all tests of the current folder require the fixture "wine". Takes effect after the folder's
+# CMakeLists.txt has been read, so that tests added below the call are included.
 function(kexa_test_folder_needs_wine)
     cmake_language(DEFER GET_CALL_IDS calls)
     if(NOT "wine" IN_LIST calls)

@@ -3,12 +3,12 @@ set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 
 set(triple x86_64-w64-mingw32)
-# The flavour with POSIX threads is the one whose <atomic>, <mutex> and <thread> are complete.
+# The compiler with POSIX threads is preferred: its <mutex> and <thread> are complete.
 find_program(CMAKE_CXX_COMPILER NAMES ${triple}-g++-posix ${triple}-g++ REQUIRED)
 find_program(CMAKE_C_COMPILER NAMES ${triple}-gcc-posix ${triple}-gcc REQUIRED)
 find_program(CMAKE_RC_COMPILER NAMES ${triple}-windres REQUIRED)
 
-# Behind the folders that were given with -DCMAKE_FIND_ROOT_PATH=...
+# Appended, so that the folders given with -DCMAKE_FIND_ROOT_PATH=... are searched first.
 list(APPEND CMAKE_FIND_ROOT_PATH "/usr/${triple}")
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)

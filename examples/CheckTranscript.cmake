@@ -1,18 +1,18 @@
-# Runs the command lines of a transcript and compares everything that they write with it.
+# Runs the command lines of a transcript and compares their output with it.
 #
 # A line that begins with "$ " is a command line, quoted as for a shell: its first word is either
-# NAME, which stands for PROGRAM, or "cmake" (as in "cmake -E cat file"). Behind it stands what it
-# writes to standard output; then, where it writes to standard error, the line
-# "-- standard error:" and that text; then the line "-- exit code: N". Texts are taken as they are,
-# so a text that does not end its last line shows. Lines of the transcript that begin with "#" and
-# stand in front of the first command line are comments.
+# NAME, which stands for PROGRAM, or "cmake" (as in "cmake -E cat file"). It is followed by its
+# standard output; if it writes to standard error, by the line "-- standard error:" and that text;
+# and by the line "-- exit code: N". Output without a line feed at its end is not completed, so the
+# next line follows it directly. Lines before the first command line that begin with "#" are
+# comments.
 #
 # PROGRAM     the program
 # NAME        its name in the transcript
 # TRANSCRIPT  the expected transcript
-# FOLDER      where the commands run; made anew
-# SETUP       a CMake script that fills the folder first, or a folder to copy from (optional)
-# EMULATOR    what runs a program of another system (optional)
+# FOLDER      where the commands run; removed and created first
+# SETUP       a CMake script that fills the folder, or a folder to copy from (optional)
+# EMULATOR    the command that runs a program of another system (optional)
 
 function(run_command command_line folder result)
     separate_arguments(words UNIX_COMMAND "${command_line}")
@@ -24,7 +24,7 @@ function(run_command command_line folder result)
     else()
         message(FATAL_ERROR "${TRANSCRIPT}: '${command}' is not '${NAME}'")
     endif()
-    # Captured in files: a variable would lose carriage returns.
+    # Captured in files, because a variable loses carriage returns.
     execute_process(COMMAND ${command} ${words}
         WORKING_DIRECTORY "${folder}"
         OUTPUT_FILE "${FOLDER}/output.txt" ERROR_FILE "${FOLDER}/error.txt"
@@ -37,7 +37,8 @@ function(run_command command_line folder result)
     set(${result} "${output}${error}-- exit code: ${exit_code}\n" PARENT_SCOPE)
 endfunction()
 
-# file(READ) drops carriage returns at line ends. Only a Windows program may write them.
+# Only a Windows program may write carriage returns. file(READ) drops them at line ends, so they are
+# searched for in the bytes.
 function(read_text file result)
     file(READ "${file}" text)
     file(READ "${file}" bytes HEX)
@@ -47,7 +48,7 @@ function(read_text file result)
     set(${result} "${text}" PARENT_SCOPE)
 endfunction()
 
-# Cuts the first line, its end included, off the text named by `text`.
+# Removes the first line, with its line feed, from the variable named `text`.
 macro(take_line text line)
     string(FIND "${${text}}" "\n" end)
     if(end LESS 0)

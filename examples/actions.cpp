@@ -1,5 +1,6 @@
-// Switches as actions: the command line of a small note keeper. It names one action, or several
-// that go together; an option with keywords is accepted only by the actions that share one.
+// Switches as actions: the command line of a program for notes. It contains one action, or several
+// that are declared as compatible. An option with keywords is accepted only by actions that share a
+// keyword.
 #include "common/Arguments.h"
 #include "common/Host.h"
 

@@ -1,6 +1,6 @@
 // The smallest host: declare one option, parse, read its value or print the message.
 //
-// Everything is spelt out here; the other examples keep the ownership in common/Host.h.
+// It uses only the library. The other examples use common/Host.h for ownership.
 #include <kexa/kexa.h>
 
 #include "common/Arguments.h"
@@ -14,7 +14,7 @@ void declareOptions(IParser& parser)
 {
     IOption& name = *parser.addOption(L"name,n", L"Whom to greet", value_type_string, L"").option;
     name.setDefaultValue(vexkit2::variant_t(L"World"));
-    name.setSeparator(0); // a name may hold a comma
+    name.setSeparator(0); // a name may contain a comma
 }
 
 int greet(IParser& parser, IParseResult& result, int argc, const wchar_t* const* argv)

@@ -1,5 +1,5 @@
-// Event handlers: one refuses values that the option's type allows, another takes arguments that no
-// option knows.
+// Event handlers: one refuses values that are valid for the type of the option, another takes
+// arguments that no option has.
 #include <vector>
 
 #include "common/Arguments.h"
@@ -20,7 +20,7 @@ public:
     }
 };
 
-// Takes "+topic" arguments. Answering false says: not unknown, it is mine.
+// Takes "+topic" arguments. Returning false means that the argument is not unknown.
 class TopicArguments final : public EventHandler
 {
 public:
@@ -45,7 +45,7 @@ int run(int argc, const wchar_t* const* argv)
     TopicArguments arguments;
     const example::ParserPointer parser = example::makeParser(flag_unknown_is_error);
     parser->addOption(L"port,p", L"Ports to listen on", value_type_unsigned, L"");
-    parser->addEventHandler(&ports); // the host keeps owning them
+    parser->addEventHandler(&ports); // the host still owns them
     parser->addEventHandler(&arguments);
 
     const example::ResultPointer result = example::makeResult(*parser);
@@ -53,7 +53,7 @@ int run(int argc, const wchar_t* const* argv)
     if (code != result_success)
     {
         example::printError(std::wstring(parser->getErrorMessage()) + L"\n");
-        return code; // 1 where a handler refused
+        return code; // 1 if a handler refused a value
     }
     for (const Value& port : example::valuesOf(*result, L"port"))
     {

@@ -1,5 +1,5 @@
-// Help made from the declarations: the list of topics, one topic, the options related to it, all
-// options, and the hidden ones; and a paragraph of one's own, wrapped the same way.
+// Help texts from the declarations: the list of topics, one topic, its related options, all
+// options, and the hidden ones. Also wraps a paragraph of the host.
 #include "common/Arguments.h"
 #include "common/Host.h"
 
@@ -51,7 +51,7 @@ void explain(IParser& parser, IParseResult& result)
     const bool full = example::isPresent(result, L"full");
     example::print(full      ? parser.showFullHelp(hidden)
                    : related ? parser.showRelatedHelp(related, hidden)
-                             : parser.showTopicHelp(topic, hidden)); // null: the list of topics
+                             : parser.showTopicHelp(topic, hidden)); // for null: the list of topics
 }
 
 } // namespace

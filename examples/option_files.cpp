@@ -1,5 +1,5 @@
-// Option files: "-option-file=NAME" splices the arguments that the file holds, one in each line,
-// behind those of the command line. The last value wins, so a file overrides.
+// Option files: "-option-file=NAME" adds the arguments in the file, one per line, after those of
+// the command line. This program uses the last value, so a file overrides the command line.
 #include "common/Arguments.h"
 #include "common/Host.h"
 
@@ -17,7 +17,7 @@ int run(int argc, const wchar_t* const* argv)
     if (code != result_success)
     {
         example::printError(std::wstring(parser->getErrorMessage()) + L"\n");
-        return code; // 6 where a file could not be read, 2 where an argument is wrong
+        return code; // 6 if a file could not be read, 2 if an argument is wrong
     }
     for (const wchar_t* option : {L"level", L"tag", L"option-file"})
     {

@@ -1,5 +1,5 @@
-// Positional arguments and what is left over: a runner that takes programs as plain arguments, and
-// behind "--" the options that it passes on to them unread.
+// Positional and left-over arguments: a program that runs others. Plain arguments are the programs,
+// and the arguments after "--" are passed to them unread.
 #include "common/Arguments.h"
 #include "common/Host.h"
 
@@ -12,17 +12,21 @@ void declareOptions(IParser& parser)
 {
     parser.addOption(L"times,t", L"How often", value_type_unsigned, L"")
         .option->setDefaultValue(vexkit2::variant_t(1U));
-    // Marked: plain arguments go to this option, and the help leaves it out.
+    // A marked option takes the plain arguments and is not shown in the help.
     parser.addOption(L"program", L"What to run", value_type_string, L"")
         .option->setMarked()
-        .setSeparator(0); // a comma belongs to the name
+        .setSeparator(0); // a name may contain a comma
 }
 
 void printRequest(IParseResult& result)
 {
     for (const Value& program : example::valuesOf(result, L"program"))
     {
-        example::print(std::wstring(L"program ") + program.as<const wchar_t*>() + L"\n");
+        const wchar_t* text = program.as<const wchar_t*>(); // null for an empty argument
+        if (text != nullptr)
+        {
+            example::print(std::wstring(L"program ") + text + L"\n");
+        }
     }
     const wchar_t* argument = nullptr;
     for (auto code = result.getFirstUnparsed(&argument); code == result_success;
@@ -38,8 +42,8 @@ void printRequest(IParseResult& result)
 
 int run(int argc, const wchar_t* const* argv)
 {
-    // An argument that begins with "-" is an option or an error, never a program. Behind "--" it is
-    // left over; with flag_any_positional_after_marker it would be a program there.
+    // An argument that begins with "-" is an option or an error, but never a program. After "--" it
+    // is a left-over argument; with flag_any_positional_after_marker it would be a program there.
     const example::ParserPointer parser =
         example::makeParser(flag_unknown_is_error | flag_no_hyphen_positional);
     declareOptions(*parser);

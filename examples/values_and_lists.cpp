@@ -1,5 +1,5 @@
-// Typed values, lists of values, allowed and deprecated ones: the command line of a photo
-// converter, which prints what it was asked to do.
+// Typed values, lists of values, allowed and deprecated values: the command line of a photo
+// converter, which prints the parsed settings.
 #include "common/Arguments.h"
 #include "common/Host.h"
 
@@ -31,7 +31,7 @@ void printValues(IParseResult& result)
 {
     for (const Value& width : example::valuesOf(result, L"width"))
     {
-        // The position numbers all values of the command line, so lists can be put in order.
+        // Positions number the values of all options, so they give the order of different lists.
         example::print(L"width " + std::to_wstring(width.as<vexkit2::u32_t>()) + L" at position " +
                        std::to_wstring(width.position) + L"\n");
     }

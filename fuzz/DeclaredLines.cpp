@@ -11,7 +11,8 @@ namespace fuzzing
 namespace
 {
 
-// Enough to bring out everything that several of them do to each other.
+// Limits that keep a run short. They are large enough for options and arguments to affect each
+// other.
 constexpr std::size_t most_options = 10;
 constexpr std::size_t most_steps = 16;
 constexpr std::size_t most_arguments = 12;

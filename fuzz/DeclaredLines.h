@@ -1,4 +1,4 @@
-// Declarations written as lines, so that seeds can be read and written by people.
+// A format for declarations, one per line, so that seeds can be read and written by hand.
 #ifndef KEXA_FUZZ_DECLARED_LINES_H
 #define KEXA_FUZZ_DECLARED_LINES_H
 
@@ -11,20 +11,22 @@
 namespace fuzzing
 {
 
-// The first character of a line says what it is:
+// The meaning of a line depends on its first character:
 //
-//   F      creation flags: the character behind it, counted from '0', times two
+//   F      creation flags: twice the distance of the next character from '0'
 //   O K S  addOption, addOptionWithKeywords, addSwitch: a character for the value type, the names,
-//          and for K the keywords behind '|'
-//   N A D V P M W   steps on the last declaration: a name, an allowed value, a deprecated value and
-//          its replacement behind '|', a default value, a separator, marked, keywords
-//   C      actions that are compatible, separated by ','
-//   H      a handler: the value that it refuses, and behind '|' the argument that it takes
-//   .      the lines behind it are the arguments
+//          and for K also '|' and the keywords
+//   N A D V P M W
+//          calls on the last declaration: a name, an allowed value, a deprecated value with '|' and
+//          its replacement, a default value, a separator, marked, keywords
+//   C      compatible actions, separated by ','
+//   H      a handler: the value that it refuses, '|' and the argument that it takes
+//   .      ends the declarations; all further lines are arguments
 //
-// Value types are b i u l x d s n, anything else is taken as a number. A value begins with a
-// character for its kind: s n (wide and narrow text), i l u (integers), d (a double), b (a
-// boolean), o (a blob), anything else is null.
+// Value types are b i u l x d s n (see valueTypeOf()); the code of any other character is used as
+// the value type. A value begins with a character for its kind: s n (wide and narrow text), i l u
+// (signed 32-bit, signed 64-bit and unsigned 64-bit integers), d (a double), b (a boolean), o (a
+// blob). Any other character makes a null value.
 struct DeclaredLines
 {
     naive::Declarations declarations;

@@ -36,7 +36,7 @@ void require(bool condition, const char* rule)
 {
     if (!condition)
     {
-        std::fprintf(stderr, "Not so: %s\n", rule);
+        std::fprintf(stderr, "Rule broken: %s\n", rule);
         std::abort();
     }
 }

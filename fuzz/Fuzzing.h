@@ -1,4 +1,4 @@
-// What the fuzz targets share: reading their inputs, and saying what is wrong.
+// Shared by the fuzz targets: reading inputs and reporting failures.
 #ifndef KEXA_FUZZ_FUZZING_H
 #define KEXA_FUZZ_FUZZING_H
 
@@ -7,22 +7,23 @@
 #include <string>
 #include <vector>
 
-// Every target defines this one function; libFuzzer or the replaying main calls it.
+// Defined by every target; called by libFuzzer or by Replay.cpp.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 namespace fuzzing
 {
 
-// Ends the program unless the condition holds, telling what should have been.
+// Aborts with a message that contains the rule unless the condition is true.
 void require(bool condition, const char* rule);
 
-// As require, of two texts, which are shown where they differ.
+// Aborts with a message that contains both texts and the rule unless the texts are equal.
 void requireEqual(const std::wstring& actual, const std::wstring& expected, const char* rule);
 
-// The lines of an input as wide texts; a line ends at each line feed and holds no zero character.
+// Splits an input at its line feeds and decodes it to wide text. Zero bytes become '?'.
 std::vector<std::wstring> linesOf(const std::uint8_t* data, std::size_t size);
 
-// The part of a text up to a separator, which is removed from the text together with it.
+// Returns the part of a text before the separator, and removes both from the text. Takes the whole
+// text if it has no separator.
 std::wstring takeUpTo(std::wstring& text, wchar_t separator);
 
 } // namespace fuzzing

@@ -1,4 +1,4 @@
-// Feeds files to a fuzz target, so that inputs found once are tried by every test run.
+// Runs a fuzz target with the inputs in files, so that every test run replays the corpus.
 //
 // replay_TARGET FILE_OR_FOLDER ...
 #include <cstdio>
@@ -20,7 +20,7 @@ void replay(const std::filesystem::path& path)
     std::ifstream file(path, std::ios::binary);
     const std::string bytes(std::istreambuf_iterator<char>(file), {});
     fuzzing::require(file.good() || file.eof(), "the input can be read");
-    // Printed first: where the target ends the program, the last line names the input.
+    // Printed before the call: if the target aborts, the last line of the output names the input.
     std::printf("%s\n", path.filename().string().c_str());
     std::fflush(stdout);
     LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());

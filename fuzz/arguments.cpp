@@ -1,18 +1,19 @@
-// Declarations and arguments, against the naive implementation and against each other.
+// Fuzzes declarations and arguments: compares the library with the naive implementation, and unique
+// abbreviations with the full texts.
 #include "DeclaredLines.h"
 #include "Fuzzing.h"
 #include "LibraryParser.h"
 #include "NaiveConversion.h"
 
 using naive::Comparison;
-using naive::NameAnswers;
 using naive::Outcome;
 using naive::ParseCall;
+using naive::QueriedName;
 
 namespace
 {
 
-// Parses with both, and looks at what can be told of any parse.
+// Parses with both and requires equal outcomes, and what must be true for every parse.
 void checkAgreement(Comparison& comparison, const ParseCall& call)
 {
     const bool agreed = comparison.agree(call);
@@ -25,18 +26,18 @@ void checkAgreement(Comparison& comparison, const ParseCall& call)
     if (!agreed)
     {
         fuzzing::requireEqual(naive::describe(actual), naive::describe(comparison.expected()),
-                              "the library answers as the naive implementation does");
+                              "the library and the naive implementation have equal outcomes");
     }
 }
 
-// getLastValue answers the last value that the walk gives.
+// Requires that getLastValue() returns the last value of the walk.
 void checkLastValues(const Outcome& outcome)
 {
-    for (const NameAnswers& name : outcome.names)
+    for (const QueriedName& name : outcome.names)
     {
-        naive::ValueAnswer last;
+        naive::QueriedValue last;
         last.code = 1;
-        for (const naive::ValueAnswer& value : name.values)
+        for (const naive::QueriedValue& value : name.values)
         {
             if (value.code == 0)
             {
@@ -44,11 +45,11 @@ void checkLastValues(const Outcome& outcome)
             }
             else if (&value != &name.values.front())
             {
-                break; // a refusal ends the walk, except at its very beginning
+                break; // a failure ends the walk, unless it is the one of getFirstValue()
             }
         }
         fuzzing::require(last.code == name.last.code && (last.code != 0 || last == name.last),
-                         "getLastValue gives the last value of the walk");
+                         "getLastValue returns the last value of the walk");
     }
 }
 
@@ -57,7 +58,7 @@ bool begins(const std::wstring& text, const std::wstring& beginning)
     return text.compare(0, beginning.size(), beginning) == 0;
 }
 
-// Everything that an option can be called: its names and, of a boolean one, their negations.
+// Returns all names of all options, and the "no-" forms of those of boolean options.
 std::vector<std::wstring> candidatesOf(const naive::Registry& registry)
 {
     std::vector<std::wstring> candidates;
@@ -75,14 +76,15 @@ std::vector<std::wstring> candidatesOf(const naive::Registry& registry)
     return candidates;
 }
 
-// What a parse found, without the positions and the messages that quote the argument.
+// Formats the outcome without positions, which differ in each parse, and without messages, which
+// quote the argument.
 std::wstring contentsOf(const Outcome& outcome)
 {
     std::wstring contents = std::to_wstring(outcome.code) + L'\n';
-    for (const NameAnswers& name : outcome.names)
+    for (const QueriedName& name : outcome.names)
     {
         contents += name.name;
-        for (const naive::ValueAnswer& value : name.values)
+        for (const naive::QueriedValue& value : name.values)
         {
             contents += L" '" + value.text + L"'";
         }
@@ -95,7 +97,7 @@ std::wstring contentsOf(const Outcome& outcome)
     return contents;
 }
 
-// Whether an argument can spell the text out behind its hyphens.
+// Returns whether the text can be written behind the hyphens of an argument.
 bool isPlain(const std::wstring& name)
 {
     for (const wchar_t character : name)
@@ -127,10 +129,10 @@ void checkSame(Comparison& comparison, const std::wstring& abbreviated, const st
     call.arguments = {full};
     checkAgreement(comparison, call);
     fuzzing::requireEqual(contents, contentsOf(comparison.actual()),
-                          "a unique abbreviation gives what the full text gives");
+                          "a unique abbreviation has the outcome of the full text");
 }
 
-// Where exactly one candidate begins with a typed name, the result is that of the full name.
+// Requires that each unique abbreviation of a name has the outcome of the full name.
 void checkNames(Comparison& comparison, const naive::Registry& registry, const std::wstring& value)
 {
     const std::vector<std::wstring> candidates = candidatesOf(registry);
@@ -147,8 +149,8 @@ void checkNames(Comparison& comparison, const naive::Registry& registry, const s
     }
 }
 
-// The same for the values that an option of texts allows or replaces; it replaces none where it
-// allows everything.
+// Requires that each unique abbreviation of an allowed or deprecated value has the outcome of the
+// full value. Without allowed values deprecated ones are not replaced.
 void checkValues(Comparison& comparison, const naive::Option& option)
 {
     if (option.allowedValues.empty())
@@ -186,10 +188,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Comparison comparison(declared.declarations, declared.flags, declared.handlers);
     ParseCall call;
     call.arguments = declared.arguments;
-    call.questions = naive::Questions::severalRanges;
+    call.ranges = naive::QueryRanges::severalRanges;
     checkAgreement(comparison, call);
     checkLastValues(comparison.actual());
-    call.questions = naive::Questions::wholeRange;
+    call.ranges = naive::QueryRanges::wholeRange;
     call.asCommandLine = true;
     checkAgreement(comparison, call);
     checkLastValues(comparison.actual());
@@ -198,7 +200,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     checkAgreement(comparison, call);
 
     const naive::Registry registry(declared.declarations, declared.flags);
-    // Many parses: not for every input.
+    // The checks of abbreviations parse many times, so each runs for a quarter of the inputs.
     if (size % 4 == 0)
     {
         checkNames(comparison, registry, L"");

@@ -1,7 +1,8 @@
-// Help texts of any declarations.
+// Fuzzes declarations: checks the help texts.
 //
-// Lines are those of DeclaredLines, except that behind the names of O, K and S stand the group text
-// and the description, each behind ';' ("\" in a description stands for a line feed).
+// Inputs have the format of DeclaredLines, except that the names in O, K and S lines are followed
+// by the group text and the description, each after ';'. In a description "\" stands for a line
+// feed.
 #include <algorithm>
 #include <map>
 #include <memory>
@@ -129,7 +130,7 @@ bool holds(const std::wstring& text, const std::wstring& part)
     return text.find(part) != std::wstring::npos;
 }
 
-// The characters of the description in their order, blanks and line ends aside.
+// Requires all characters of the description in their order, except blanks and line feeds.
 void checkDescription(const std::wstring& help, const std::wstring& description)
 {
     std::size_t position = 0;
@@ -145,7 +146,7 @@ void checkDescription(const std::wstring& help, const std::wstring& description)
     }
 }
 
-// The lines behind the first of a description.
+// Requires that the wrapped lines of descriptions (all but the first line of each) keep the width.
 void checkWidth(std::wstring help)
 {
     while (!help.empty())
@@ -168,16 +169,16 @@ void checkOption(IParser& parser, const Declared& option)
         checkDescription(help, option.description);
         if (option.group.compare(0, 1, L" ") != 0)
         {
-            checkWidth(help); // a group's name may look like the lines of a description
+            checkWidth(help); // otherwise the group looks like a wrapped line
         }
         fuzzing::require(option.isSwitch || option.keywords || holds(full, L"-" + option.name),
                          "the full help names options without keywords");
     }
     fuzzing::require(parser.hasOption(option.name.c_str(), option.isSwitch, nullptr),
-                     "what is declared is there");
+                     "hasOption finds what is declared");
 }
 
-// One line for each switch, by name, the descriptions in one column.
+// Requires one line for each switch, sorted by name, with the descriptions in one column.
 void checkTopics(IParser& parser, const std::vector<Declared>& declared)
 {
     for (const bool hidden : {false, true})
@@ -199,7 +200,7 @@ void checkTopics(IParser& parser, const std::vector<Declared>& declared)
                 L"    " + name + std::wstring(width - name.size(), L' ') + description + L'\n';
         }
         fuzzing::requireEqual(parser.getTopicList(hidden), expected,
-                              "the topic list is that of the switches");
+                              "the topic list contains the switches");
     }
 }
 
@@ -209,7 +210,7 @@ void checkUnknown(IParser& parser, const std::wstring& topic)
     {
         const std::wstring topics = parser.getTopicList(hidden);
         fuzzing::requireEqual(parser.showTopicHelp(nullptr, hidden), topics,
-                              "no topic gives the list of topics");
+                              "the help of a null topic is the topic list");
         if (parser.hasOption(topic.c_str(), true, nullptr) ||
             parser.hasOption(topic.c_str(), false, nullptr))
         {
@@ -219,9 +220,10 @@ void checkUnknown(IParser& parser, const std::wstring& topic)
                                       L" not available.Please use one of the following topics:\n" +
                                       topics;
         fuzzing::requireEqual(parser.showTopicHelp(topic.c_str(), hidden), expected,
-                              "an unknown topic is said to be unknown");
-        fuzzing::requireEqual(parser.showRelatedHelp(topic.c_str(), hidden), expected,
-                              "by related help too");
+                              "the help of an unknown topic is a message with the topic list");
+        fuzzing::requireEqual(
+            parser.showRelatedHelp(topic.c_str(), hidden), expected,
+            "the related help of an unknown topic is a message with the topic list");
     }
 }
 
@@ -231,7 +233,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     IParser* made = nullptr;
     fuzzing::require(createParser(&made, 0) == result_success && made != nullptr,
-                     "there is a parser");
+                     "a parser is created");
     const ParserOwner parser(made);
     Declarations declarations(*parser);
     std::wstring topic = L"?";
@@ -245,10 +247,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const Declared& option : declarations.all())
     {
         checkOption(*parser, option);
-        // Asked twice, nothing changes.
+        // Creating a help text must not change the next one.
         const std::wstring related = parser->showRelatedHelp(option.name.c_str(), false);
         fuzzing::requireEqual(parser->showRelatedHelp(option.name.c_str(), false), related,
-                              "help depends on the declarations alone");
+                              "the second related help is equal to the first");
     }
     return 0;
 }

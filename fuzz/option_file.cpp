@@ -1,5 +1,5 @@
-// Option files with any bytes: every line that is neither blank nor a comment is one argument, and
-// the file parses as the same lines given as a text.
+// Fuzzes the bytes of an option file: every line that is neither blank nor a comment is one
+// argument, and parsing the file has the outcome of parsing its text with parseCommandLine().
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -29,7 +29,7 @@ struct Release
 using ParserOwner = std::unique_ptr<IParser, Release>;
 using ResultOwner = std::unique_ptr<IParseResult, Release>;
 
-// The one file that all inputs are written to, in a folder of this process.
+// The file that every input is written to, in a temporary folder of this process.
 class InputFile
 {
 public:
@@ -61,7 +61,7 @@ ParserOwner makeParser()
     IParser* parser = nullptr;
     fuzzing::require(createParser(&parser, flag_no_hyphen_positional) == result_success &&
                          parser != nullptr,
-                     "there is a parser");
+                     "a parser is created");
     parser->addOption(L"option-other,o", L"", value_type_integer, L"");
     parser->addOption(L"text,t", L"", value_type_string, L"");
     parser->addOption(L"flag,f", L"", value_type_none, L"");
@@ -74,7 +74,7 @@ ResultOwner makeResult(IParser& parser)
 {
     IParseResult* result = nullptr;
     fuzzing::require(parser.createParseResult(&result) == result_success && result != nullptr,
-                     "there is a result");
+                     "a result is created");
     return ResultOwner(result);
 }
 
@@ -97,24 +97,26 @@ result_t parseFile(IParser& parser, const InputFile& file, IParseResult& result)
     return parser.parse(2, arguments, &result);
 }
 
-// With a parser that takes nothing behind the marker, the left-over arguments are the lines.
+// Requires that each line becomes one argument. The file begins with "--", so that all lines after
+// it are left-over arguments.
 void checkLines(const InputFile& file, const std::string& bytes, const std::wstring& text)
 {
     IParser* made = nullptr;
-    fuzzing::require(createParser(&made, 0) == result_success && made != nullptr, "a parser");
+    fuzzing::require(createParser(&made, 0) == result_success && made != nullptr,
+                     "a parser is created");
     const ParserOwner parser(made);
     parser->enableOptionFiles(L"", L"");
     file.write("--\n" + bytes);
     const ResultOwner result = makeResult(*parser);
     fuzzing::require(parseFile(*parser, file, *result) == result_success,
-                     "what follows the marker is no error");
+                     "arguments after the marker cause no error");
     const std::vector<std::wstring> actual = leftOver(*result);
     const std::vector<std::wstring> expected = naive::splitLines(text);
     fuzzing::require(actual.size() == expected.size(),
                      "every line that is neither blank nor a comment is one argument");
     for (std::size_t index = 0; index < actual.size(); ++index)
     {
-        // A text handed out ends at its first zero character.
+        // Returned texts are null-terminated, so a line with a zero character ends there.
         fuzzing::requireEqual(actual[index], expected[index].c_str(), "the line is the argument");
     }
 }
@@ -158,16 +160,20 @@ void checkParse(const InputFile& file, const std::string& bytes, const std::wstr
     fuzzing::require(code == result_success || !message.empty(), "a failed parse has a message");
     if (text.find(L'\0') != std::wstring::npos || text.find(L"option-file") != std::wstring::npos)
     {
-        return; // no text can be given that holds zeros; files that name files are told apart
+        // A null-terminated text cannot contain zeros. An option file that names itself is read
+        // once, while its text can still name the file.
+        return;
     }
     const ResultOwner ofText = makeResult(*parser);
     const result_t textCode = parser->parseCommandLine(text.c_str(), ofText.get());
-    fuzzing::require(code == textCode, "a file parses as its text does");
+    fuzzing::require(code == textCode, "the file and its text have equal codes");
     if (code != result_success)
     {
-        fuzzing::requireEqual(parser->getErrorMessage(), message, "and fails with its message");
+        fuzzing::requireEqual(parser->getErrorMessage(), message,
+                              "the file and its text have equal messages");
     }
-    fuzzing::requireEqual(contentsOf(*ofFile), contentsOf(*ofText), "and fills a result alike");
+    fuzzing::requireEqual(contentsOf(*ofFile), contentsOf(*ofText),
+                          "the file and its text have equal results");
 }
 
 } // namespace

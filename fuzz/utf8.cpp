@@ -1,4 +1,4 @@
-// UTF-8 to wide text and back, against the definition of well-formed sequences.
+// Fuzzes the conversion of UTF-8 to wide text and back: compares it with the reference decoder.
 #include "support/Utf8.h"
 
 #include <cstring>
@@ -15,36 +15,38 @@ bool isCharacter(std::uint32_t code)
     return code <= 0x10FFFF && (code < 0xD800 || code > 0xDFFF);
 }
 
-// Whatever the bytes: what comes out is the text by definition, which survives the way back.
+// Decodes the bytes as UTF-8. The decoded text must survive a round trip.
 void checkDecoding(const std::string& bytes)
 {
     const std::wstring text = kexa_3_3::wideFromUtf8(bytes);
-    fuzzing::requireEqual(text, naive::decodeUtf8(bytes), "bytes decode by the definition");
+    fuzzing::requireEqual(text, naive::decodeUtf8(bytes),
+                          "bytes are decoded as by the reference decoder");
     const std::string again = kexa_3_3::utf8FromWide(text);
-    fuzzing::requireEqual(kexa_3_3::wideFromUtf8(again), text, "a decoded text survives");
+    fuzzing::requireEqual(kexa_3_3::wideFromUtf8(again), text,
+                          "a decoded text survives the round trip");
     if (text.find(kexa_3_3::replacement_character) == std::wstring::npos)
     {
-        fuzzing::require(again == bytes, "well-formed bytes come back as they were");
+        fuzzing::require(again == bytes, "well-formed bytes survive the round trip");
     }
 }
 
-// The bytes taken as wide characters, mostly impossible ones.
+// Encodes the bytes as wide characters, most of which are no code points.
 void checkEncoding(const std::string& bytes)
 {
     std::wstring units(bytes.size() / sizeof(wchar_t), L'\0');
     std::memcpy(units.data(), bytes.data(), units.size() * sizeof(wchar_t));
     const std::string encoded = kexa_3_3::utf8FromWide(units);
     const std::wstring decoded = naive::decodeUtf8(encoded);
-    fuzzing::require(kexa_3_3::utf8FromWide(decoded) == encoded, "what is encoded is well-formed");
+    fuzzing::require(kexa_3_3::utf8FromWide(decoded) == encoded, "encoded text is well-formed");
     if constexpr (sizeof(wchar_t) == 4)
     {
-        fuzzing::require(decoded.size() == units.size(), "each number gives one character");
+        fuzzing::require(decoded.size() == units.size(), "each unit becomes one character");
         for (std::size_t position = 0; position < units.size(); ++position)
         {
             const bool possible = isCharacter(static_cast<std::uint32_t>(units[position]));
             fuzzing::require(decoded[position] ==
                                  (possible ? units[position] : kexa_3_3::replacement_character),
-                             "what is no character becomes U+FFFD, everything else stays");
+                             "invalid units become U+FFFD, all others are unchanged");
         }
     }
 }

@@ -1,4 +1,5 @@
-// Conversion of texts to values and back, against std::from_chars, std::strtod and streams.
+// Fuzzes the conversion of texts to values and back: compares it with std::from_chars, std::strtod
+// and the streams of the naive implementation.
 //
 // The first character of an input is the value type, as in DeclaredLines; the rest is the text.
 #include <charconv>
@@ -23,7 +24,7 @@ namespace
 
 constexpr const wchar_t* white_space = L" \t\n\v\f\r";
 
-// The text without white space around it, as bytes; a character outside ASCII becomes "?".
+// Returns the text without the white space around it. Characters outside ASCII become '?'.
 std::string trimmed(const std::wstring& text)
 {
     const std::size_t first = text.find_first_not_of(white_space);
@@ -64,7 +65,7 @@ bool areHexadecimal(const std::wstring& digits)
            digits.find_first_not_of(L"0123456789ABCDEFabcdef") == std::wstring::npos;
 }
 
-// Digits behind "0x" or before "h" are hexadecimal, everything else is decimal.
+// Reads digits after "0x" or before "h" as hexadecimal, all others as decimal.
 variant_t unsigned64ByFromChars(const std::wstring& text)
 {
     const bool lead = text.size() > 1 && text[0] == L'0' && (text[1] == L'x' || text[1] == L'X');
@@ -87,7 +88,7 @@ variant_t booleanByTable(const std::wstring& text)
     return yes || no ? variant_t(yes) : variant_t();
 }
 
-// Whether the text is a decimal number with an optional sign, fraction and exponent.
+// Returns whether the text is a decimal number with optional sign, fraction and exponent.
 bool isDecimal(const std::string& text)
 {
     std::size_t position = !text.empty() && (text[0] == '+' || text[0] == '-') ? 1 : 0;
@@ -162,7 +163,7 @@ void checkReference(std::int32_t type, const std::wstring& text, const variant_t
         return;
     }
     fuzzing::require(value.kind() == expected.kind() && value == expected,
-                     "a value is what the reference reads");
+                     "the value is equal to that of the reference");
     if (type == kexa_3_3::value_type_double && value.can_get<double>())
     {
         fuzzing::require(std::signbit(value.get<double>()) == std::signbit(expected.get<double>()),
@@ -170,14 +171,15 @@ void checkReference(std::int32_t type, const std::wstring& text, const variant_t
     }
 }
 
-// The text of a value reads back to the same value.
+// Requires that the text of a value is converted back to an equal value.
 void checkText(std::int32_t type, const variant_t& value)
 {
     const std::wstring text = kexa_3_3::valueText(value);
     const variant_t again = kexa_3_3::convertValue(type, text);
     fuzzing::require(again.kind() == value.kind() && again == value,
-                     "the text of a value is that value");
-    fuzzing::requireEqual(kexa_3_3::valueText(again), text, "and has the same text");
+                     "the text of a value is converted back to that value");
+    fuzzing::requireEqual(kexa_3_3::valueText(again), text,
+                          "a converted text is converted back to that text");
 }
 
 } // namespace
@@ -193,10 +195,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         naive::decodeUtf8({reinterpret_cast<const char*>(data) + 1, size - 1});
     const variant_t value = kexa_3_3::convertValue(type, text);
     fuzzing::require(value.kind() == type || value.kind() == vexkit2::kind_null,
-                     "a value has its type");
+                     "the value has the requested type or is null");
     checkReference(type, text, value);
     const variant_t naive = naive::convertText(type, text);
-    fuzzing::require(naive.kind() == value.kind() && naive == value, "streams read the same value");
+    fuzzing::require(naive.kind() == value.kind() && naive == value, "streams read an equal value");
     if (value.kind() != vexkit2::kind_null)
     {
         checkText(type, value);

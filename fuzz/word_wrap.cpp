@@ -1,4 +1,5 @@
-// Word wrap: lines keep the width and lose no word, and the layout is that of a plain writing down.
+// Fuzzes word wrap: lines keep the width, no word is lost, and the layout is that of a naive
+// reference.
 //
 // The first three bytes of an input are the indentation, the line width and the length of the lead.
 #include <algorithm>
@@ -25,7 +26,7 @@ bool isHighSurrogate(wchar_t character)
     return character >= 0xD800 && character <= 0xDBFF;
 }
 
-// How much of the text goes on a line that has room for some characters of it.
+// Returns how many characters of the text go on a line with room for `room` characters.
 std::size_t takeChunk(const std::wstring& text, std::size_t room)
 {
     std::size_t length = std::min({text.size(), text.find(L'\n'), room});
@@ -51,7 +52,7 @@ std::size_t takeChunk(const std::wstring& text, std::size_t room)
     return length;
 }
 
-// Line after line, with a copy of what is left.
+// The reference: builds each line separately and erases its text from the front.
 std::wstring layOut(const Paragraph& paragraph)
 {
     const std::size_t indent = paragraph.indent;
@@ -138,7 +139,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     paragraph.lineWidth = data[1] % 128;
     paragraph.lead = text.substr(0, data[2]);
     paragraph.text = text.substr(paragraph.lead.size());
-    // A line feed in the lead would make lines that are none of the layout's.
+    // A line feed in the lead would add lines, which checkLines() would take for wrapped ones.
     std::replace(paragraph.lead.begin(), paragraph.lead.end(), L'\n', L' ');
 
     std::wstring actual;
@@ -156,8 +157,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     try
     {
         const std::wstring expected = layOut(paragraph);
-        fuzzing::require(!thrown, "the layout is refused only where there is no room");
-        fuzzing::requireEqual(actual, expected, "the layout is that of the plain writing down");
+        fuzzing::require(!thrown, "out_of_range is thrown only if no character fits");
+        fuzzing::requireEqual(actual, expected, "the layout is that of the reference");
         checkLines(paragraph, actual);
         fuzzing::requireEqual(withoutBlanks(actual),
                               paragraph.text.empty()
@@ -167,7 +168,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     catch (const std::out_of_range&)
     {
-        fuzzing::require(thrown, "no room is told");
+        fuzzing::require(thrown, "out_of_range is thrown if no character fits");
     }
     return 0;
 }

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Fails where an include points up: parser -> {recognition, help, result} -> options -> support ->
-public headers. A folder includes itself and what is below it."""
+"""Fails if an include points up the layers: parser -> {recognition, help, result} -> options ->
+support -> public headers. A folder may include its own files and those of the layers below it."""
 import pathlib
 import re
 import sys

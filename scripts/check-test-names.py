@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Fails where a page names a test, as `Suite.Test`, that is not there."""
+"""Fails if a page names a test, as `Suite.Test`, that does not exist."""
 import pathlib
 import re
 import sys
@@ -16,7 +16,7 @@ def main():
     missing = sorted(named - defined)
     if not named:
         missing = ["no test is named"]
-    print("\n".join(missing) if missing else f"all {len(named)} tests named in {page} are there")
+    print("\n".join(missing) if missing else f"all {len(named)} tests named in {page} exist")
     return 1 if missing else 0
 
 

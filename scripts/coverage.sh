@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# Tells which share of the lines and branches of src/ and include/ the tests run, file by file, and
-# lists the lines that none of them runs. Installs what is missing, builds with the preset coverage.
+# Prints the share of lines and branches of src/ and include/ that the tests run, file by file, and
+# lists the lines that no test runs. Installs missing packages and builds with the preset coverage.
 #
-#   scripts/coverage.sh [PERCENT]    ends with an error below this share of lines (97)
+#   scripts/coverage.sh [PERCENT]    fails if the tests run a smaller share of the lines (97)
 #
-# Not counted are the sources for Windows, which the tests under Wine run, and lines between
-# GCOVR_EXCL marks, each with its reason beside it.
+# Two kinds of lines are not counted: the sources for Windows, which the tests under Wine run, and
+# lines between GCOVR_EXCL marks, for the reason given beside each mark.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -20,15 +20,15 @@ cmake --preset coverage >"$folder.configure.log" 2>&1 || { cat "$folder.configur
 cmake --build --preset coverage -j "$jobs" >"$folder.build.log" 2>&1 ||
     { tail -n 80 "$folder.build.log"; exit 1; }
 
-# What earlier runs counted does not tell what the tests of today run.
+# The counts of earlier runs would be added to those of this one.
 find "$folder" -name '*.gcda' -delete
 
-# Without the cases that look at files instead of running the library, and without the one under
-# valgrind, which runs what others run.
+# Left out: the cases that examine files and do not run the library, and the one under valgrind, whose
+# code other cases run too.
 ctest --preset coverage -j "$jobs" --quiet --output-on-failure \
     --exclude-regex '^(abi_(exports|slots|headers).*|install|consumer|include_direction|test_names|growth_is_linear_in_instructions)$'
 
-# A call that may throw is a branch to the compiler; those branches are not the author's.
+# The compiler counts a branch for each call that may throw; these branches are not in the source.
 gcovr --root . --object-directory "$folder" --filter src/ --filter include/ -j "$jobs" \
     --exclude-directories '.*/CompilerId.*' --exclude-throw-branches --exclude-unreachable-branches \
     --json "$folder.json" "$folder"

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Builds filesum, the larger of the examples, and shows it at work on the files of this repository:
+# Builds the example tool filesum and runs it on the files of this repository:
 #
 #   scripts/demo.sh [ARGUMENT ...]
 #
-# Arguments are handed to filesum at the end, which then runs in the current folder:
+# If arguments are given, filesum runs with them at the end, in the current folder:
 #
 #   scripts/demo.sh -sum -exclude=.git,build -total ~/projects
 set -euo pipefail
@@ -16,12 +16,12 @@ filesum=$PWD/$build/examples/filesum/filesum
 scripts/install-packages.sh cmake ninja-build g++ zlib1g-dev
 
 for tool in cmake ninja c++; do
-    command -v "$tool" >/dev/null || { echo "demo.sh: there is no $tool" >&2; exit 1; }
+    command -v "$tool" >/dev/null || { echo "demo.sh: $tool is not installed" >&2; exit 1; }
 done
 
 mkdir -p "$build"
 echo "Building filesum in $build"
-# Warnings of a compiler that we have not met must not stop anybody here.
+# A warning of a compiler that is not tested must not stop the demonstration.
 if ! { cmake --preset release -B "$build" -DKEXA_BUILD_TESTS=OFF -DKEXA_WARNINGS_AS_ERRORS=OFF &&
        cmake --build "$build" --target filesum; } >"$build/build.log" 2>&1; then
     cat "$build/build.log" >&2
@@ -31,7 +31,7 @@ fi
 
 headline() { printf '\n== %s\n' "$*"; }
 
-# Prints a command line as one would type it, runs it, and tells its exit code unless that is 0.
+# Prints a command line as a user would type it, runs it, and prints its exit code unless that is 0.
 show()
 {
     local line='$ filesum' argument code=0
@@ -55,12 +55,12 @@ show -ver include
 headline "A deprecated value still works, with a warning; both kinds of checksum"
 show -sum -algorithm=crc,adler32 LICENSE README.md
 
-headline "Actions that do not go together"
+headline "Two actions that are not compatible"
 show -list -sum include
 
 options=$build/sources.options
 cat >"$options" <<'END'
-; Sums of the sources: one argument in each line.
+; Checksums of the sources: one argument in each line.
 -include=*.h,*.cpp
 -algorithm=adler32
 END
@@ -69,7 +69,7 @@ cat "$options"
 show -sum -total -option-file="$options" -output="$build/sources.sums" include src
 tail -n 3 "$build/sources.sums"
 
-headline "Verifying what was summed up"
+headline "Verifying the checksums"
 show -verify -quiet -total "$build/sources.sums"
 
 headline "Verifying after a change"
@@ -80,11 +80,11 @@ show -verify "$build/changed.sums"
 headline "Help on a topic"
 show -help sum
 
-headline "A trace of every step, asked for by the first argument"
+headline "A trace of every step, switched on by the first argument"
 show kexaoption=kexalogenable=1 -sum -alg=ad LICENSE
 
 if [ $# -gt 0 ]; then
-    headline "Your own: filesum $*"
+    headline "Your command line: filesum $*"
     cd "$start"
     exec "$filesum" "$@"
 fi

@@ -1,13 +1,12 @@
 #!/usr/bin/env bash
-# Runs the fuzz targets, each for some seconds (20 unless given) and as many at once as there are
-# processors, under the address and undefined-behaviour sanitizers. Ends with 1 where one of them
-# finds something.
+# Runs the fuzz targets under the address and undefined-behaviour sanitizers, each for some seconds (20
+# by default), as many at once as there are processors. Ends with 1 if one of them fails.
 #
 #   scripts/fuzz.sh [SECONDS [TARGET ...]]
 #
-# They start from fuzz/corpus/TARGET and from what earlier runs found, which lies in
-# build/fuzz/found/TARGET. An input that breaks a rule is kept as build/fuzz/failed/TARGET-...: copy
-# it to fuzz/corpus/TARGET, where every test run replays it, and mend the defect.
+# A target starts from the inputs in fuzz/corpus/TARGET and from those that earlier runs found, in
+# build/fuzz/found/TARGET. An input that fails is kept as build/fuzz/failed/TARGET-...: copy it to
+# fuzz/corpus/TARGET, where every test run replays it, and correct the defect.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -16,7 +15,7 @@ shift || true
 targets=("$@")
 [ ${#targets[@]} -gt 0 ] || targets=(arguments help option_file utf8 values word_wrap)
 
-# The longest input that is worth trying: what is larger says nothing new and takes longer.
+# The longest input for each target, in bytes: longer ones take more time and find nothing new.
 declare -A longest=(
     [arguments]=600 [help]=600 [option_file]=1000 [utf8]=64 [values]=400 [word_wrap]=400)
 
@@ -26,7 +25,7 @@ mkdir -p "$build/failed"
 cmake --preset fuzz >"$build/configure.log" 2>&1 || { cat "$build/configure.log"; exit 1; }
 cmake --build --preset fuzz -j "$(nproc)" >"$build/build.log" 2>&1 || { tail -n 80 "$build/build.log"; exit 1; }
 
-# What a target writes to files stays in memory where there is a folder for that.
+# Temporary files of the targets stay in memory if the system has a folder for that.
 if [ -z "${TMPDIR-}" ] && [ -w /dev/shm ]; then
     export TMPDIR=/dev/shm
 fi
@@ -35,7 +34,7 @@ run_target()
 {
     local target=$1 log="$build/$1.log" failed
     mkdir -p "$build/found/$target"
-    # Mask 3: what the library prints about its declarations is not looked at here.
+    # Mask 3 closes both output streams: the library reports refused declarations there.
     if "$build/fuzz/fuzz_$target" -max_total_time="$seconds" -max_len="${longest[$target]}" \
         -timeout=10 -dict=fuzz/kexa.dict -close_fd_mask=3 -print_final_stats=1 \
         -artifact_prefix="$build/failed/$target-" \
@@ -46,7 +45,7 @@ run_target()
         return
     fi
     printf '%-12s FAILED, see %s\n' "$target" "$log"
-    # Once more, now with what the target says about it.
+    # Run it once more, with the output of the target.
     failed=$(sed -n 's/.*Test unit written to //p' "$log" | tail -n 1)
     if [ -n "$failed" ]; then
         "$build/fuzz/fuzz_$target" "$failed" </dev/null 2>&1 | tail -n 80

@@ -1,15 +1,15 @@
 #!/usr/bin/env bash
-# Installs those of the given Debian packages that are missing:
+# Installs the given Debian packages, except those that are installed already:
 #
 #   scripts/install-packages.sh PACKAGE ...
 #
-# Needs root or sudo for that; without them, or where an installation fails, it says what is missing
-# and ends with 1. On other systems than Debian and its kin it names the packages and goes on: what
-# they hold may be there under other names.
+# This needs root or sudo. Without them, or if an installation fails, it prints the missing packages and
+# ends with 1. On a system without Debian packages it prints their names and ends with 0: the tools may
+# be installed under other names.
 set -euo pipefail
 
 if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
-    echo "This system has no Debian packages. Needed is what these hold: $*" >&2
+    echo "This system has no Debian packages. Needed are the contents of: $*" >&2
     exit 0
 fi
 
@@ -47,12 +47,12 @@ if [ "$(id -u)" -ne 0 ]; then
     as_root=(sudo)
 fi
 
-# Another installation may hold the lock for a while.
+# Wait up to five minutes for another installation that holds the lock.
 apt=(env DEBIAN_FRONTEND=noninteractive apt-get -o DPkg::Lock::Timeout=300 -qq)
 
 echo "Installing ${missing[*]}"
-# Old lists do for packages that they know.
+# An outdated list is sufficient for the packages in it.
 "${as_root[@]}" "${apt[@]}" update ||
-    echo "The package lists could not be renewed; trying with those that are there." >&2
+    echo "The package lists could not be updated; trying with the existing ones." >&2
 "${as_root[@]}" "${apt[@]}" install --no-install-recommends --yes "${missing[@]}" >/dev/null ||
     { find_missing "$@"; give_up "apt-get could not install them; its messages are above."; }

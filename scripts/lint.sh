@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
-# Looks for mistakes in src/ and include/ without running anything: clang-tidy with the checks of
-# .clang-tidy, then cppcheck without what .cppcheck-suppressions lists. Installs what is missing.
+# Static analysis of src/ and include/: clang-tidy with the checks in .clang-tidy, then cppcheck without
+# the findings in .cppcheck-suppressions. Installs missing packages.
 #
-#   scripts/lint.sh [FILE ...]    clang-tidy over these sources only (headers: through who includes them)
+#   scripts/lint.sh [FILE ...]    clang-tidy for these sources only; a header is checked with a source
+#                                 that includes it
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -10,18 +11,18 @@ scripts/install-packages.sh cmake ninja-build clang clang-tidy cppcheck g++-ming
 
 jobs=$(nproc)
 sources=("$@")
-# The large files first: the last one to end decides how long it takes.
+# Large files first, so that no processor is left with a large file at the end.
 [ ${#sources[@]} -gt 0 ] || mapfile -t sources < <(ls -S src/*/*.cpp)
 
 mkdir -p build
 cmake --preset clang -B build/lint -DKEXA_BUILD_TESTS=OFF -DKEXA_BUILD_EXAMPLES=OFF \
     >build/lint.configure.log 2>&1 || { cat build/lint.configure.log; exit 1; }
 
-# The sources for Windows are compiled for it, with the library of its cross compiler.
+# The sources for Windows are compiled for Windows, with the standard library of the cross compiler.
 windows_library=$(x86_64-w64-mingw32-g++-posix -print-file-name=include/c++)
 export windows_library
 
-# Says nothing but what it found: the counts of suppressed warnings are about system headers.
+# Prints findings only: clang-tidy also prints the number of suppressed warnings, all in system headers.
 check_source()
 {
     local database=(-p build/lint) command=()

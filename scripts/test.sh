@@ -1,11 +1,10 @@
 #!/usr/bin/env bash
-# Installs what is missing (Debian packages), then builds and tests everything: checks the formatting,
-# looks for mistakes, runs the fuzz targets for some seconds, every benchmark for a moment and what has
-# threads under the thread sanitizer, then the whole suite under the address and undefined-behaviour
-# sanitizers, natively, and on Windows under Wine.
+# Installs missing Debian packages, then builds and tests everything, in these steps: format, lint, fuzz
+# (each target for some seconds), bench (each benchmark for a moment), tsan (the tests with threads under
+# the thread sanitizer), and the whole suite as asan (address and undefined-behaviour sanitizers), release,
+# and mingw (Windows under Wine).
 #
-#   scripts/test.sh [STEP ...]    run only these steps: format, lint, fuzz, bench, tsan, memcheck (not
-#                                 among those run otherwise), or the name of a preset
+#   scripts/test.sh [STEP ...]    run only these steps; a step may also be memcheck or another preset
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -16,7 +15,7 @@ steps=("$@")
 
 headline() { printf '\n== %s, after %d:%02d minutes\n' "$*" $((SECONDS / 60)) $((SECONDS % 60)); }
 
-# run_preset PRESET [TEST ...]: everything, or the named tests alone, each a target of its own.
+# run_preset PRESET [TEST ...]: all tests, or only these; each of them is also a target.
 run_preset()
 {
     local preset=$1
@@ -34,7 +33,7 @@ run_fuzzers()
     scripts/fuzz.sh 20
 }
 
-# The unit and interface tests under valgrind. Those that replace the allocation functions keep them.
+# The soname synonym makes valgrind keep the allocation functions of tests that replace them.
 run_memcheck()
 {
     headline "memcheck: the unit and interface tests"
@@ -52,7 +51,7 @@ check_format()
 {
     headline "formatting"
     git ls-files '*.h' '*.cpp' | xargs -r clang-format --dry-run --Werror
-    echo "formatted as .clang-format asks"
+    echo "all files are formatted by .clang-format"
 }
 
 packages=(

@@ -1,16 +1,16 @@
 #!/bin/sh
 # Runs a Windows program under Wine, in a Wine prefix of its own:
 #
-#   wine.sh PREFIX PROGRAM [ARGUMENT...]   run the program; its exit code is ours
-#   wine.sh PREFIX --start                 make the prefix and start its server
-#   wine.sh PREFIX --stop                  end the server and whatever still runs in the prefix
+#   wine.sh PREFIX PROGRAM [ARGUMENT...]   run the program and end with its exit code
+#   wine.sh PREFIX --start                 create the prefix and start its server
+#   wine.sh PREFIX --stop                  end the server and every program in the prefix
 #
-# PREFIX is a folder that is made where it is missing. The server outlives a program by five
-# minutes, so that the next one starts in a twentieth of the time.
+# PREFIX is a folder, which is created if it does not exist. The server keeps running for five minutes
+# after a program has ended; the next program then starts in a twentieth of the time.
 #
-# Debian's package wine64-preloader belongs to it: Wine needs the page at 0x7ffe0000. The heap of its
-# loader begins at a random place in the gigabyte behind 0x7d000000 and covers that page in about
-# one start of 7,500, which then ends with exit code 1 and no word. The preloader keeps it free.
+# Install Debian's package wine64-preloader too. Wine needs the page at 0x7ffe0000, but the heap of its
+# loader begins at a random place in the gigabyte behind 0x7d000000. In about one start of 7,500 it covers
+# that page, and the program ends with exit code 1 without a message. The preloader keeps the page free.
 set -eu
 
 prefix=$1
@@ -31,11 +31,11 @@ find_tool()
 if ! wine=$(find_tool wine64); then
     exit 1
 fi
-# Debian's script wineserver forbids the server to outlive its programs; the program does not.
+# Debian's script wineserver ends the server with the last program; wineserver64 does not.
 server=$(find_tool wineserver64 2>/dev/null || find_tool wineserver)
 
-# Nothing but the program's own output, no dialog and no debugger for a crash. Arguments and file
-# names are UTF-8 whatever the caller's locale is.
+# Only the program's own output; no dialog and no debugger after a crash. Arguments and file names are
+# UTF-8 in every locale of the caller.
 export WINEPREFIX="$prefix"
 export WINEDEBUG=-all
 export WINEDLLOVERRIDES="mscoree,mshtml,winemenubuilder.exe,winedbg.exe="
@@ -44,13 +44,13 @@ unset DISPLAY WAYLAND_DISPLAY || true
 
 start()
 {
-    # Two programs that start at once must not both make the prefix.
+    # The lock keeps two programs that start at once from both creating the prefix.
     mkdir -p "$prefix"
     (
         flock 9
-        # Fails where the server runs already. Its services start with the first program and hold
-        # that one's output open for as long as the server lives, so that a reader of the output
-        # (CTest) would wait for all of that time: the first program is one that nobody listens to.
+        # Fails if the server is running already. Wine's services start with the first program and keep
+        # its output open until the server ends, so CTest would wait that long for the end of the
+        # output. Therefore the first program is this one, whose output is discarded.
         if "$server" -p300 >/dev/null 2>&1 9>&-; then
             "$wine" wineboot --init >/dev/null 2>&1 9>&-
         fi
@@ -60,7 +60,7 @@ start()
 case ${1-} in
     --start)
         if [ "${wine%/*}" = /usr/lib/wine ] && [ ! -x "$wine-preloader" ]; then
-            echo "wine.sh: no $wine-preloader, so that now and then a program does not start" >&2
+            echo "wine.sh: no $wine-preloader, so about one start of a program in 7,500 will fail" >&2
         fi
         start
         ;;

@@ -1,5 +1,5 @@
-// The entry point of an example: the program defines `run`, which gets wide arguments everywhere.
-// Included by exactly one source file of a program.
+// The entry point of an example. The program defines run(), which has wide arguments on every
+// system. Included by exactly one source file of a program.
 #ifndef KEXA_EXAMPLES_ARGUMENTS_H
 #define KEXA_EXAMPLES_ARGUMENTS_H
 
@@ -8,7 +8,7 @@
 
 #include "common/Console.h"
 
-// argv: argc arguments, the program's name first. Answers the exit code.
+// Returns the exit code. argv: argc arguments, the first of which is the name of the program.
 int run(int argc, const wchar_t* const* argv);
 
 #ifdef _WIN32

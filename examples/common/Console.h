@@ -1,6 +1,6 @@
-// Writes text to standard output and standard error as UTF-8, whatever the locale; a Windows
-// console gets UTF-16. Everything is written at once, so that lines of the library's own console
-// streams keep their place.
+// Writes text to standard output and standard error as UTF-8 in every locale, and as UTF-16 to a
+// Windows console. Text is flushed immediately, so that it keeps its order with messages of the
+// library.
 #ifndef KEXA_EXAMPLES_CONSOLE_H
 #define KEXA_EXAMPLES_CONSOLE_H
 
@@ -25,10 +25,10 @@ namespace example
 {
 
 #ifdef _WIN32
-// Answers false where the stream is a file or a pipe.
+// Returns false, without writing, if the stream is not a console.
 inline bool writeToConsole(std::FILE* stream, std::wstring_view text)
 {
-    constexpr std::size_t most = 8192; // in one call; consoles refuse very long texts
+    constexpr std::size_t most = 8192; // characters in one call; consoles refuse very long texts
     const HANDLE console = reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(stream)));
     DWORD mode = 0;
     if (!GetConsoleMode(console, &mode))
@@ -76,7 +76,7 @@ inline void printError(std::wstring_view text)
     write(stderr, text);
 }
 
-// Line ends are written as they are, on every system.
+// Line feeds are not converted to CR LF on Windows.
 inline void useBinaryStreams()
 {
 #ifdef _WIN32

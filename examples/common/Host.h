@@ -1,4 +1,4 @@
-// What a host writes once around the library's interfaces: ownership, and the walk over values.
+// What most hosts write once for the interfaces of the library: ownership, and a loop over values.
 #ifndef KEXA_EXAMPLES_HOST_H
 #define KEXA_EXAMPLES_HOST_H
 
@@ -11,7 +11,7 @@
 namespace example
 {
 
-// What the library made, the library destroys.
+// Objects that the library creates are destroyed by release().
 struct Release
 {
     template <class T>
@@ -38,14 +38,14 @@ inline ResultPointer makeResult(kexa_3_3::IParser& parser)
     return result != nullptr ? ResultPointer(result) : throw std::bad_alloc();
 }
 
-// Whether the option was given on the command line or has a default.
+// Returns whether the option was given or has a default.
 inline bool isPresent(kexa_3_3::IParseResult& result, const wchar_t* name)
 {
     return result.isPresent(name, 0, kexa_3_3::no_position) != 0;
 }
 
-// All values of an option, in the order of the command line; its default where it was not given.
-// An option given without a value counts with an empty one.
+// Returns all values of an option in the order of the command line, or its default if it was not
+// given. If no occurrence has a value, each occurrence adds an empty value.
 inline std::vector<kexa_3_3::Value> valuesOf(kexa_3_3::IParseResult& result, const wchar_t* name)
 {
     std::vector<kexa_3_3::Value> values;

@@ -1,8 +1,8 @@
-// Wide text and the bytes that a POSIX system uses for arguments and file names.
+// Conversion between wide text and the bytes of arguments and file names on POSIX systems.
 //
-// Bytes are read as UTF-8. A byte that is no part of well-formed UTF-8 becomes the lone surrogate
-// U+DC00 + byte (U+DC80 to U+DCFF), and becomes the byte again on the way back: a file name in some
-// older encoding survives the trip through a parser of wide text.
+// Bytes are decoded as UTF-8. A byte that is not part of well-formed UTF-8 becomes the lone
+// surrogate U+DC00 + byte (U+DC80 to U+DCFF), which is converted back to the byte. A file name in
+// an older encoding thus survives a parser of wide text.
 #ifndef KEXA_EXAMPLES_TEXT_H
 #define KEXA_EXAMPLES_TEXT_H
 
@@ -16,10 +16,10 @@ namespace example
 struct Decoded
 {
     char32_t codePoint;
-    std::size_t length; // in bytes; 0 where the bytes are ill-formed
+    std::size_t length; // in bytes; 0 if the bytes are ill-formed
 };
 
-// The code point whose bytes begin at `position`, which lies inside the text.
+// Decodes the code point that begins at `position`, which is less than the size of the text.
 inline Decoded decodeAt(std::string_view bytes, std::size_t position)
 {
     constexpr Decoded illFormed = {0, 0};
@@ -95,7 +95,7 @@ inline void appendUtf8(std::string& bytes, char32_t codePoint)
     }
 }
 
-// Surrogates that stand neither for a byte nor in a pair become U+FFFD.
+// Lone surrogates outside U+DC80 to U+DCFF become U+FFFD.
 inline std::string toBytes(std::wstring_view text)
 {
     std::string bytes;

@@ -75,7 +75,7 @@ ExitCode sumFiles(const std::vector<std::filesystem::path>& roots, const Setting
     }
     if (settings.total)
     {
-        report.line("# " + totalText(summed, bytes)); // a comment, for -verify
+        report.line("# " + totalText(summed, bytes)); // which -verify skips as a comment
     }
     return exit_success;
 }

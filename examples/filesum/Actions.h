@@ -1,5 +1,5 @@
-// What the actions do. Each writes its result lines to the report, answers the exit code and leaves
-// problems to the report.
+// The actions of the tool. Each writes its results and problems to the report and returns the exit
+// code.
 #pragma once
 
 #include <filesystem>
@@ -12,7 +12,7 @@ namespace filesum
 
 class Report;
 
-// How the tool ends. The higher code wins.
+// The exit codes. If several apply, the highest is used.
 enum ExitCode : int
 {
     exit_success = 0,

@@ -13,8 +13,8 @@ namespace filesum
 namespace
 {
 
-// Cuts the text before the separator off the front, the separator too. The whole text where there
-// is none.
+// Returns the text before the separator, and removes both from the front. Takes the whole text if
+// it has no separator.
 std::string_view takeUntil(std::string_view& text, char separator)
 {
     const std::size_t end = text.find(separator);

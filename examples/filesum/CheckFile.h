@@ -3,8 +3,8 @@
 //     crc32=cbf43926,adler32=091e01de 9 folder/name
 //
 // checksums in hexadecimal, one blank, the size in bytes, one blank, the name up to the line's end.
-// In a name "\\", "\n" and "\r" stand for a backslash, a line feed and a carriage return. Empty
-// lines and lines that begin with "#" are skipped. Otherwise bytes are taken as they are.
+// In a name "\\", "\n" and "\r" stand for a backslash, a line feed and a carriage return. All other
+// bytes stand for themselves. Empty lines and lines that begin with "#" are skipped.
 #pragma once
 
 #include <cstdint>
@@ -24,10 +24,10 @@ struct CheckLine
     std::string name;           // not escaped
 };
 
-// Without a line end.
+// Returns the line without a line feed.
 std::string formatCheckLine(const CheckLine& line);
 
-// Answers an empty text and fills `line`, or says what is wrong with the text.
+// Fills `line` and returns an empty text, or returns a message that describes the error.
 std::string parseCheckLine(std::string_view text, CheckLine& line);
 
 } // namespace filesum

@@ -34,14 +34,14 @@ struct Checksum
 
 struct FileSums
 {
-    std::vector<Checksum> sums; // one for each algorithm, in the order asked for
+    std::vector<Checksum> sums; // one for each algorithm, in the requested order
     std::uint64_t size = 0;     // bytes read
 };
 
 class Report;
 
-// Reads a file once, bufferSize bytes at a time, and tells the report how far it is. Nothing where
-// the file cannot be read, which is reported as a problem.
+// Reads a file once, bufferSize bytes at a time, and reports the progress. Returns nothing if the
+// file cannot be read, which is reported as a problem.
 std::optional<FileSums> sumsOf(const std::filesystem::path& path,
                                const std::vector<Algorithm>& algorithms, std::size_t bufferSize,
                                Report& report);

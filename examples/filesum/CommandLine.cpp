@@ -12,16 +12,16 @@ namespace filesum
 namespace
 {
 
-// Options that take plain arguments, and the actions that accept them, have this keyword.
+// The keyword of options that take plain arguments, and of the actions that accept these options.
 constexpr const wchar_t* positional = L"kexa_positional_option";
 
-// Options with this group are explained by "-help -hidden" only.
+// The group of options that only "-help -hidden" shows.
 constexpr const wchar_t* hidden_group = L"kexa_hidden";
 
 constexpr vexkit2::u32_t default_buffer = 1U << 18; // bytes
 constexpr vexkit2::u32_t largest_buffer = 1U << 26;
 
-// The tool's own parts work on bytes, as file names do.
+// Returns the values of an option as bytes, which the other parts of the tool work with.
 std::vector<std::string> textsOf(IParseResult& result, const wchar_t* name)
 {
     std::vector<std::string> texts;
@@ -112,7 +112,7 @@ void CommandLine::declareOptions()
             L"Files and folders (of -verify: files written by -sum; of -help: names of actions and "
             L"options). Plain arguments are paths.",
             L"")
-        .setSeparator(0); // a file name may hold a comma
+        .setSeparator(0); // a file name may contain a comma
     declare(L"algorithm,a", L"sum", value_type_string, L"Checksums to compute", L"")
         .addAllowedValue(variant_t(L"crc32"))
         .addAllowedValue(variant_t(L"adler32"))

@@ -1,4 +1,4 @@
-// The tool's command line: what it accepts, and what a user asked for.
+// The command line of the tool: its declarations and the parsed settings.
 #pragma once
 
 #include <cstddef>
@@ -15,7 +15,7 @@ namespace filesum
 
 struct Settings
 {
-    // Actions. `total` may come with one of the first three.
+    // Actions. `total` may be combined with one of the first three.
     bool list = false;
     bool sum = false;
     bool verify = false;
@@ -23,7 +23,7 @@ struct Settings
     bool help = false;
     bool version = false;
 
-    std::vector<std::wstring> paths; // as given; none: the action's choice
+    std::vector<std::wstring> paths; // as given; empty: the default of the action
     std::vector<Algorithm> algorithms;
     Selection selection;
     std::filesystem::path output; // empty: standard output
@@ -38,18 +38,17 @@ class CommandLine
 public:
     CommandLine();
 
-    // Answers false where the arguments are wrong; `message` says how.
+    // Returns false if the arguments are wrong; message() then returns the error message.
     bool parse(int argc, const wchar_t* const* argv, Settings& settings);
 
-    // Belongs to the command line.
     [[nodiscard]] std::wstring message() const;
 
-    // Explains the topics, or the tool where there are none. Answers false where a topic is
-    // unknown; the text then lists the topics.
+    // Sets `text` to the help of the topics, or of the tool if there are none. Returns false if a
+    // topic is unknown; the text then contains the list of topics.
     bool help(const std::vector<std::wstring>& topics, bool hidden, std::wstring& text) const;
 
 private:
-    // Refuses buffer sizes that make no sense.
+    // Refuses buffer sizes that are too small or too large.
     class BufferSizeLimit final : public kexa_3_3::EventHandler
     {
     public:

@@ -59,7 +59,7 @@ public:
     }
 
 private:
-    // Sorted, so that problems come in the same order every time.
+    // Returns the entries in sorted order, so that problems are always reported in this order.
     std::vector<fs::path> entriesOf(const fs::path& folder)
     {
         std::vector<fs::path> entries;
@@ -81,7 +81,7 @@ private:
     {
         for (const fs::path& entry : entriesOf(folder))
         {
-            // The files of the current folder are named without a leading "./".
+            // Names of files in the current folder have no leading "./".
             const fs::path path = folder == "." ? entry : folder / entry;
             if (!matchesAny(entry, m_selection.exclude) && !isLink(path))
             {
@@ -128,7 +128,7 @@ private:
 
     [[nodiscard]] bool isLeftOut(const fs::path& path) const
     {
-        std::error_code error; // set where either file does not exist
+        std::error_code error; // set if either file does not exist
         return !m_selection.notThis.empty() && fs::equivalent(path, m_selection.notThis, error);
     }
 

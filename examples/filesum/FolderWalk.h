@@ -1,4 +1,4 @@
-// Finding the files of folder trees.
+// Finds the files in folder trees.
 #pragma once
 
 #include <cstdint>
@@ -11,13 +11,13 @@ namespace filesum
 
 class Report;
 
-// Which of the files found in folders count. Files named by the user always do.
+// Selects files in folders. Files that the user names are always selected.
 struct Selection
 {
-    std::vector<std::string> include; // name patterns of files; none: all files
+    std::vector<std::string> include; // name patterns of files; empty: all files
     std::vector<std::string> exclude; // name patterns of files and folders
     std::uint64_t minimumSize = 0;    // in bytes
-    std::filesystem::path notThis;    // one file that is left out; empty: none
+    std::filesystem::path notThis;    // a file to exclude; empty: none
 };
 
 struct FoundFile
@@ -27,9 +27,9 @@ struct FoundFile
     std::uint64_t size;
 };
 
-// The regular files among the roots and in the folders below them, each name once, ordered by the
-// bytes of their names. Links are followed where they are roots, not where they are found, so a
-// walk ends. What cannot be read is reported as a problem, and the walk goes on.
+// Returns the regular files among the roots and in the folders below them, each name once, sorted
+// by the bytes of their names. Links are followed only if they are roots, so that the walk ends.
+// Unreadable files and folders are reported as problems and skipped.
 std::vector<FoundFile> findFiles(const std::vector<std::filesystem::path>& roots,
                                  const Selection& selection, Report& report);
 

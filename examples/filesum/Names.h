@@ -1,4 +1,4 @@
-// File names as they stand in lines of text.
+// File names in lines of text.
 #pragma once
 
 #include <optional>
@@ -8,14 +8,14 @@
 namespace filesum
 {
 
-// Writes a backslash, a line feed and a carriage return as "\\", "\n" and "\r".
+// Replaces a backslash, a line feed and a carriage return by "\\", "\n" and "\r".
 std::string escapedName(std::string_view name);
 
-// The reverse; nothing where a backslash is followed by something else.
+// Reverts escapedName(). Returns nothing if a backslash is followed by another character.
 std::optional<std::string> unescapedName(std::string_view text);
 
-// At most 40 characters of a text of unknown origin, in quotes; what is not printable ASCII, an
-// escape sequence for the terminal say, becomes "?".
+// Returns at most 40 characters of an untrusted text, in quotes. Characters outside printable ASCII
+// become '?', because they could be escape sequences of the terminal.
 std::string quotedExcerpt(std::string_view text);
 
 } // namespace filesum

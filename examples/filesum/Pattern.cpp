@@ -10,10 +10,10 @@ namespace filesum
 
 bool matches(std::string_view name, std::string_view pattern)
 {
-    // On a mismatch, the latest "*" takes one character more; earlier ones need not change.
+    // On a mismatch the last "*" takes one more character. Earlier ones never need to change.
     constexpr std::size_t none = std::string_view::npos;
     std::size_t star = none;
-    std::size_t starEnd = 0; // in name: where the part taken by the latest "*" ends
+    std::size_t starEnd = 0; // in name: end of the part that the last "*" takes
     std::size_t at = 0;
     std::size_t next = 0; // in pattern
     const auto character = [name](std::size_t position)

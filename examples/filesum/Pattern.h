@@ -1,4 +1,4 @@
-// File name patterns: "*" stands for any characters, "?" for one.
+// File name patterns: "*" matches any number of characters, "?" matches one.
 #pragma once
 
 #include <string_view>
@@ -6,7 +6,8 @@
 namespace filesum
 {
 
-// Case counts. The texts are UTF-8 (or bytes of no encoding, each a character of its own).
+// Case-sensitive. The texts are UTF-8; each byte that is not part of well-formed UTF-8 is one
+// character.
 bool matches(std::string_view name, std::string_view pattern);
 
 } // namespace filesum

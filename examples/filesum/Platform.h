@@ -1,4 +1,4 @@
-// What differs between systems.
+// The functions that differ between systems.
 #pragma once
 
 #include <cstdio>
@@ -17,18 +17,19 @@ struct CloseFile
 
 using FilePointer = std::unique_ptr<std::FILE, CloseFile>;
 
-// A path as the parser gave it: on Linux, the lone surrogates that stand for bytes become these
-// bytes again.
+// Converts a text of the parser to a path. On Linux lone surrogates become the bytes that they
+// stand for.
 std::filesystem::path pathOf(const std::wstring& text);
 
-// The name with "/" between its parts: on Linux the bytes as they are, on Windows UTF-8.
+// Returns the name with "/" between its parts: unchanged on Linux, as UTF-8 on Windows.
 std::string nameOf(const std::filesystem::path& path);
 
-// Opens a file for reading or (made anew) for writing, in binary. Null and errno on failure.
+// Open a binary file for reading, or for writing from an empty file. Return null and set errno on
+// failure.
 FilePointer openForReading(const std::filesystem::path& path);
 FilePointer openForWriting(const std::filesystem::path& path);
 
-// Whether the entry leads to somewhere else: a symbolic link, on Windows also a junction.
+// Returns whether the entry is a symbolic link, or on Windows a junction.
 bool isLink(const std::filesystem::path& path);
 
 bool isTerminal(std::FILE* stream);

@@ -33,7 +33,7 @@ FilePointer openForWriting(const std::filesystem::path& path)
 
 bool isLink(const std::filesystem::path& path)
 {
-    // Other reparse points are files all the same: those of a cloud folder, say.
+    // Other reparse points are files, for example those of cloud folders.
     WIN32_FIND_DATAW found = {};
     const HANDLE search = FindFirstFileW(path.c_str(), &found);
     if (search == INVALID_HANDLE_VALUE)

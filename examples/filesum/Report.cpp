@@ -52,7 +52,7 @@ void Report::line(std::string_view text)
     line += '\n';
     if (m_outputIsTerminal)
     {
-        example::write(m_output, line); // at once, and converted where the console wants that
+        example::write(m_output, line); // immediately, and in the encoding of the console
     }
     else
     {
@@ -93,7 +93,7 @@ void Report::advance(std::uint64_t bytes)
     {
         return;
     }
-    // A file may have grown since it was announced.
+    // A file may have grown since its size was announced.
     const double share = static_cast<double>(m_done) / static_cast<double>(m_bytes);
     const auto percent = static_cast<int>(100 * std::min(share, 1.0));
     const std::string text = std::to_string(percent) + "% of " + std::to_string(m_files) +

@@ -1,4 +1,5 @@
-// filesum: lists, sums up and verifies the files of folder trees. Exit codes are in Actions.h.
+// filesum: lists, computes checksums of, and verifies the files in folder trees. Actions.h has the
+// exit codes.
 #include <algorithm>
 #include <exception>
 
@@ -35,7 +36,7 @@ ExitCode performToFile(Settings& settings, const std::vector<std::filesystem::pa
     settings.selection.notThis = settings.output;
     for (const std::filesystem::path& path : paths)
     {
-        std::error_code error; // set where either file does not exist
+        std::error_code error; // set if either file does not exist
         if (std::filesystem::equivalent(path, settings.output, error))
         {
             return wrongCommandLine(L"the output is one of the paths");
@@ -44,7 +45,7 @@ ExitCode performToFile(Settings& settings, const std::vector<std::filesystem::pa
     const FilePointer file = openForWriting(settings.output);
     if (file == nullptr)
     {
-        const std::string reason = reasonOfErrno(); // before anything else changes it
+        const std::string reason = reasonOfErrno(); // before another call changes errno
         Report(stdout, false).cannotWrite(nameOf(settings.output), reason);
         return exit_problem;
     }

@@ -149,21 +149,16 @@ public:
 
     s32_t kind() const noexcept { return m_type; }
 
-    // The following three are for the library, which keeps the words of many variants in its own
-    // records. A host has no use for them.
-
-    // The memory that the block of the variant lies in; null where it has none.
-    detail::shared_memory_t* memory() const noexcept
+    // For the library, which lays the blocks of many texts side by side: a variant of a kind that
+    // owns a block, with a share of the block that holds `data`. A host has no use for it.
+    static variant_t share_block(s32_t kind, void* data) noexcept
     {
-        return owns_block() && m_value.m_data != nullptr ? detail::header_of(m_value.m_data)->memory
-                                                         : nullptr;
+        variant_t sharer;
+        sharer.m_type = kind;
+        sharer.m_value.m_data = data;
+        detail::sync_inc(detail::header_of(data)->memory->count);
+        return sharer;
     }
-
-    // Answers the data word and becomes null. The share of a block goes to the caller with it.
-    u64_t detach() noexcept;
-
-    // A variant of a kind and a data word that `detach` answered, which takes the share over.
-    static variant_t attach(s32_t kind, u64_t word) noexcept;
 
     // Whether get<T>() gives a value, for T one of bool (kind 0), s32_t, u32_t, s64_t, u64_t (the
     // integer kinds, where T can hold the value), double (every number) and const wchar_t* (kinds

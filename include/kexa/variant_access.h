@@ -35,23 +35,6 @@ inline void variant_t::set_data(s32_t kind, const void* bytes, std::size_t lengt
     swap(copy);
 }
 
-inline u64_t variant_t::detach() noexcept
-{
-    u64_t word = 0;
-    std::memcpy(&word, &m_value, sizeof(word));
-    m_value.m_u64 = 0;
-    m_type = kind_null;
-    return word;
-}
-
-inline variant_t variant_t::attach(s32_t kind, u64_t word) noexcept
-{
-    variant_t attached;
-    std::memcpy(&attached.m_value, &word, sizeof(word));
-    attached.m_type = kind;
-    return attached;
-}
-
 // What the data word points at, for the kinds that hold a pointer.
 inline const void* variant_t::data() const
 {

@@ -49,14 +49,7 @@ struct shared_memory_t
 {
     reference_count_t count; // of the shares in all its blocks
 
-    // Who makes blocks in it; null where it holds a single one, and once its maker is gone. The
-    // maker may go while another thread asks whether it is one itself.
-    std::atomic<const void*> owner;
-
-    explicit shared_memory_t(std::size_t shares, const void* maker = nullptr) noexcept
-        : count(shares), owner(maker)
-    {
-    }
+    explicit shared_memory_t(std::size_t shares) noexcept : count(shares) {}
 };
 
 // Stands ahead of the data in a block.
@@ -127,20 +120,32 @@ inline void share(void* data)
     sync_inc(h->memory->count);
 }
 
+// Gives up a share of memory without an object in it, which is freed with the last one.
+inline void release_share(shared_memory_t& memory) noexcept
+{
+    if (sync_dec(memory.count))
+    {
+        memory.~shared_memory_t();
+        ::operator delete(&memory);
+    }
+}
+
 inline void release(void* data, bool holds_object) noexcept
 {
     shared_memory_t* const memory = header_of(data)->memory;
+    if (!holds_object)
+    {
+        release_share(*memory);
+        return;
+    }
     if (!sync_dec(memory->count))
     {
         return;
     }
-    if (holds_object)
-    {
-        polymorphic_t* object = nullptr;
-        std::memcpy(&object, data, object_length);
-        std::memset(data, 0, object_length);
-        delete object;
-    }
+    polymorphic_t* object = nullptr;
+    std::memcpy(&object, data, object_length);
+    std::memset(data, 0, object_length);
+    delete object;
     memory->~shared_memory_t();
     ::operator delete(memory);
 }

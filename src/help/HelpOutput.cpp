@@ -8,7 +8,7 @@
 #include "help/OptionListing.h"
 #include "options/OptionDescription.h"
 #include "options/RegisteredOptionStorage.h"
-#include "support/Text.h"
+#include "support/text/Text.h"
 
 namespace kexa_3_3
 {
@@ -24,7 +24,7 @@ std::wstring notAvailable(const RegisteredOptionStorage& options, std::wstring_v
                         formatTopicList(options, hidden)});
 }
 
-// The listing of the options that take a value and pass the test, nothing where there are none.
+// Returns the listing of the options that take a value and pass the test; empty if there are none.
 template <class Test>
 std::wstring listMatching(const RegisteredOptionStorage& options, bool hidden, Test passes)
 {
@@ -52,7 +52,7 @@ std::wstring formatTopicList(const RegisteredOptionStorage& options, bool hidden
     for (std::size_t index = 0; index < options.size(); ++index)
     {
         const OptionDescription& option = options[index];
-        if (!option.takesValue() && passesHiddenTest(option.group(), hidden))
+        if (!option.takesValue() && passesHiddenTest(option.group.name, hidden))
         {
             topics[option.primaryName()] = option.description;
             longest = std::max(longest, option.primaryName().size());
@@ -92,10 +92,8 @@ std::wstring formatRelatedHelp(const RegisteredOptionStorage& options, const wch
         return notAvailable(options, topic, hidden);
     }
     return listMatching(options, hidden,
-                        [found](const OptionDescription& option) {
-                            return &option != found &&
-                                   shareKeyword(option.keywords, found->keywords);
-                        });
+                        [found](const OptionDescription& option)
+                        { return &option != found && shareKeyword(option, *found); });
 }
 
 std::wstring formatFullHelp(const RegisteredOptionStorage& options, bool hidden)

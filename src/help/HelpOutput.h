@@ -1,4 +1,4 @@
-// Help texts made from the declarations.
+// Help texts generated from the declarations.
 #pragma once
 
 #include <string>
@@ -8,20 +8,23 @@ namespace kexa_3_3
 
 class RegisteredOptionStorage;
 
-// hidden: false leaves the group "kexa_hidden" out, true shows only that group.
+// Every function takes `hidden`: false excludes the group "kexa_hidden", true shows only that
+// group. "Options" means the declarations that take a value; the others are actions.
 
-// The actions by name, one in each line, with their descriptions.
+// Returns the actions with their descriptions, one per line, sorted by name.
 [[nodiscard]] std::wstring formatTopicList(const RegisteredOptionStorage& options, bool hidden);
 
-// The help of one option. A null topic gives the topic list, an unknown one says so.
+// Returns the help of the option or action `topic`. For a null topic: the topic list. For an
+// unknown one: a message that contains the topic list.
 [[nodiscard]] std::wstring formatTopicHelp(const RegisteredOptionStorage& options,
                                            const wchar_t* topic, bool hidden);
 
-// The help of the options, no actions, that share a keyword with the one named.
+// Returns the help of the options that share a keyword with `topic`, without `topic` itself. Null
+// and unknown topics are handled as in formatTopicHelp().
 [[nodiscard]] std::wstring formatRelatedHelp(const RegisteredOptionStorage& options,
                                              const wchar_t* topic, bool hidden);
 
-// The help of the options, no actions, that have no keyword.
+// Returns the help of the options without keywords.
 [[nodiscard]] std::wstring formatFullHelp(const RegisteredOptionStorage& options, bool hidden);
 
 } // namespace kexa_3_3

@@ -1,11 +1,9 @@
 #include "help/OptionListing.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <iterator>
+#include <cassert>
 #include <map>
 #include <numeric>
-#include <type_traits>
 
 #include "kexa/option.h"
 
@@ -13,7 +11,7 @@
 #include "options/OptionDescription.h"
 #include "options/ValueText.h"
 #include "options/ValueType.h"
-#include "support/Text.h"
+#include "support/text/Text.h"
 
 namespace kexa_3_3
 {
@@ -26,8 +24,11 @@ constexpr std::size_t line_width = 80;
 
 [[nodiscard]] bool isTrue(const vexkit2::variant_t& value)
 {
-    return value.can_get<bool>() ? value.get<bool>()
-                                 : value.can_get<double>() && value != vexkit2::variant_t(0);
+    if (value.can_get<bool>())
+    {
+        return value.get<bool>();
+    }
+    return value.can_get<double>() && value != vexkit2::variant_t(0);
 }
 
 void appendBooleanForms(std::wstring& column, const OptionDescription& option)
@@ -41,12 +42,12 @@ void appendBooleanForms(std::wstring& column, const OptionDescription& option)
 
 void appendValueForm(std::wstring& column, const OptionDescription& option)
 {
-    if (option.allowedValues().empty())
+    if (option.allowedValues.empty())
     {
         column.append(L"=<").append(typeName(option)).push_back(L'>');
     }
     std::wstring_view before = L"=";
-    for (const vexkit2::variant_t& value : option.allowedValues())
+    for (const vexkit2::variant_t& value : option.allowedValues)
     {
         column.append(before).append(valueText(value));
         before = L" | ";
@@ -58,7 +59,8 @@ void appendValueForm(std::wstring& column, const OptionDescription& option)
     }
 }
 
-// About how long the listing of the entries becomes: most take a line or two.
+// Estimates the length of the listing, to reserve memory: a line and the description of each entry,
+// with room for indentation.
 [[nodiscard]] std::size_t expectedLength(const std::vector<const OptionDescription*>& entries)
 {
     return std::accumulate(entries.begin(), entries.end(), std::size_t{0},
@@ -68,10 +70,10 @@ void appendValueForm(std::wstring& column, const OptionDescription& option)
 
 void appendNames(std::wstring& out, const OptionDescription& option)
 {
-    // The further names stand before the primary one, the last declared first.
+    // The primary name comes last, after the further names in reverse order of declaration.
     for (std::size_t position = option.names.size(); position > 1; --position)
     {
-        out.append(L"-").append(option.names[position - 1]).append(L", ");
+        out.append(L"-").append(option.names[position - 1].text()).append(L", ");
     }
     out.append(L"-").append(option.primaryName());
     if (option.valueType == value_type_boolean)
@@ -104,42 +106,12 @@ void appendOption(std::wstring& out, const OptionDescription& option)
     }
 }
 
-// Sorts by primary name; what has one name stays in its order. The first characters decide nearly
-// always and are compared as one number.
+// The sort is stable: entries with the same primary name keep their order.
 void sortByName(std::vector<const OptionDescription*>& entries)
 {
-    constexpr std::size_t leading = sizeof(std::uint64_t) / sizeof(wchar_t);
-    struct Key
-    {
-        std::uint64_t beginning;
-        const OptionDescription* entry;
-    };
-    const auto keyOf = [](const OptionDescription* entry) -> Key
-    {
-        // A text that ends early has zeros there, which are not larger than any character.
-        constexpr std::int64_t lowest =
-            std::is_signed_v<wchar_t> ? -(std::int64_t{1} << (8 * sizeof(wchar_t) - 1)) : 0;
-        const std::wstring_view name = entry->primaryName();
-        std::uint64_t beginning = 0;
-        for (std::size_t position = 0; position < leading; ++position)
-        {
-            const std::int64_t above = position < name.size() ? name[position] - lowest : 0;
-            beginning = beginning << (8 * sizeof(wchar_t)) | static_cast<std::uint64_t>(above);
-        }
-        return {beginning, entry};
-    };
-    std::vector<Key> keys;
-    keys.reserve(entries.size());
-    std::transform(entries.begin(), entries.end(), std::back_inserter(keys), keyOf);
-    std::stable_sort(keys.begin(), keys.end(),
-                     [](const Key& left, const Key& right)
-                     {
-                         return left.beginning != right.beginning
-                                    ? left.beginning < right.beginning
-                                    : left.entry->primaryName() < right.entry->primaryName();
-                     });
-    std::transform(keys.begin(), keys.end(), entries.begin(),
-                   [](const Key& key) { return key.entry; });
+    std::stable_sort(entries.begin(), entries.end(),
+                     [](const OptionDescription* left, const OptionDescription* right)
+                     { return left->primaryName() < right->primaryName(); });
 }
 
 } // namespace
@@ -157,16 +129,17 @@ std::wstring formatNames(const OptionDescription& option)
 }
 
 std::wstring
-formatOptionHelp(const std::vector<std::pair<std::wstring_view, std::wstring_view>>& groups,
+formatOptionHelp(const std::vector<OptionGroup>& groups,
                  std::vector<const OptionDescription*> entries, bool hidden)
 {
+    assert(std::find(entries.begin(), entries.end(), nullptr) == entries.end());
     sortByName(entries);
     std::map<std::wstring_view, std::vector<const OptionDescription*>> byGroup;
     for (const OptionDescription* const entry : entries)
     {
         if (!entry->marked)
         {
-            byGroup[entry->group()].push_back(entry);
+            byGroup[entry->group.name].push_back(entry);
         }
     }
     std::wstring out;

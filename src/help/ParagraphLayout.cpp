@@ -1,9 +1,10 @@
 #include "help/ParagraphLayout.h"
 
 #include <algorithm>
+#include <cassert>
 #include <stdexcept>
 
-#include "support/Text.h"
+#include "support/text/Text.h"
 
 namespace kexa_3_3
 {
@@ -11,12 +12,13 @@ namespace kexa_3_3
 namespace
 {
 
-[[noreturn]] void failForWantOfRoom()
+[[noreturn]] void throwLineTooNarrow()
 {
     throw std::out_of_range("no character of the text fits on a line");
 }
 
-// A character outside the basic plane is not broken apart while a line has room for both halves.
+// Returns the length of a line so that it does not end between the halves of a surrogate pair. Only
+// a line with room for a single unit still splits a pair.
 [[nodiscard]] std::size_t keepPairWhole(std::wstring_view text, std::size_t length) noexcept
 {
     const bool splits = wide_is_utf16 && length > 1 && length < text.size() &&
@@ -24,11 +26,18 @@ namespace
     return splits ? length - 1 : length;
 }
 
-// How many characters at the front of the text go on a line with room for `room`. The text is empty
-// or begins with neither a blank nor a line feed.
+[[nodiscard]] bool startsWithSeparator(std::wstring_view text) noexcept
+{
+    return !text.empty() && (text.front() == L' ' || text.front() == L'\n');
+}
+
+// Returns how many characters at the front of the text fill a line with room for `room` characters.
+// Precondition: the text does not start with a separator.
 [[nodiscard]] std::size_t chunkLength(std::wstring_view text, std::size_t room)
 {
-    // Looked for where it matters only: the whole of a long text would be searched for every line.
+    assert(!startsWithSeparator(text));
+    // The search for a line feed is limited to what fits. Searching all of the text for each line
+    // would be quadratic.
     const std::wstring_view fitting = text.substr(0, room);
     const std::size_t length = std::min(fitting.find(L'\n'), fitting.size());
     if (length == text.size())
@@ -37,7 +46,7 @@ namespace
     }
     if (length == 0)
     {
-        failForWantOfRoom();
+        throwLineTooNarrow();
     }
     const bool insideWord =
         text[length] != L' ' && text[length] != L'\n' && text[length - 1] != L' ';
@@ -64,39 +73,42 @@ void appendParagraph(std::wstring& out, std::wstring_view lead, std::wstring_vie
 void continueParagraph(std::wstring& out, std::size_t leadLength, std::wstring_view text,
                        std::size_t indent, std::size_t lineWidth)
 {
+    assert(!text.empty());
+    assert(leadLength <= out.size());
     if (lineWidth <= indent)
     {
-        failForWantOfRoom();
+        throwLineTooNarrow();
     }
-    const std::size_t width = lineWidth - indent;
-    std::size_t lineLength = leadLength;
+    std::size_t lineLength = leadLength; // of the line that `out` ends with
     while (!text.empty())
     {
-        if (text.front() == L' ' || text.front() == L'\n')
+        if (startsWithSeparator(text))
         {
             text.remove_prefix(1);
             if (!text.empty())
             {
                 continue;
             }
+            // A separator at the end of the text adds one more line.
         }
-        std::size_t room = width - 1;
+        std::size_t room = 0;
         if (lineLength < indent)
         {
             out.append(indent - lineLength, L' ');
+            room = lineWidth - indent - 1;
         }
-        else if (room > lineLength - indent + 1)
+        else if (lineLength + 2 < lineWidth)
         {
-            room = indent + width - 2 - lineLength;
             out.push_back(L' ');
+            room = lineWidth - lineLength - 2;
+        }
+        else if (lineLength == 0 && !text.empty())
+        {
+            // An empty line without indentation has no room, so no following line has any.
+            throwLineTooNarrow();
         }
         else
         {
-            // The line is full before any text: with no indentation every line would be.
-            if (lineLength == 0 && !text.empty())
-            {
-                failForWantOfRoom();
-            }
             out.push_back(L'\n');
             lineLength = 0;
             continue;

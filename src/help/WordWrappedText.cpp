@@ -1,7 +1,7 @@
 #include "kexa/word_wrapped_text.h"
 
 #include "help/ParagraphLayout.h"
-#include "support/Text.h"
+#include "support/text/Text.h"
 
 namespace kexa_3_3
 {

@@ -1,57 +1,58 @@
 #include "options/OptionDescription.h"
 
 #include <algorithm>
-#include <memory>
+#include <tuple>
 
-#include "support/Garbage.h"
-#include "support/Text.h"
+#include "options/OptionIndex.h"
+#include "support/memory/Garbage.h"
+#include "support/text/Text.h"
 
 namespace kexa_3_3
 {
 
+OptionDescription::OptionDescription(const OptionGroup& group_, bool isSwitch,
+                                     Garbage& pool) noexcept
+    : names(&pool.memory()), group(group_), valueMode(isSwitch ? 0 : 1), owner(&pool)
+{
+}
+
 IOption& OptionDescription::addName(const wchar_t* name)
 {
-    const HashedText kept(owner->keep(viewOf(name)));
+    const HashedText text(viewOf(name));
     OptionIndex* const index = m_place.held.index;
-    if (index != nullptr)
+    if (index == nullptr)
     {
-        index->reserve(1);
+        names.push_back(text.movedTo(owner->keep(text.text())));
+        return *this;
     }
-    names.append(kept, owner->memory());
-    namesAreJoined = false;
-    if (index != nullptr)
-    {
-        index->add(names.back(), m_place.held.tableIndex, valueType == value_type_boolean);
-    }
+    const OptionIndex::NewName added = index->prepare(text, valueType == value_type_boolean);
+    index->reserveMore(1);
+    names.push_back(added.name);
+    index->add(added, m_place.held.number);
     return *this;
 }
 
 IOption& OptionDescription::addAllowedValue(const vexkit2::variant_t& value)
 {
-    noteValues();
-    ValueRestriction& restriction = m_restriction.make();
-    restriction.allowedValues.push_back(value);
+    allowedValues.push_back(value);
     if (separator == 0)
     {
         separator = L',';
     }
-    restriction.index.held.reset();
+    m_valueIndex.held.reset();
     return *this;
 }
 
 IOption& OptionDescription::addDeprecatedValue(const vexkit2::variant_t& oldValue,
                                                const vexkit2::variant_t& replacement)
 {
-    noteValues();
-    ValueRestriction& restriction = m_restriction.make();
-    restriction.deprecatedValues.emplace(oldValue, replacement);
-    restriction.index.held.reset();
+    deprecatedValues.emplace(oldValue, replacement);
+    m_valueIndex.held.reset();
     return *this;
 }
 
 IOption& OptionDescription::setDefaultValue(const vexkit2::variant_t& value)
 {
-    noteValues();
     defaultValue = value;
     hasDefault = true;
     return *this;
@@ -72,28 +73,65 @@ IOption& OptionDescription::setMarked()
 
 IOption& OptionDescription::addKeywords(const wchar_t* list)
 {
-    if (list != nullptr)
-    {
-        keywords.add(list, *owner);
-        notePositional();
-    }
+    // Collected first: the option gets all of them or, where memory runs out, none.
+    std::set<std::wstring_view> added;
+    forEachPiece(viewOf(list), L',',
+                 [this, &added](std::wstring_view piece)
+                 {
+                     if (!keywords.contains(piece) && !added.contains(piece))
+                     {
+                         added.insert(owner->keep(piece));
+                     }
+                 });
+    keywords.merge(added);
+    notePositional();
     return *this;
 }
 
-bool OptionDescription::answersTo(std::wstring_view name) const noexcept
+bool OptionDescription::hasName(std::wstring_view name) const noexcept
 {
-    return std::find(names.begin(), names.end(), name) != names.end();
+    return std::any_of(names.begin(), names.end(),
+                       [name](const HashedText& own) { return own.text() == name; });
+}
+
+void OptionDescription::enterInto(OptionIndex& index, std::size_t number) noexcept
+{
+    m_place.held = {&index, number};
+    notePositional();
+}
+
+OptionIdentity OptionDescription::identity() const noexcept
+{
+    const Place& place = m_place.held;
+    return place.index == nullptr ? OptionIdentity()
+                                  : OptionIdentity{place.index->identity(), place.number};
+}
+
+void OptionDescription::notePositional() noexcept
+{
+    if (m_place.held.index != nullptr && isPositional())
+    {
+        m_place.held.index->notePositional(m_place.held.number);
+    }
 }
 
 const AllowedValueIndex& OptionDescription::allowedValueIndex() const
 {
-    std::unique_ptr<AllowedValueIndex>& index = restriction()->index.held;
-    if (index == nullptr)
+    if (m_valueIndex.held == nullptr)
     {
-        index = std::make_unique<AllowedValueIndex>(valueType, restriction()->allowedValues,
-                                                    restriction()->deprecatedValues);
+        m_valueIndex.held =
+            std::make_unique<AllowedValueIndex>(valueType, allowedValues, deprecatedValues);
     }
-    return *index;
+    return *m_valueIndex.held;
+}
+
+bool shareKeyword(const OptionDescription& left, const OptionDescription& right)
+{
+    const auto& [fewer, more] = left.keywords.size() < right.keywords.size()
+                                    ? std::tie(left.keywords, right.keywords)
+                                    : std::tie(right.keywords, left.keywords);
+    return std::any_of(fewer.begin(), fewer.end(),
+                       [&more = more](std::wstring_view keyword) { return more.contains(keyword); });
 }
 
 } // namespace kexa_3_3

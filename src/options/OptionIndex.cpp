@@ -2,11 +2,10 @@
 
 #include <algorithm>
 #include <atomic>
-#include <iterator>
+#include <cassert>
 #include <tuple>
-#include <utility>
 
-#include "support/Text.h"
+#include "support/memory/Garbage.h"
 
 namespace kexa_3_3
 {
@@ -14,15 +13,7 @@ namespace kexa_3_3
 namespace
 {
 
-// The smaller index of the two, where `none` counts as larger than any.
-std::int64_t firstOf(std::int64_t left, std::int64_t right) noexcept
-{
-    if (left == OptionIndex::none || right == OptionIndex::none)
-    {
-        return left == OptionIndex::none ? right : left;
-    }
-    return std::min(left, right);
-}
+constexpr std::size_t expected_texts = 32; // of a program of usual size
 
 std::uint64_t newIdentity() noexcept
 {
@@ -30,160 +21,147 @@ std::uint64_t newIdentity() noexcept
     return last.fetch_add(1, std::memory_order_relaxed) + 1;
 }
 
+template <class Vector>
+void reserveMore(Vector& elements, std::size_t count)
+{
+    const std::size_t needed = elements.size() + count;
+    if (needed > elements.capacity())
+    {
+        elements.reserve(std::max(needed, 2 * elements.capacity()));
+    }
+}
+
 } // namespace
 
-OptionIndex::OptionIndex(std::pmr::memory_resource& memory) noexcept
-    : m_identity(newIdentity()), m_names(memory, m_firstNames.bytes()),
-      m_slots(memory, m_firstSlots.bytes())
+OptionIndex::OptionIndex(Garbage& pool)
+    : m_pool(pool), m_identity(newIdentity()), m_texts(pool.memory(), expected_texts),
+      m_candidates(&pool.memory())
 {
+    m_candidates.reserve(expected_texts);
 }
 
-// Each name has a slot, so there is room for a name where the table of names has it.
-void OptionIndex::grow(std::size_t count)
+OptionIndex::NewName OptionIndex::prepare(const HashedText& name, bool boolean)
 {
-    const std::size_t room = m_names.nextRoom(count);
-    m_slots.reserve(room);
-    m_names.grow(room);
-}
-
-// By itself, for this is seldom run.
-std::size_t OptionIndex::slotFrom(std::size_t slot, const HashedText& name) const noexcept
-{
-    return m_slots.slotFrom(slot, name, textOf());
-}
-
-// Enters a name whose slot was taken after it was found, by a name of the same option, or that has
-// the text of a known one.
-void OptionIndex::addBehind(std::size_t slot, std::uint32_t number) noexcept
-{
-    Name& name = m_names[number];
-    slot = slotFrom(slot, *name.text);
-    if (isTaken(slot))
+    if (!boolean)
     {
-        m_sharesNames = true;
-        Name& known = m_names[m_slots.numberAt(slot)];
-        const std::uint32_t firstBoolean = std::min(known.firstBoolean, name.firstBoolean);
-        if (known.option <= name.option)
-        {
-            known.firstBoolean = firstBoolean;
-            return;
-        }
-        // It is an earlier option's, so it takes the place over.
-        known.firstBoolean = known.isBoolean() ? known.option : no_option;
-        name.firstBoolean = firstBoolean;
+        return {name.movedTo(m_pool.keep(name.text())), HashedText()};
     }
-    m_slots.put(slot, number, *name.text);
+    // One copy for both: the name is the end of its negation.
+    const std::wstring_view negated = m_pool.keepJoined(negation, name.text());
+    return {name.movedTo(negated.substr(negation.size())), HashedText(negated)};
 }
 
-// The first option, in table order, that answers to a text that begins as negations do.
-std::int64_t OptionIndex::findAlsoNegated(const HashedText& text) const noexcept
+void OptionIndex::reserveMore(std::size_t names)
 {
-    const Name* const negated = find(HashedText(text.substr(negation.size())));
-    return firstOf(findNamed(text), negated == nullptr ? none : indexOf(negated->firstBoolean));
+    constexpr std::size_t texts_of_name = 2; // with the negation
+    m_texts.reserveMore(texts_of_name * names);
+    kexa_3_3::reserveMore(m_candidates, texts_of_name * names);
 }
 
-void OptionIndex::sortNames() const
+void OptionIndex::add(const NewName& name, std::size_t option) noexcept
 {
-    if (m_sorted.size() == m_names.size())
+    const auto number = static_cast<std::uint32_t>(option);
+    addCandidate(name.name, number, true);
+    if (!name.negated.text().empty())
+    {
+        addCandidate(name.negated, number, false);
+    }
+}
+
+void OptionIndex::addCandidate(const HashedText& text, std::uint32_t option, bool isName) noexcept
+{
+    KnownText* known = m_texts.find(text);
+    if (known == nullptr)
+    {
+        known = &m_texts.add({text});
+    }
+    // An earlier option may get a name that a later one has.
+    known->candidate = std::min(known->candidate, option);
+    if (isName)
+    {
+        known->named = std::min(known->named, option);
+    }
+    assert(m_candidates.size() < m_candidates.capacity());
+    const auto number = static_cast<std::uint32_t>(m_candidates.size());
+    m_candidates.push_back({text.text(), option, number});
+}
+
+std::optional<std::size_t> OptionIndex::findNamed(const HashedText& name) const noexcept
+{
+    const KnownText* const known = m_texts.find(name);
+    return known == nullptr || known->named == no_option ? std::nullopt
+                                                         : std::optional<std::size_t>(known->named);
+}
+
+std::optional<std::size_t> OptionIndex::findCandidate(const HashedText& text) const noexcept
+{
+    const KnownText* const known = m_texts.find(text);
+    return known == nullptr ? std::nullopt : std::optional<std::size_t>(known->candidate);
+}
+
+void OptionIndex::sortCandidates() const noexcept
+{
+    if (m_sortedCandidates == m_candidates.size())
     {
         return;
     }
-    // New lists first: where memory runs out, the next search tries again.
-    const auto before = [](const SortedName& left, const SortedName& right)
+    const auto before = [](const Candidate& left, const Candidate& right)
     {
         return left.text < right.text;
     };
-    const auto known = static_cast<std::ptrdiff_t>(m_sorted.size());
-    std::vector<SortedName> sorted(m_sorted);
-    sorted.reserve(m_names.size());
-    for (auto number = static_cast<std::uint32_t>(m_sorted.size()); number < m_names.size();
-         ++number)
-    {
-        const Name& name = m_names[number];
-        sorted.push_back(
-            {*name.text, name.option, number & 0x7FFFFFFF, name.isBoolean() ? 1U : 0U});
-    }
-    std::sort(sorted.begin() + known, sorted.end(), before);
-    std::inplace_merge(sorted.begin(), sorted.begin() + known, sorted.end(), before);
-    std::vector<SortedName> booleans;
-    std::copy_if(sorted.begin(), sorted.end(), std::back_inserter(booleans),
-                 [](const SortedName& name) { return name.boolean != 0; });
-    m_sorted = std::move(sorted);
-    m_sortedBooleans = std::move(booleans);
+    const auto middle = m_candidates.begin() + static_cast<std::ptrdiff_t>(m_sortedCandidates);
+    std::sort(middle, m_candidates.end(), before);
+    std::inplace_merge(m_candidates.begin(), middle, m_candidates.end(), before);
+    m_sortedCandidates = m_candidates.size();
 }
 
-OptionIndex::Range OptionIndex::rangeOf(const std::vector<SortedName>& sorted,
-                                        std::wstring_view beginning)
+// The candidates that begin with a text are neighbours in the sorted list.
+std::pair<OptionIndex::Candidates::const_iterator, OptionIndex::Candidates::const_iterator>
+OptionIndex::prefixRange(std::wstring_view beginning) const noexcept
 {
-    const SortedName* const begin = sorted.data();
-    const SortedName* const end = begin + sorted.size();
-    const SortedName* const first = std::lower_bound(
-        begin, end, beginning,
-        [](const SortedName& name, std::wstring_view text) { return name.text < text; });
-    const SortedName* const last =
-        std::partition_point(first, end,
-                             [beginning](const SortedName& name)
-                             { return name.text.substr(0, beginning.size()) == beginning; });
+    sortCandidates();
+    const auto first = std::lower_bound(
+        m_candidates.cbegin(), m_candidates.cend(), beginning,
+        [](const Candidate& candidate, std::wstring_view text) { return candidate.text < text; });
+    const auto last = std::partition_point(first, m_candidates.cend(),
+                                           [beginning](const Candidate& candidate)
+                                           { return candidate.text.starts_with(beginning); });
     return {first, last};
 }
 
-OptionIndex::Range OptionIndex::plainRange(std::wstring_view beginning) const
+OptionIndex::PrefixMatches OptionIndex::matchPrefix(std::wstring_view beginning) const noexcept
 {
-    return rangeOf(m_sorted, beginning);
-}
-
-OptionIndex::Range OptionIndex::negatedRange(std::wstring_view beginning) const
-{
-    const std::size_t shared = std::min(beginning.size(), negation.size());
-    const bool negated = beginning.substr(0, shared) == negation.substr(0, shared);
-    return negated ? rangeOf(m_sortedBooleans, beginning.substr(shared)) : Range();
-}
-
-OptionIndex::PrefixMatches OptionIndex::matchPrefix(std::wstring_view beginning) const
-{
-    sortNames();
-    const Range plain = plainRange(beginning);
-    const Range negated = negatedRange(beginning);
+    const auto [first, last] = prefixRange(beginning);
     PrefixMatches matches;
-    matches.count = plain.size() + negated.size();
+    matches.count = static_cast<std::size_t>(last - first);
     if (matches.count == 1)
     {
-        matches.negated = plain.size() == 0;
-        const SortedName& name = matches.negated ? *negated.begin : *plain.begin;
-        matches.option = name.option;
-        matches.name = name.text;
+        matches.option = first->option;
+        matches.candidate = first->text;
     }
     return matches;
 }
 
-std::vector<std::wstring> OptionIndex::listPrefix(std::wstring_view beginning) const
+std::vector<std::wstring_view> OptionIndex::listPrefix(std::wstring_view beginning) const
 {
-    using Match = std::tuple<std::uint32_t, std::uint32_t, bool, std::wstring_view>;
-    std::vector<Match> matches;
-    const auto collect = [&matches](const Range& range, bool negated)
-    {
-        for (const SortedName* name = range.begin; name != range.end; ++name)
-        {
-            matches.emplace_back(name->option, name->number, negated, name->text);
-        }
-    };
-    sortNames();
-    collect(plainRange(beginning), false);
-    collect(negatedRange(beginning), true);
-    std::sort(matches.begin(), matches.end());
-
-    std::vector<std::wstring> texts;
+    const auto [first, last] = prefixRange(beginning);
+    std::vector<Candidate> matches(first, last);
+    std::sort(matches.begin(), matches.end(),
+              [](const Candidate& left, const Candidate& right) {
+                  return std::tie(left.option, left.number) < std::tie(right.option, right.number);
+              });
+    std::vector<std::wstring_view> texts;
     texts.reserve(matches.size());
-    for (const auto& [option, number, negated, text] : matches)
+    for (const Candidate& match : matches)
     {
-        texts.push_back(concatenate({negated ? negation : std::wstring_view(), text}));
+        texts.push_back(match.text);
     }
     return texts;
 }
 
 void OptionIndex::notePositional(std::size_t option) noexcept
 {
-    m_firstPositional = firstOf(m_firstPositional, static_cast<std::int64_t>(option));
+    m_firstPositional = std::min(m_firstPositional.value_or(option), option);
 }
 
 } // namespace kexa_3_3

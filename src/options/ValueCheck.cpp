@@ -8,8 +8,8 @@
 #include "options/ValueText.h"
 #include "options/ValueType.h"
 #include "support/ConsoleStreams.h"
-#include "support/SharedTexts.h"
-#include "support/Text.h"
+#include "support/memory/SharedTexts.h"
+#include "support/text/Text.h"
 
 namespace kexa_3_3
 {
@@ -28,7 +28,7 @@ std::wstring conversionMessage(const OptionDescription& option, std::wstring_vie
 std::wstring possibleValues(const OptionDescription& option)
 {
     std::wstring list;
-    for (const variant_t& value : option.allowedValues())
+    for (const variant_t& value : option.allowedValues)
     {
         list += concatenate({list.empty() ? L"'" : L", '", valueText(value), L"'"});
     }
@@ -75,10 +75,6 @@ ValueVerdict checkAllowedValue(const OptionDescription& option, std::wstring_vie
         if (matches.count == 1)
         {
             match = matches.candidate;
-            if (texts != nullptr)
-            {
-                texts->discard(value);
-            }
             value = makeText(matches.text, texts);
             verdict = ValueVerdict::changed;
         }
@@ -88,7 +84,7 @@ ValueVerdict checkAllowedValue(const OptionDescription& option, std::wstring_vie
         return ValueVerdict::refused;
     }
 
-    const auto& deprecatedValues = option.restriction()->deprecatedValues;
+    const auto& deprecatedValues = option.deprecatedValues;
     const auto deprecated = deprecatedValues.find(*match);
     if (deprecated != deprecatedValues.end())
     {

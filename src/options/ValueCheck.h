@@ -47,7 +47,7 @@ enum class ValueVerdict : std::uint8_t
     {
         return ValueVerdict::unreadable;
     }
-    return option.allowedValues().empty() ? ValueVerdict::accepted
+    return option.allowedValues.empty() ? ValueVerdict::accepted
                                           : checkAllowedValue(option, text, value, texts);
 }
 

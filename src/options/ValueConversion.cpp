@@ -11,8 +11,8 @@
 
 #include "kexa/option.h"
 
-#include "support/SharedTexts.h"
-#include "support/Text.h"
+#include "support/memory/SharedTexts.h"
+#include "support/text/Text.h"
 
 namespace kexa_3_3
 {

@@ -7,7 +7,7 @@
 #include "options/OptionDescription.h"
 #include "options/RegisteredOptionStorage.h"
 #include "result/OptionResultTable.h"
-#include "support/Text.h"
+#include "support/text/Text.h"
 
 namespace kexa_3_3
 {
@@ -33,18 +33,18 @@ struct Overview
 Overview survey(const OptionResultTable& result, const RegisteredOptionStorage& options)
 {
     Overview overview;
-    for (std::size_t number = 0; number < result.size(); ++number)
+    for (const OptionResultTable::NamedRecord& stored : result.names())
     {
-        if (!result.record(number).occurrences.hasPositions())
+        if (!stored.record->occurrences.hasPositions())
         {
             continue;
         }
-        const HashedText& name = result.name(number);
-        const OptionDescription* const option = options.find(name);
+        const std::wstring_view name = stored.name.text();
+        const OptionDescription* const option = options.find(stored.name);
         if (option == nullptr)
         {
             overview.firstUnknown =
-                std::min<std::wstring_view>(overview.firstUnknown.value_or(name), name);
+                std::min(overview.firstUnknown.value_or(name), name);
         }
         else if (!option->takesValue())
         {
@@ -103,7 +103,7 @@ const Given* findUnaccepted(const std::vector<Given>& restricted, const OptionDe
     for (const Given& given : restricted)
     {
         if ((first == nullptr || given.name < first->name) &&
-            !shareKeyword(given.option->keywords, action.keywords))
+            !shareKeyword(*given.option, action))
         {
             first = &given;
         }
@@ -128,7 +128,7 @@ std::wstring unacceptedMessage(const OptionDescription& action, const OptionDesc
 result_t checkActions(const OptionResultTable& result, const RegisteredOptionStorage& options,
                       const ActionGroups& compatible, std::wstring& message)
 {
-    if (!options.hasActions() && result.isFilledFrom(options.index()))
+    if (!options.hasActions() && result.isFilledFrom(options.index().identity()))
     {
         return result_success; // nothing to combine, and no unknown name
     }

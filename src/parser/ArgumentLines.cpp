@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "support/Text.h"
+#include "support/text/Text.h"
 #include "support/Utf8.h"
 
 namespace kexa_3_3

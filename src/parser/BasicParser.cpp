@@ -6,7 +6,7 @@
 #include "help/HelpOutput.h"
 #include "parser/OptionFiles.h"
 #include "result/ParseResult.h"
-#include "support/Text.h"
+#include "support/text/Text.h"
 
 namespace kexa_3_3
 {
@@ -119,8 +119,8 @@ bool BasicParser::hasOption(const wchar_t* name, bool switchesOnly, const wchar_
     for (std::size_t index = 0; index < m_options.size(); ++index)
     {
         const OptionDescription& option = m_options[index];
-        if (option.takesValue() != switchesOnly && (group == nullptr || option.group() == group) &&
-            option.answersTo(wanted))
+        if (option.takesValue() != switchesOnly && (group == nullptr || option.group.name == group) &&
+            option.hasName(wanted))
         {
             return true;
         }
@@ -152,7 +152,7 @@ const wchar_t* BasicParser::help(MakeHelp makeHelp)
 {
     try
     {
-        return m_strings.adoptText(makeHelp()).data();
+        return m_strings.internText(makeHelp()).data();
     }
     catch (const std::exception&)
     {

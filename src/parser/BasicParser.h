@@ -12,8 +12,8 @@
 #include "options/RegisteredOptionStorage.h"
 #include "parser/ActionCheck.h"
 #include "parser/EventForwarding.h"
-#include "support/Garbage.h"
-#include "support/InlineBlock.h"
+#include "support/memory/Garbage.h"
+#include "support/memory/InlineBlock.h"
 
 namespace kexa_3_3
 {

@@ -2,7 +2,7 @@
 
 #include "parser/ArgumentLines.h"
 #include "support/FileLoading.h"
-#include "support/Text.h"
+#include "support/text/Text.h"
 
 namespace kexa_3_3
 {
@@ -28,19 +28,17 @@ std::wstring_view reasonOf(FileProblem problem) noexcept
 }
 
 // The whole text of a value, zero characters included: a name that holds one names no file.
-std::wstring wholeText(const Occurrence& stored, SharedTexts& texts)
+std::wstring wholeText(const Occurrence& stored)
 {
-    vexkit2::variant_t value;
-    stored.copyValueTo(value, texts);
-    const std::size_t units =
-        value.kind() == vexkit2::kind_wide_text ? value.byte_length() / sizeof(wchar_t) : 0;
+    const std::size_t units = stored.value.kind() == vexkit2::kind_wide_text
+                                  ? stored.value.byte_length() / sizeof(wchar_t)
+                                  : 0;
     return units == 0 ? std::wstring(stored.text) : std::wstring(stored.text, units - 1);
 }
 
 const StoredOption* resultOf(const OptionResultTable& options) noexcept
 {
-    // The usual parse fills an empty result, where nothing needs to be looked for.
-    return options.size() == 0 ? nullptr : options.find(std::wstring_view(option_file_name));
+    return options.find(std::wstring_view(option_file_name));
 }
 
 result_t readFile(const std::wstring& name, const OptionFiles::ParseFile& parseFile,
@@ -65,7 +63,7 @@ result_t readFile(const std::wstring& name, const OptionFiles::ParseFile& parseF
 
 } // namespace
 
-OptionFiles::OptionFiles(OptionResultTable& options)
+OptionFiles::OptionFiles(const OptionResultTable& options)
     : m_options(options), m_record(resultOf(options)), m_next(0)
 {
     if (m_record != nullptr)
@@ -89,15 +87,15 @@ result_t OptionFiles::readAll(const ParseFile& parseFile, std::wstring& message)
         if (record != m_record)
         {
             m_record = record;
-            m_place = record->occurrences.placeOf(m_next);
+            m_place = record->occurrences.placeBehind(m_next);
         }
         const Occurrence& occurrence = *record->occurrences.next(m_place);
         ++m_next;
-        if (!occurrence.isValue())
+        if (!occurrence.isValue)
         {
             continue;
         }
-        const std::wstring name = wholeText(occurrence, m_options.texts());
+        const std::wstring name = wholeText(occurrence);
         if (!m_read.insert(canonicalPath(name)).second)
         {
             continue;

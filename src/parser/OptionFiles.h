@@ -26,14 +26,14 @@ public:
     using ParseFile = std::function<result_t(ArgumentSource&)>;
 
     // Made before a parse stores anything: what the result holds then was read by earlier parses.
-    explicit OptionFiles(OptionResultTable& options);
+    explicit OptionFiles(const OptionResultTable& options);
 
     // Answers 0; 6 with a message where a file cannot be read; or the first non-zero code that
     // parsing a file answered.
     [[nodiscard]] result_t readAll(const ParseFile& parseFile, std::wstring& message);
 
 private:
-    OptionResultTable& m_options;
+    const OptionResultTable& m_options;
     const StoredOption* m_record; // the one that was looked at last, or null
     Occurrences::Place m_place;   // of the first occurrence in it not looked at
     std::size_t m_next;           // the same as an index

@@ -14,7 +14,7 @@
 #include "recognition/PositionalOptionsParser.h"
 #include "recognition/Runs.h"
 #include "result/ParseResult.h"
-#include "support/Text.h"
+#include "support/text/Text.h"
 #include "support/Trace.h"
 
 namespace kexa_3_3
@@ -281,18 +281,13 @@ result_t BasicParser::checkActions(const ArgumentQueue& /*arguments*/, IParseRes
 // Hands the result the default of every option that has one.
 void BasicParser::storeDefaults(IParseResult& result) const
 {
-    if (!m_options.index().holdsValues())
-    {
-        return; // no option has a default
-    }
     ParseResult* const filled = fillable(&result);
     if (filled == nullptr)
     {
         return;
     }
-    for (std::size_t index = 0; index < m_options.size(); ++index)
+    for (const OptionDescription& option : m_options)
     {
-        const OptionDescription& option = m_options[index];
         if (!option.hasDefault)
         {
             continue;

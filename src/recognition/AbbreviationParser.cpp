@@ -8,7 +8,7 @@
 #include "options/RegisteredOptionStorage.h"
 #include "recognition/Runs.h"
 #include "result/ParseResult.h"
-#include "support/Text.h"
+#include "support/text/Text.h"
 
 namespace kexa_3_3
 {
@@ -65,12 +65,12 @@ int AbbreviationParser::recognizeIn(const ArgumentQueue& arguments,
     }
     if (m_match.count == 1)
     {
-        trace<Run>(L": best match option for '", m_split.name, L"' in argument '", argument,
-                   L"' is '", m_match.prefix(), m_match.name, L"'");
+        trace<Run>(L": best match option for '", typedName(), L"' in argument '", argument, L"' is '",
+                   m_match.candidate, L"'");
     }
     else
     {
-        trace<Run>(L": failed to get best match for '", m_split.name, L"' in argument '", argument,
+        trace<Run>(L": failed to get best match for '", typedName(), L"' in argument '", argument,
                    L"':", L"Ambiguous option, possible options are: ", viewOf(m_candidateList));
     }
     return claimed;
@@ -83,11 +83,11 @@ bool AbbreviationParser::findMatch(std::wstring_view argument, const OptionIndex
     {
         return false;
     }
-    splitOptionArgument(argument, m_whiteSpace, m_split);
-    findBestMatch(m_match, index, m_split.name);
-    if (m_match.count > 1) [[unlikely]]
+    m_split = splitOptionArgument(argument, m_whiteSpace);
+    m_match = findBestMatch(index, m_split.name);
+    if (m_match.count > 1)
     {
-        m_candidateList = listCandidates(index, m_split.name);
+        m_candidateList = listCandidates(index, typedName());
     }
     return m_match.count != 0;
 }
@@ -98,28 +98,27 @@ int AbbreviationParser::parseIn(ArgumentQueue& arguments, typename Run::Collecto
                                 std::wstring& error)
 {
     const std::wstring_view argument = arguments.front();
-    optionIndex = m_match.option;
+    optionIndex = static_cast<std::int64_t>(m_match.option);
     trace<Run>(L": parsing argument '", argument, L"'");
-    if (m_split.name.empty() || m_split.name.front() == L'-') [[unlikely]]
+    if (typedName().empty() || typedName().front() == L'-') [[unlikely]]
     {
         error = concatenate({L"Unknown option '", argument, L"'"});
         return invalid;
     }
     if (m_match.count > 1) [[unlikely]]
     {
-        error = concatenate({L"Ambiguous option '", m_split.name, L"'",
+        error = concatenate({L"Ambiguous option '", typedName(), L"'",
                              formatArgumentContext(argument), L", could be: ", m_candidateList});
         return invalid;
     }
 
-    const OptionDescription& option = options[static_cast<std::size_t>(m_match.option)];
+    const OptionDescription& option = options[m_match.option];
     trace<Run>(L": detected option: '", option.primaryName(), L"'");
     if (m_split.hasValue)
     {
         trace<Run>(L": value from the same argument taken: '", m_split.value, L"'");
     }
-    // In words, as they were just written: reading larger pieces makes the processor wait.
-    GivenValue given = {option, {m_split.value.data(), m_split.value.size()}, argument};
+    GivenValue given = {option, m_split.value, argument};
     bool takesNext = false;
     if (!takeValue<Run>(given, takesNext, arguments, error)) [[unlikely]]
     {

@@ -38,6 +38,7 @@ public:
     [[nodiscard]] std::int32_t priority() const noexcept override { return -10; }
 
 private:
+    [[nodiscard]] std::wstring_view typedName() const noexcept { return m_split.name.text(); }
     [[nodiscard]] bool findMatch(std::wstring_view argument, const OptionIndex& index);
 
     // Answer whether an option is given what it needs; otherwise `error` receives the message.

@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-#include "support/Text.h"
+#include "support/text/Text.h"
 
 namespace kexa_3_3
 {

@@ -1,20 +1,14 @@
 #include "recognition/BestMatch.h"
 
-#include "support/Text.h"
+#include "support/text/Text.h"
 
 namespace kexa_3_3
 {
 
-BestMatch matchBeginning(const OptionIndex& index, std::wstring_view typedName)
-{
-    const OptionIndex::PrefixMatches matches = index.matchPrefix(typedName);
-    return {matches.count, matches.option, matches.name, matches.negated};
-}
-
 std::wstring listCandidates(const OptionIndex& index, std::wstring_view typedName)
 {
     std::wstring list;
-    for (const std::wstring& candidate : index.listPrefix(typedName))
+    for (const std::wstring_view candidate : index.listPrefix(typedName))
     {
         list += concatenate({list.empty() ? L"'" : L", '", candidate, L"'"});
     }

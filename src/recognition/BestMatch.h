@@ -2,59 +2,42 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "options/OptionIndex.h"
-#include "support/HashedText.h"
+#include "support/text/HashedText.h"
 
 namespace kexa_3_3
 {
 
 struct BestMatch
 {
-    // How many candidates match: 0 unknown, 1 found, more: ambiguous. The candidates are the names
-    // of all options and, for boolean ones, "no-" before them.
+    // How many candidates match: 0 unknown, 1 found, more: ambiguous.
     std::size_t count = 0;
 
-    // Where count is 1: the option's index, and the matching candidate, `prefix` (empty or "no-")
-    // and `name` one after the other.
-    std::int64_t option = OptionIndex::none;
-    std::wstring_view name;
-    bool negated = false;
+    // Where count is 1. The candidate's text is that of the pool or, where it was given whole, the
+    // one given.
+    std::size_t option = 0;
+    std::wstring_view candidate;
 
-    [[nodiscard]] std::wstring_view prefix() const noexcept
-    {
-        return negated ? negation : std::wstring_view();
-    }
     [[nodiscard]] bool beginsWithNegation() const noexcept
     {
-        return negated || kexa_3_3::beginsWithNegation(name);
+        return candidate.starts_with(negation);
     }
 };
 
-// What a name stands for that equals no candidate.
-[[nodiscard]] BestMatch matchBeginning(const OptionIndex& index, std::wstring_view typedName);
-
-// A name that equals a candidate stands for it alone, even where it begins others; otherwise the
-// candidates that begin with it match. Case counts. The texts of the answer are those given.
-inline void findBestMatch(BestMatch& match, const OptionIndex& index, const HashedText& typedName)
+// A name that equals a candidate matches it alone, even where it begins others; otherwise it matches
+// the candidates that begin with it. Case counts.
+[[nodiscard]] inline BestMatch findBestMatch(const OptionIndex& index, const HashedText& typedName)
 {
-    const std::int64_t exact = index.findAnswering(typedName);
-    if (exact != OptionIndex::none)
+    if (const std::optional<std::size_t> exact = index.findCandidate(typedName))
     {
-        // In words: where what was just written in words is read in larger pieces, the processor
-        // waits.
-        match.count = 1;
-        match.option = exact;
-        match.name = std::wstring_view(typedName.data(), typedName.size());
-        match.negated = false;
+        return {1, *exact, typedName.text()};
     }
-    else
-    {
-        match = matchBeginning(index, typedName);
-    }
+    const OptionIndex::PrefixMatches matches = index.matchPrefix(typedName.text());
+    return {matches.count, matches.option, matches.candidate};
 }
 
 // All candidates that begin with the name, in table order, each in quotes, separated by ", ".

@@ -1,6 +1,6 @@
 #include "recognition/IArgumentParser.h"
 
-#include "support/Text.h"
+#include "support/text/Text.h"
 
 namespace kexa_3_3
 {

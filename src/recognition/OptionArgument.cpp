@@ -1,5 +1,7 @@
 #include "recognition/OptionArgument.h"
 
+#include <algorithm>
+
 namespace kexa_3_3
 {
 
@@ -9,15 +11,28 @@ WhiteSpace::WhiteSpace()
 {
 }
 
-HashedText WhiteSpace::nameByFacet(std::wstring_view text) const
+OptionArgument splitOptionArgument(std::wstring_view argument, const WhiteSpace& whiteSpace)
 {
-    TextHash hash;
-    const wchar_t* const behind = text.data() + text.size();
-    const wchar_t* const end =
-        hashUntil(text.data(), hash,
-                  [this, behind](const wchar_t* place)
-                  { return place == behind || *place == L'=' || contains(*place); });
-    return HashedText({text.data(), static_cast<std::size_t>(end - text.data())}, hash);
+    std::wstring_view rest = argument.substr(countHyphens(argument));
+    const auto end = std::find_if(rest.begin(), rest.end(),
+                                  [&whiteSpace](wchar_t character)
+                                  { return character == L'=' || whiteSpace.contains(character); });
+    const auto length = static_cast<std::size_t>(end - rest.begin());
+    OptionArgument split;
+    split.name = HashedText(rest.substr(0, length));
+    split.hasValue = length < rest.size();
+    if (split.hasValue)
+    {
+        rest.remove_prefix(length);
+        const bool behindSpace = rest.front() != L'=';
+        rest.remove_prefix(1);
+        while (behindSpace && !rest.empty() && whiteSpace.contains(rest.front()))
+        {
+            rest.remove_prefix(1);
+        }
+        split.value = rest;
+    }
+    return split;
 }
 
 } // namespace kexa_3_3

@@ -46,7 +46,7 @@ int PositionalOptionsParser::recognizeIn(const ArgumentQueue& arguments,
     {
         return declined;
     }
-    return options.index().firstPositional() != OptionIndex::none ? claimed : declined;
+    return options.index().firstPositional() ? claimed : declined;
 }
 
 template <class Run>
@@ -55,8 +55,9 @@ int PositionalOptionsParser::parseIn(ArgumentQueue& arguments, typename Run::Col
                                      std::int64_t& optionIndex, std::wstring& error)
 {
     trace<Run>(L": parsing argument '", arguments.front(), L"'");
-    optionIndex = options.index().firstPositional();
-    const OptionDescription& option = options[static_cast<std::size_t>(optionIndex)];
+    const std::size_t number = options.index().firstPositional().value();
+    optionIndex = static_cast<std::int64_t>(number);
+    const OptionDescription& option = options[number];
     trace<Run>(L": option is '", option.primaryName(), L"'");
     do
     {

@@ -1,5 +1,6 @@
 #include "recognition/ValueStoring.h"
 
+#include <atomic>
 #include <limits>
 #include <utility>
 
@@ -12,10 +13,10 @@
 #include "recognition/IArgumentParser.h"
 #include "recognition/Runs.h"
 #include "result/ParseResult.h"
-#include "support/Garbage.h"
-#include "support/SharedTexts.h"
-#include "support/Text.h"
 #include "support/Trace.h"
+#include "support/memory/Garbage.h"
+#include "support/memory/SharedTexts.h"
+#include "support/text/Text.h"
 
 namespace kexa_3_3
 {
@@ -27,16 +28,18 @@ constexpr int stored = 0;
 constexpr int refused = 1;
 constexpr int invalid = 2;
 
-// One for the whole process: positions rise from parse to parse, whichever parser gives them.
+// 2147483647 marks "no position", so the numbers end before it.
+constexpr std::uint64_t sequence_numbers = std::numeric_limits<std::int32_t>::max();
+
+// One for the whole process: positions rise from parse to parse, whichever parser stores them.
+// Relaxed, since a number orders nothing but itself.
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables)
-std::int32_t sequence_counter = 0;
+std::atomic<std::uint64_t> sequence_counter = 0;
 
 std::int32_t takeSequenceNumber() noexcept
 {
-    const std::int32_t number = sequence_counter;
-    // 2147483647 marks "no position", so the numbers end before it.
-    sequence_counter = number == std::numeric_limits<std::int32_t>::max() - 1 ? 0 : number + 1;
-    return number;
+    const std::uint64_t count = sequence_counter.fetch_add(1, std::memory_order_relaxed);
+    return static_cast<std::int32_t>(count % sequence_numbers);
 }
 
 std::wstring noValueMessage(std::wstring_view value, const OptionDescription& option)
@@ -73,12 +76,13 @@ void storeWithoutValue(const GivenValue& given, Collector* collector)
 
 std::int32_t nextSequenceNumber() noexcept
 {
-    return sequence_counter;
+    const std::uint64_t count = sequence_counter.load(std::memory_order_relaxed);
+    return static_cast<std::int32_t>(count % sequence_numbers);
 }
 
 void setNextSequenceNumber(std::int32_t number) noexcept
 {
-    sequence_counter = number;
+    sequence_counter.store(static_cast<std::uint64_t>(number), std::memory_order_relaxed);
 }
 
 int ValueStoring::store(const GivenValue& given, IResultCollector* collector, std::wstring& error)
@@ -219,7 +223,6 @@ bool ValueStoring::offer(const OptionDescription& option, ValueEntry& entry) con
     ValueRecord record = {option.primaryName().data(), std::move(entry.value), entry.position};
     const bool accepted = m_parser.owner()->onValueParsed(record.optionName, &record);
     entry.value.swap(record.value);
-    static_cast<void>(record.value.detach()); // null by now, which spares its destructor's test
     return accepted;
 }
 

@@ -17,18 +17,16 @@ public:
     // Stores one occurrence of an option, or its default, under all names of the option. What is
     // stored before stays; a default is kept as first stored.
     //
-    // record: its values are moved away, unless this throws; the vectors keep their room. Texts
-    // need
-    //         to live only during the call: behind it they may be others of the same content.
+    // record: used up, its values being moved away. Its texts are copied.
     //
-    // Answers 0. Throws std::out_of_range where the option has no name, and std::bad_alloc; nothing
+    // Returns 0. Throws std::out_of_range where the option has no name, and std::bad_alloc; nothing
     // is stored then.
     virtual result_t storeOption(const OptionDescription& option, OptionResult& record) = 0;
 
-    // The same for an occurrence with one value, which is moved away unless this throws.
+    // As storeOption, of an occurrence with one value.
     virtual result_t storeValue(const OptionDescription& option, ValueEntry& value) = 0;
 
-    // Where string values are best made: those are stored without a copy.
+    // Makes string values, which then share the memory of the result.
     [[nodiscard]] virtual SharedTexts& texts() noexcept = 0;
 
 protected:

@@ -11,8 +11,8 @@
 #include "options/OptionDescription.h"
 #include "result/IResultCollector.h"
 #include "result/OptionResultTable.h"
-#include "support/Garbage.h"
-#include "support/InlineBlock.h"
+#include "support/memory/Garbage.h"
+#include "support/memory/InlineBlock.h"
 
 namespace kexa_3_3
 {
@@ -35,12 +35,7 @@ public:
     result_t getNextUnparsed(const wchar_t** out) override;
 
     result_t storeOption(const OptionDescription& option, OptionResult& record) override;
-    result_t storeValue(const OptionDescription& option, ValueEntry& value) override
-    {
-        requireName(option);
-        m_options.storeValue(option, value);
-        return result_success;
-    }
+    result_t storeValue(const OptionDescription& option, ValueEntry& value) override;
 
     [[nodiscard]] SharedTexts& texts() noexcept override { return m_options.texts(); }
 
@@ -48,7 +43,7 @@ public:
     void addUnparsed(std::wstring_view argument);
 
     // What is stored, for the later steps of a parse.
-    [[nodiscard]] OptionResultTable& options() noexcept { return m_options; }
+    [[nodiscard]] const OptionResultTable& options() const noexcept { return m_options; }
 
 private:
     struct Unparsed
@@ -57,29 +52,15 @@ private:
         std::int32_t index; // among the left-over arguments
     };
 
-    static void requireName(const OptionDescription& option)
-    {
-        if (option.names.empty()) [[unlikely]]
-        {
-            refuseNameless();
-        }
-    }
-    [[noreturn]] static void refuseNameless();
+    static void requireName(const OptionDescription& option);
+    [[nodiscard]] bool beginQuery(const wchar_t* name, std::int32_t from, std::int32_t to) noexcept;
     [[nodiscard]] bool walksOccurrences() const noexcept;
-    [[nodiscard]] inline bool walksValuesInRange() const noexcept;
-    [[nodiscard]] inline bool isAtEndOfValues() const noexcept;
-    [[nodiscard]] inline bool beginQuery(const StoredOption* option, std::int32_t from,
-                                         std::int32_t to) noexcept;
     [[nodiscard]] bool isInRange(const Occurrence& occurrence) const noexcept;
     [[nodiscard]] bool findPosition() noexcept;
-    [[nodiscard]] inline const Occurrence* firstValue() noexcept;
-    [[nodiscard]] const Occurrence* firstUnusual() noexcept;
+    [[nodiscard]] const Occurrence* firstValue() noexcept;
     [[nodiscard]] const Occurrence* nextValue() noexcept;
     [[nodiscard]] const Occurrence* nextInRange() noexcept;
-    [[nodiscard]] const Occurrence* nextUnusual() noexcept;
-    // NOLINTNEXTLINE(bugprone-exception-escape): as in the definition.
-    [[nodiscard]] inline result_t answer(Value* out, const Occurrence* found) noexcept;
-    inline result_t answerNothing(Value* out) noexcept;
+    [[nodiscard]] const Occurrence* nextDefault() noexcept;
 
     InlineBlock<6144> m_firstBlock; // holds what a command line of usual size leaves
     Garbage m_strings; // keeps every text handed out, so it is destroyed after what refers to it

@@ -1,10 +1,11 @@
 #include "support/ConsoleStreams.h"
 
+#include <cassert>
 #include <locale>
 #include <streambuf>
 #include <string>
 
-#include "support/Text.h"
+#include "support/text/Text.h"
 
 namespace kexa_3_3
 {
@@ -15,8 +16,8 @@ namespace
 using internal::ConsoleTarget;
 using internal::writeConsole;
 
-// Hands every insertion to the console at once. Only the first half of a surrogate pair waits, for
-// the second.
+// Writes every insertion to the console immediately. Only a high surrogate at the end is kept until
+// the next insertion, which may begin with its low surrogate.
 class ConsoleBuffer final : public std::wstreambuf
 {
 public:
@@ -36,6 +37,7 @@ public:
 protected:
     std::streamsize xsputn(const wchar_t* text, std::streamsize length) override
     {
+        assert(length >= 0);
         return write({text, static_cast<std::size_t>(length)}) ? length : 0;
     }
 
@@ -83,11 +85,12 @@ struct ConsoleStream
 {
     explicit ConsoleStream(ConsoleTarget target) : buffer(target), stream(&buffer)
     {
-        // A host's global locale must not put thousands separators into numbers.
+        // The global locale of the host could add thousands separators to numbers.
         stream.imbue(std::locale::classic());
     }
 
-    // What could not be written once, for want of memory say, must not silence what comes later.
+    // Clears the error bits, so that one failed write (no memory, a full disk) does not suppress
+    // all later ones.
     std::wostream& ready()
     {
         stream.clear();

@@ -7,11 +7,14 @@
 namespace kexa_3_3
 {
 
-// Write UTF-8 whatever the locale; a Windows console gets UTF-16. Lone surrogates are written as
-// U+FFFD, but the halves of a pair may come in two insertions. Every insertion is written at once,
-// so that the order with flushed C and C++ streams over the same descriptor is kept. The streams
-// are made on first use and live until the process ends. A failed write sets the stream's bad bit,
-// until the stream is asked for again. They are shared by all threads and guarded by nothing.
+// Return the stream to standard output or standard error. It writes UTF-8 in every locale, and
+// UTF-16 to a Windows console. A lone surrogate is written as U+FFFD; the halves of a pair may come
+// in two insertions.
+//
+// Insertions are not buffered, so that output keeps its order with that of C and C++ streams which
+// flush to the same descriptor. A failed write sets the stream's bad bit; the next call of ucout()
+// or ucerr() clears it. The streams are created on first use and live until the process ends. All
+// threads share them; they are not synchronized.
 std::wostream& ucout();
 std::wostream& ucerr();
 
@@ -24,8 +27,9 @@ enum class ConsoleTarget
     error
 };
 
-// Writes all of the text to the target as described above. Answers whether that succeeded; throws
-// std::bad_alloc. Any thread may call it at any time. One of these for each platform.
+// Writes all of the text to the target, encoded as above, and returns whether that succeeded.
+// Throws std::bad_alloc. Has no state of its own, so it may be called on any thread. Implemented by
+// ConsoleStreams_posix.cpp and ConsoleStreams_windows.cpp.
 bool writeConsole(ConsoleTarget target, std::wstring_view text);
 
 } // namespace internal

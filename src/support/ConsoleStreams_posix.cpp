@@ -24,7 +24,7 @@ bool writeConsole(ConsoleTarget target, std::wstring_view text)
         }
         else if (errno == EAGAIN)
         {
-            // A non-blocking descriptor: wait until its reader has made room.
+            // The descriptor is non-blocking and full: block until it can be written again.
             pollfd waiting = {descriptor, POLLOUT, 0};
             static_cast<void>(::poll(&waiting, 1, -1));
         }

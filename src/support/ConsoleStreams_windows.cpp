@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cassert>
 #include <string>
 
 #ifndef NOMINMAX
@@ -8,7 +9,7 @@
 #include <windows.h>
 
 #include "support/ConsoleStreams.h"
-#include "support/Text.h"
+#include "support/text/Text.h"
 #include "support/Utf8.h"
 
 namespace kexa_3_3::internal
@@ -19,18 +20,19 @@ namespace
 
 bool writeToConsole(HANDLE console, std::wstring_view text)
 {
-    // The detour leaves well-formed text only.
+    // The round trip through UTF-8 replaces lone surrogates by U+FFFD.
     const std::wstring units = wideFromUtf8(utf8FromWide(text));
     std::wstring_view rest = units;
     while (!rest.empty())
     {
-        // Old consoles refuse more than 64 KiB at once.
+        // Older consoles fail for more than 64 KiB in one call.
         constexpr std::size_t most_units = 8192;
         std::size_t length = std::min(rest.size(), most_units);
         if (length < rest.size() && isHighSurrogate(rest[length - 1]))
         {
             --length;
         }
+        assert(length > 0);
         DWORD written = 0;
         if (::WriteConsoleW(console, rest.data(), static_cast<DWORD>(length), &written, nullptr) ==
                 FALSE ||
@@ -52,7 +54,7 @@ bool writeToFile(HANDLE file, std::wstring_view text)
         constexpr std::size_t most_bytes = std::size_t{1} << 30;
         const auto length = static_cast<DWORD>(std::min(rest.size(), most_bytes));
         DWORD written = 0;
-        // A pipe that does not wait answers that it took nothing.
+        // A full non-blocking pipe returns success, with no bytes written.
         if (::WriteFile(file, rest.data(), length, &written, nullptr) == FALSE || written == 0)
         {
             return false;
@@ -66,12 +68,12 @@ bool writeToFile(HANDLE file, std::wstring_view text)
 
 bool writeConsole(ConsoleTarget target, std::wstring_view text)
 {
-    // Asked for at every write: the host may have redirected the descriptor since.
+    // Not cached: the host may redirect its streams between two writes.
     const HANDLE handle =
         ::GetStdHandle(target == ConsoleTarget::output ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE);
     if (handle == nullptr || handle == INVALID_HANDLE_VALUE)
     {
-        return false; // a program without a console
+        return false; // the process has no such stream, as in a program without a console
     }
     DWORD mode = 0;
     return ::GetConsoleMode(handle, &mode) != FALSE ? writeToConsole(handle, text)

@@ -1,4 +1,5 @@
-// Loading a file whole, and telling files apart.
+// Reads whole files, and identifies a file by its canonical path. Implemented by
+// FileLoading_posix.cpp and FileLoading_windows.cpp.
 #pragma once
 
 #include <cstddef>
@@ -18,21 +19,21 @@ enum class FileProblem
     unreadable
 };
 
-// Files above 1 GiB are refused: an endless device must not take all memory.
+// Largest size that is loaded, in bytes (inclusive). Without a limit an endless device would use up
+// all memory.
 inline constexpr std::size_t largest_file = std::size_t{1} << 30;
 
-// Reads all bytes of a file, or of a pipe up to its end.
+// Reads all bytes of a file, or of a pipe up to its end. Returns FileProblem::none on success.
 //
-// name:  relative to the current directory, or absolute. On Linux it is taken as UTF-8, a lone
-//        surrogate U+DC80 to U+DCFF standing for the byte 0x80 to 0xFF, so that a host can name
-//        files whose names are not well-formed UTF-8.
-// bytes: receives the content; unspecified where the answer is not FileProblem::none.
-//
-// One of these for each platform, as of the next.
+// name:  absolute, or relative to the current directory. On Linux it is converted to UTF-8, and
+// each
+//        lone surrogate U+DC80 to U+DCFF to the byte 0x80 to 0xFF. A host can thus name a file
+//        whose name is not well-formed UTF-8.
+// bytes: receives the content; unspecified after a failure.
 [[nodiscard]] FileProblem loadFile(const std::wstring& name, std::string& bytes);
 
-// A text that is the same for two names of one file: the absolute path without links and dots. The
-// name itself where there is no such file.
+// Returns the absolute path of a file without links, "." and "..", which is equal for all names of
+// one file. Returns the name unchanged if no such file exists.
 [[nodiscard]] std::wstring canonicalPath(const std::wstring& name);
 
 } // namespace kexa_3_3

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cassert>
 #include <cerrno>
 #include <cstdlib>
 #include <memory>
@@ -17,6 +18,7 @@ namespace kexa_3_3
 namespace
 {
 
+// Owns an open file; below 0 if it could not be opened.
 class Descriptor
 {
 public:
@@ -36,6 +38,7 @@ private:
     int m_number;
 };
 
+// Converts a name to the bytes of a path, as described at loadFile().
 std::string pathOf(std::wstring_view name)
 {
     constexpr wchar_t first_byte = 0xDC80;
@@ -73,20 +76,28 @@ FileProblem problemOf(int error) noexcept
     }
 }
 
+// expected: the size of the file as far as it is known, at most largest_file.
 FileProblem readAll(int descriptor, std::size_t expected, std::string& bytes)
 {
+    assert(expected <= largest_file);
     constexpr std::size_t least_room = 65536;
     std::size_t length = 0;
-    bytes.resize(std::max(expected + 1, least_room)); // one more, to see the end without growing
+    // One byte more than expected: the read that finds the end of the file needs room, too.
+    bytes.resize(std::max(expected + 1, least_room));
     for (;;)
     {
         if (length == bytes.size())
         {
             bytes.resize(std::min(2 * length, largest_file + 1));
         }
+        assert(length < bytes.size());
         const ssize_t count = ::read(descriptor, bytes.data() + length, bytes.size() - length);
-        if (count < 0 && errno != EINTR)
+        if (count < 0)
         {
+            if (errno == EINTR)
+            {
+                continue;
+            }
             return problemOf(errno);
         }
         if (count == 0)
@@ -94,7 +105,7 @@ FileProblem readAll(int descriptor, std::size_t expected, std::string& bytes)
             bytes.resize(length);
             return FileProblem::none;
         }
-        length += count > 0 ? static_cast<std::size_t>(count) : 0;
+        length += static_cast<std::size_t>(count);
         if (length > largest_file)
         {
             return FileProblem::too_large;
@@ -109,7 +120,7 @@ FileProblem loadFile(const std::wstring& name, std::string& bytes)
     const std::string path = pathOf(name);
     if (path.find('\0') != std::string::npos)
     {
-        return FileProblem::not_found; // the system would look for a shorter name
+        return FileProblem::not_found; // open() would end the name at the zero
     }
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg): POSIX has no other open.
     const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY));
@@ -120,7 +131,7 @@ FileProblem loadFile(const std::wstring& name, std::string& bytes)
     struct stat status = {};
     if (::fstat(file.number(), &status) != 0)
     {
-        return problemOf(errno); // GCOVR_EXCL_LINE: not of an open file, as far as systems tell
+        return problemOf(errno); // GCOVR_EXCL_LINE: not known to fail for an open file
     }
     if (S_ISDIR(status.st_mode))
     {
@@ -139,7 +150,7 @@ std::wstring canonicalPath(const std::wstring& name)
     const std::string path = pathOf(name);
     if (path.find('\0') != std::string::npos)
     {
-        return name; // no file; the system would look for a shorter name
+        return name; // realpath() would end the name at the zero
     }
     const std::unique_ptr<char, decltype(&std::free)> resolved(::realpath(path.c_str(), nullptr),
                                                                &std::free);
@@ -147,7 +158,8 @@ std::wstring canonicalPath(const std::wstring& name)
     {
         return name;
     }
-    // Byte by byte: names that differ only in ill-formed bytes stay apart.
+    // One character for each byte. Decoded as UTF-8, paths that differ only in ill-formed bytes
+    // could become equal.
     std::wstring text;
     for (const char byte : std::string_view(resolved.get()))
     {

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cassert>
 #include <string_view>
 
 #ifndef NOMINMAX
@@ -15,7 +16,7 @@ namespace kexa_3_3
 namespace
 {
 
-// An open file; INVALID_HANDLE_VALUE where it could not be opened.
+// Owns an open file; INVALID_HANDLE_VALUE if it could not be opened.
 class Handle
 {
 public:
@@ -36,8 +37,9 @@ private:
     HANDLE m_handle;
 };
 
-// The text that a Windows call writes into a buffer; such calls answer its length, or the room that
-// they need where the buffer is too small, or 0.
+// Returns the text that a Windows call writes into a buffer; empty if the call fails. Such calls
+// return the length of the text, the size that they need if the buffer is too small, or 0 on
+// failure.
 template <class Query>
 std::wstring textOf(Query query)
 {
@@ -60,7 +62,8 @@ std::wstring fullPath(const std::wstring& name)
                   { return ::GetFullPathNameW(name.c_str(), room, buffer, nullptr); });
 }
 
-// Paths beyond MAX_PATH are opened under a prefix that switches all interpretation off.
+// Adds the prefix that a path of MAX_PATH characters or more needs. Windows does not interpret
+// prefixed paths, so the full path is used.
 std::wstring openablePath(const std::wstring& name)
 {
     const std::wstring path = fullPath(name);
@@ -74,7 +77,8 @@ std::wstring openablePath(const std::wstring& name)
 
 HANDLE openFile(const std::wstring& name, DWORD access)
 {
-    // Backup semantics open folders as well, so that they can be told from what is forbidden.
+    // Backup semantics open folders as well. Without them a folder gives the error of a forbidden
+    // file.
     return ::CreateFileW(openablePath(name).c_str(), access,
                          FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                          OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
@@ -101,23 +105,27 @@ FileProblem problemOf(DWORD error) noexcept
     }
 }
 
+// expected: the size of the file as far as it is known, at most largest_file.
 FileProblem readAll(HANDLE file, std::size_t expected, std::string& bytes)
 {
+    assert(expected <= largest_file);
     constexpr std::size_t least_room = 65536;
     std::size_t length = 0;
-    bytes.resize(std::max(expected + 1, least_room)); // one more, to see the end without growing
+    // One byte more than expected: the read that finds the end of the file needs room, too.
+    bytes.resize(std::max(expected + 1, least_room));
     for (;;)
     {
         if (length == bytes.size())
         {
             bytes.resize(std::min(2 * length, largest_file + 1));
         }
+        assert(length < bytes.size());
         DWORD count = 0;
         if (::ReadFile(file, bytes.data() + length, static_cast<DWORD>(bytes.size() - length),
                        &count, nullptr) == FALSE)
         {
             const DWORD error = ::GetLastError();
-            if (error != ERROR_BROKEN_PIPE) // how a pipe tells its end
+            if (error != ERROR_BROKEN_PIPE) // the end of a pipe whose writer has closed it
             {
                 return problemOf(error);
             }
@@ -142,7 +150,7 @@ FileProblem loadFile(const std::wstring& name, std::string& bytes)
 {
     if (name.find(L'\0') != std::wstring::npos)
     {
-        return FileProblem::not_found; // the system would look for a shorter name
+        return FileProblem::not_found; // CreateFileW would end the name at the zero
     }
     const Handle file(openFile(name, GENERIC_READ));
     if (!file.valid())
@@ -158,7 +166,7 @@ FileProblem loadFile(const std::wstring& name, std::string& bytes)
     LARGE_INTEGER size = {};
     if (::GetFileSizeEx(file.get(), &size) == FALSE)
     {
-        size.QuadPart = 0; // a device or a pipe
+        size.QuadPart = 0; // a device or a pipe has no size
     }
     if (static_cast<ULONGLONG>(size.QuadPart) > largest_file)
     {
@@ -171,7 +179,7 @@ std::wstring canonicalPath(const std::wstring& name)
 {
     if (name.find(L'\0') != std::wstring::npos)
     {
-        return name; // no file; the system would look for a shorter name
+        return name; // CreateFileW would end the name at the zero
     }
     const Handle file(openFile(name, 0));
     if (!file.valid())
@@ -181,7 +189,7 @@ std::wstring canonicalPath(const std::wstring& name)
     const std::wstring path = textOf(
         [&file](wchar_t* buffer, DWORD room)
         { return ::GetFinalPathNameByHandleW(file.get(), buffer, room, FILE_NAME_NORMALIZED); });
-    // Some file systems of other makers do not know the final path.
+    // Some third-party file systems do not support final paths.
     return path.empty() ? fullPath(name) : path;
 }
 

@@ -1,11 +1,11 @@
 #include "support/Utf8.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 
-#include "support/Text.h"
+#include "support/text/Text.h"
 
 namespace kexa_3_3
 {
@@ -13,19 +13,20 @@ namespace kexa_3_3
 namespace
 {
 
-// One step of decoding: a code point, or ill-formed bytes, and how many bytes it took.
+// A decoded sequence: its code point, U+FFFD if it is ill-formed, and its length in bytes.
 struct Decoded
 {
     std::uint32_t codePoint;
     std::size_t length;
 };
 
-// What a leading byte asks for: how many bytes follow, and the range of the first of them, which
-// shuts out overlong forms, surrogates and numbers beyond U+10FFFF (Unicode Standard, table 3-7).
+// The sequences that a leading byte may begin: how many continuation bytes they have, and the range
+// of the first of those. The range excludes overlong forms, surrogates and numbers beyond U+10FFFF
+// (Unicode Standard, table 3-7).
 struct LeadingByte
 {
     std::uint32_t payload;
-    std::size_t following;
+    std::size_t following; // 0: no sequence begins with this byte
     unsigned char lowest;
     unsigned char highest;
 };
@@ -49,9 +50,10 @@ LeadingByte classify(unsigned char byte) noexcept
             static_cast<unsigned char>(byte == 0xF4 ? 0x8F : 0xBF)};
 }
 
-// Decodes the non-ASCII sequence at the front of `bytes`, which is not empty.
+// Decodes the sequence at the front of `bytes`. Precondition: it does not begin with ASCII.
 Decoded decodeSequence(std::string_view bytes) noexcept
 {
+    assert(!bytes.empty() && static_cast<unsigned char>(bytes[0]) >= 0x80);
     LeadingByte lead = classify(static_cast<unsigned char>(bytes[0]));
     if (lead.following == 0)
     {
@@ -74,9 +76,10 @@ Decoded decodeSequence(std::string_view bytes) noexcept
     return {lead.payload, length};
 }
 
-// Writes the units of a code point, and answers where the next ones go.
+// Writes the units of a code point. Returns the position behind them.
 wchar_t* writeWide(wchar_t* out, std::uint32_t codePoint) noexcept
 {
+    assert(codePoint <= 0x10FFFF);
     if constexpr (wide_is_utf16)
     {
         if (codePoint > 0xFFFF)
@@ -90,25 +93,10 @@ wchar_t* writeWide(wchar_t* out, std::uint32_t codePoint) noexcept
     return out;
 }
 
-// How many bytes at the front are ASCII, in whole groups of eight.
-std::size_t asciiGroups(std::string_view bytes) noexcept
-{
-    constexpr std::size_t group = sizeof(std::uint64_t);
-    std::size_t length = 0;
-    for (; bytes.size() - length >= group; length += group)
-    {
-        std::uint64_t chunk = 0;
-        std::memcpy(&chunk, bytes.data() + length, group);
-        if ((chunk & 0x8080808080808080) != 0)
-        {
-            break;
-        }
-    }
-    return length;
-}
-
+// Precondition: the code point is not ASCII.
 void appendUtf8(std::string& bytes, std::uint32_t codePoint)
 {
+    assert(codePoint >= 0x80 && codePoint <= 0x10FFFF);
     const auto continuation = [codePoint](unsigned shift)
     {
         return static_cast<char>(0x80 | ((codePoint >> shift) & 0x3F));
@@ -141,32 +129,33 @@ std::wstring wideFromUtf8(std::string_view bytes)
     return text;
 }
 
-std::wstring_view wideFromUtf8(std::string_view bytes, std::wstring& room)
+std::wstring_view wideFromUtf8(std::string_view bytes, std::wstring& buffer)
 {
-    // No sequence gives more units than it has bytes.
-    if (room.size() < bytes.size())
+    // No sequence decodes to more units than it has bytes.
+    if (buffer.size() < bytes.size())
     {
-        room.resize(std::max(bytes.size(), 2 * room.size()));
+        buffer.resize(std::max(bytes.size(), 2 * buffer.size()));
     }
-    wchar_t* out = room.data();
-    while (!bytes.empty())
+    wchar_t* out = buffer.data();
+    std::size_t position = 0;
+    while (position < bytes.size())
     {
-        const std::size_t ascii = asciiGroups(bytes);
-        out = std::transform(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(ascii), out,
-                             [](char byte) { return static_cast<wchar_t>(byte); });
-        bytes.remove_prefix(ascii);
-        // What ends the run: fewer than eight bytes, or something else than ASCII among them.
-        for (std::size_t rest = std::min<std::size_t>(bytes.size(), sizeof(std::uint64_t));
-             rest != 0;)
+        const auto byte = static_cast<unsigned char>(bytes[position]);
+        if (byte < 0x80)
         {
-            const auto byte = static_cast<unsigned char>(bytes.front());
-            const Decoded decoded = byte < 0x80 ? Decoded{byte, 1} : decodeSequence(bytes);
+            *out++ = static_cast<wchar_t>(byte);
+            ++position;
+        }
+        else
+        {
+            const Decoded decoded = decodeSequence(bytes.substr(position));
             out = writeWide(out, decoded.codePoint);
-            bytes.remove_prefix(decoded.length);
-            rest -= std::min(rest, decoded.length);
+            position += decoded.length;
         }
     }
-    return {room.data(), static_cast<std::size_t>(out - room.data())};
+    const auto length = static_cast<std::size_t>(out - buffer.data());
+    assert(length <= bytes.size());
+    return {buffer.data(), length};
 }
 
 std::string utf8FromWide(std::wstring_view text)
@@ -176,7 +165,7 @@ std::string utf8FromWide(std::wstring_view text)
     for (std::size_t position = 0; position < text.size(); ++position)
     {
         const wchar_t unit = text[position];
-        // A negative one, where wide characters have a sign, is above all code points.
+        // Where wchar_t is signed, a negative unit becomes a number above all code points.
         auto codePoint = static_cast<std::uint32_t>(unit); // NOLINT(bugprone-signed-char-misuse)
         if (codePoint < 0x80)
         {

@@ -7,18 +7,19 @@
 namespace kexa_3_3
 {
 
-// What stands for text that is ill-formed.
+// Replaces ill-formed text in both directions.
 inline constexpr wchar_t replacement_character = 0xFFFD;
 
-// Ill-formed bytes become U+FFFD, one for each maximal ill-formed part (Unicode Standard, section
-// 3.9, "U+FFFD Substitution of Maximal Subparts"). A byte order mark is kept.
+// Decodes UTF-8. Ill-formed bytes become U+FFFD, one for each maximal ill-formed part (Unicode
+// Standard, section 3.9, "U+FFFD Substitution of Maximal Subparts"). A byte order mark is kept.
 [[nodiscard]] std::wstring wideFromUtf8(std::string_view bytes);
 
-// The same into the front of a string whose length grows where it does not suffice, and never
-// shrinks: the cheap way to decode many short texts. The answer is a view of what was written.
-[[nodiscard]] std::wstring_view wideFromUtf8(std::string_view bytes, std::wstring& room);
+// Decodes UTF-8 into the front of `buffer` and returns a view of the decoded text, valid until the
+// buffer changes. The buffer grows geometrically and never shrinks, so that decoding many short
+// texts with one buffer rarely allocates.
+[[nodiscard]] std::wstring_view wideFromUtf8(std::string_view bytes, std::wstring& buffer);
 
-// Lone surrogates and numbers beyond U+10FFFF become U+FFFD.
+// Encodes wide text. Lone surrogates and numbers beyond U+10FFFF become U+FFFD.
 [[nodiscard]] std::string utf8FromWide(std::wstring_view text);
 
 } // namespace kexa_3_3

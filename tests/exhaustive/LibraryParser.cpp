@@ -136,12 +136,12 @@ std::int32_t callParser(IParser& parser, const ParseCall& call, IParseResult* re
 
 } // namespace
 
-NumberProbe::NumberProbe() : m_parser(makeParser(0))
+PositionProbe::PositionProbe() : m_parser(makeParser(0))
 {
     m_parser->addOption(L"probe", L"", kexa_3_3::value_type_string, L"");
 }
 
-std::int32_t NumberProbe::takeNumber()
+std::int32_t PositionProbe::takePosition()
 {
     const wchar_t* const argv[] = {L"program", L"--probe=x"};
     const auto result = makeResult(*m_parser);
@@ -157,7 +157,7 @@ std::int32_t NumberProbe::takeNumber()
 Comparison::Comparison(const Declarations& declarations, std::int32_t flags,
                        const std::vector<HandlerRule>& handlers)
     : m_rules(handlers), m_naive(declarations, flags), m_names(namesOf(m_naive.registry())),
-      m_parser(makeParser(flags)), m_nextNumber(numberAfter(m_probe.takeNumber()))
+      m_parser(makeParser(flags)), m_nextPosition(positionAfter(m_probe.takePosition()))
 {
     declare(*m_parser, declarations);
     m_handlers.reserve(m_rules.size());
@@ -172,18 +172,18 @@ Comparison::~Comparison() = default;
 
 Outcome Comparison::predict(const ParseCall& call)
 {
-    Parsed parsed =
-        call.asCommandLine
-            ? m_naive.parseCommandLine(joined(call.arguments), m_rules, m_nextNumber, call.storing)
-            : m_naive.parse(call.arguments, m_rules, m_nextNumber, call.storing);
+    Parsed parsed = call.asCommandLine
+                        ? m_naive.parseCommandLine(joined(call.arguments), m_rules, m_nextPosition,
+                                                   call.storing)
+                        : m_naive.parse(call.arguments, m_rules, m_nextPosition, call.storing);
     Outcome outcome;
     outcome.code = parsed.code;
-    // A parse that succeeds leaves the message of the one before.
+    // A successful parse does not change the message of the previous parse.
     outcome.message = parsed.code == 0 ? m_actual.message : parsed.message;
     outcome.events = std::move(parsed.events);
     outcome.unparsed = parsed.result.unparsed();
-    outcome.names = askResult(parsed.result, m_names, m_nextNumber, call.questions);
-    outcome.nextNumber = parsed.nextNumber;
+    outcome.names = queryResult(parsed.result, m_names, m_nextPosition, call.ranges);
+    outcome.nextPosition = parsed.nextPosition;
     return outcome;
 }
 
@@ -196,9 +196,9 @@ Outcome Comparison::observe(const ParseCall& call)
     outcome.message = m_parser->getErrorMessage();
     outcome.events = m_events;
     outcome.unparsed = unparsedOf(*result);
-    LibraryResult asked(*result);
-    outcome.names = askResult(asked, m_names, m_nextNumber, call.questions);
-    outcome.nextNumber = m_probe.takeNumber();
+    LibraryResult queried(*result);
+    outcome.names = queryResult(queried, m_names, m_nextPosition, call.ranges);
+    outcome.nextPosition = m_probe.takePosition();
     return outcome;
 }
 
@@ -206,7 +206,7 @@ bool Comparison::agree(const ParseCall& call)
 {
     m_expected = predict(call);
     m_actual = observe(call);
-    m_nextNumber = numberAfter(m_actual.nextNumber);
+    m_nextPosition = positionAfter(m_actual.nextPosition);
     return m_expected == m_actual;
 }
 

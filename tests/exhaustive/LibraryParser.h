@@ -1,4 +1,4 @@
-// The library under the same questions as the naive implementation, and the two side by side.
+// Parses with the library and with the naive implementation, and compares the outcomes.
 #ifndef NAIVE_LIBRARY_PARSER_H
 #define NAIVE_LIBRARY_PARSER_H
 
@@ -25,12 +25,15 @@ struct Releaser
 
 using ParserPointer = std::unique_ptr<kexa_3_3::IParser, Releaser>;
 
-// Learns which number the next converted value gets, at the cost of one number.
-class NumberProbe
+// Finds the position that the next converted value gets, by converting a value itself.
+class PositionProbe
 {
 public:
-    NumberProbe();
-    std::int32_t takeNumber();
+    PositionProbe();
+
+    // Returns the position of the value that it converts. The next value gets the position after
+    // it.
+    std::int32_t takePosition();
 
 private:
     ParserPointer m_parser;
@@ -38,17 +41,17 @@ private:
 
 class RuleHandler;
 
-// How a parse is asked for.
+// One parse: its arguments, how they are passed, and what to query afterwards.
 struct ParseCall
 {
     Arguments arguments;
     bool asCommandLine = false; // joined to a text with one argument in each line
     bool storing = true;        // false: with a null result
-    Questions questions = Questions::wholeRange;
+    QueryRanges ranges = QueryRanges::wholeRange;
 };
 
-// A parser of the library and the naive one with the same declarations, flags and handlers, kept
-// over many parses.
+// A parser of the library and a naive parser with equal declarations, flags and handlers. Both are
+// used for many parses.
 class Comparison
 {
 public:
@@ -58,7 +61,8 @@ public:
     Comparison(const Comparison&) = delete;
     Comparison& operator=(const Comparison&) = delete;
 
-    // Parses with both. Whether they agree; either way expected() and actual() tell what each did.
+    // Parses with both and returns whether the outcomes are equal. Afterwards expected() is the
+    // outcome of the naive parser, and actual() that of the library.
     bool agree(const ParseCall& call);
 
     const Outcome& expected() const { return m_expected; }
@@ -72,10 +76,11 @@ private:
     Parser m_naive;
     std::vector<std::wstring> m_names;
     ParserPointer m_parser;
-    std::vector<RuleHandler> m_handlers; // contiguous, so in the order of their addresses
+    std::vector<RuleHandler>
+        m_handlers; // contiguous: handlers are called in the order of their addresses
     std::vector<Event> m_events;
-    NumberProbe m_probe;
-    std::int32_t m_nextNumber;
+    PositionProbe m_probe;
+    std::int32_t m_nextPosition;
     Outcome m_expected;
     Outcome m_actual;
 };

@@ -1,4 +1,4 @@
-// The library's result with the query operations that naive::Result has.
+// A result of the library with the query operations of naive::Result.
 #ifndef NAIVE_LIBRARY_RESULT_H
 #define NAIVE_LIBRARY_RESULT_H
 
@@ -21,39 +21,40 @@ public:
         return m_result.isPresent(name.c_str(), from, to) == 1;
     }
 
-    ValueAnswer getFirstValue(const std::wstring& name, std::int32_t from, std::int32_t to)
+    QueriedValue getFirstValue(const std::wstring& name, std::int32_t from, std::int32_t to)
     {
         kexa_3_3::Value value;
         const std::int32_t code = m_result.getFirstValue(&value, name.c_str(), from, to);
-        return answer(code, value);
+        return queriedValue(code, value);
     }
 
-    ValueAnswer getNextValue()
+    QueriedValue getNextValue()
     {
         kexa_3_3::Value value;
         const std::int32_t code = m_result.getNextValue(&value, L"");
-        return answer(code, value);
+        return queriedValue(code, value);
     }
 
     std::int32_t getNextPosition() { return m_result.getNextPosition(); }
 
-    ValueAnswer getLastValue(const std::wstring& name, std::int32_t from, std::int32_t to)
+    QueriedValue getLastValue(const std::wstring& name, std::int32_t from, std::int32_t to)
     {
         const kexa_3_3::Value value = kexa_3_3::getLastValue(&m_result, name.c_str(), from, to);
-        return answer(value.status, value);
+        return queriedValue(value.status, value);
     }
 
 private:
-    // A status that differs from the code becomes a code that nothing predicts.
-    static ValueAnswer answer(std::int32_t code, const kexa_3_3::Value& value)
+    // The status must be equal to the code. If it is not, the returned code is one that is never
+    // predicted.
+    static QueriedValue queriedValue(std::int32_t code, const kexa_3_3::Value& value)
     {
-        ValueAnswer answer;
-        answer.code = value.status == code ? code : -1;
-        answer.hasText = value.data != nullptr;
-        answer.text = answer.hasText ? static_cast<const wchar_t*>(value.data) : L"";
-        answer.position = value.position;
-        answer.value = value.value;
-        return answer;
+        QueriedValue queried;
+        queried.code = value.status == code ? code : -1;
+        queried.hasText = value.data != nullptr;
+        queried.text = queried.hasText ? static_cast<const wchar_t*>(value.data) : L"";
+        queried.position = value.position;
+        queried.value = value.value;
+        return queried;
     }
 
     kexa_3_3::IParseResult& m_result;

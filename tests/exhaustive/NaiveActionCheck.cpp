@@ -56,7 +56,7 @@ std::int32_t checkActions(const Registry& registry, const Result& result, std::w
     {
         if (record.positions.empty())
         {
-            continue; // only a default
+            continue; // has only a default
         }
         const Option* option = registry.find(name);
         if (option == nullptr)

@@ -1,4 +1,4 @@
-// Whether the options and actions that were given go together.
+// Checks that the given options and actions may be combined.
 #ifndef NAIVE_ACTION_CHECK_H
 #define NAIVE_ACTION_CHECK_H
 
@@ -11,7 +11,7 @@
 namespace naive
 {
 
-// Answers the code of the check, with its message where the code is not 0.
+// Returns the code of the check: 0, 1 for a name that no option has, or 2 with a message.
 std::int32_t checkActions(const Registry& registry, const Result& result, std::wstring& message);
 
 } // namespace naive

@@ -15,8 +15,8 @@ namespace naive
 namespace
 {
 
-// Only white space may follow the number. The classic locale keeps a host's decimal comma or
-// digit grouping out.
+// Only white space may follow the number. The classic locale excludes the decimal comma and the
+// digit grouping of the host's locale.
 template <class Number>
 vexkit2::variant_t extract(const std::wstring& text, bool hexadecimal)
 {
@@ -39,7 +39,8 @@ vexkit2::variant_t extract(const std::wstring& text, bool hexadecimal)
     return vexkit2::variant_t(number);
 }
 
-// The streams read "-1" into an unsigned number as its two's complement; here a minus sign fails.
+// Streams read "-1" into an unsigned number as its two's complement, so a minus sign is rejected
+// first.
 template <class Number>
 vexkit2::variant_t extractUnsigned(const std::wstring& text, bool hexadecimal)
 {
@@ -98,7 +99,8 @@ std::string trimmedDigits(std::string digits)
     return digits;
 }
 
-// The decimal point of "d.ddd" times ten to the exponent, moved to where a reader expects it.
+// Returns the number d.ddd times ten to the exponent in decimal notation. digits: without the
+// point.
 std::string withoutExponent(const std::string& digits, int exponent)
 {
     if (exponent < 0)
@@ -134,14 +136,14 @@ std::string withExponent(const std::string& digits, int exponent)
     return text;
 }
 
-// Tries one digit more until the text reads back to the number.
+// Increases the precision until the text reads back as the number.
 std::string textOfDouble(double number)
 {
     if (number == 0)
     {
         return std::signbit(number) ? "-0" : "0";
     }
-    if (!std::isfinite(number)) // only a host can declare such a value
+    if (!std::isfinite(number)) // only from a declared value
     {
         return std::isnan(number) ? "nan" : number < 0 ? "-inf" : "inf";
     }

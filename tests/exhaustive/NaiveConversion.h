@@ -1,4 +1,4 @@
-// Texts to typed values and back, by way of the standard streams.
+// Conversion of texts to typed values and back with the standard streams.
 #ifndef NAIVE_CONVERSION_H
 #define NAIVE_CONVERSION_H
 
@@ -10,13 +10,13 @@
 namespace naive
 {
 
-// The value that the text gives in a value type; a null variant when it gives none.
+// Converts a text to a value type. Returns a null variant if the text is not valid.
 vexkit2::variant_t convertText(std::int32_t valueType, const std::wstring& text);
 
-// A value as messages and results write it.
+// Returns the text of a value in messages and results.
 std::wstring textOfValue(const vexkit2::variant_t& value);
 
-// What messages call a value type; empty for a type without a name.
+// Returns the name of a value type in messages; empty for a type without a name.
 std::wstring nameOfValueType(std::int32_t valueType);
 
 } // namespace naive

@@ -1,5 +1,5 @@
-// What a host declares, as plain data: the same declarations go to the library and to the naive
-// implementation that predicts it.
+// The declarations of a host as plain data, which are passed to the library and to the naive
+// implementation.
 #ifndef NAIVE_DECLARATIONS_H
 #define NAIVE_DECLARATIONS_H
 
@@ -14,7 +14,7 @@
 namespace naive
 {
 
-// One call on an option after its declaration. Only the members that the call needs are used.
+// One call on an option after its declaration. The members that the call does not use stay unset.
 struct BuilderStep
 {
     enum class Call
@@ -35,8 +35,8 @@ struct BuilderStep
     wchar_t separator = 0;
 };
 
-// One option, with the calls made on it in their order. The operations add a call and answer the
-// declaration, so that tables can be written as a host would write them.
+// One option, with the calls on it in their order. Each operation adds a call and returns the
+// declaration, so that calls can be chained as on IOption.
 struct Declaration
 {
     enum class Form
@@ -62,21 +62,21 @@ struct Declaration
     Declaration& addKeywords(const std::wstring& list);
 };
 
-// All that a host tells its parser before it parses.
+// Everything that a host declares before it parses.
 struct Declarations
 {
     std::vector<Declaration> options;
     std::vector<std::set<std::wstring>> compatibleActions;
 
-    // The reference is good until the next declaration.
+    // The returned reference is valid until the next declaration.
     Declaration& addOption(const std::wstring& names, std::int32_t valueType);
     Declaration& addOptionWithKeywords(const std::wstring& names, const std::wstring& keywords,
                                        std::int32_t valueType);
     Declaration& addSwitch(const std::wstring& names, std::int32_t valueType);
 };
 
-// How an event handler answers. A value is refused when its text is listed, an unknown argument is
-// taken when it is listed; everything else lets the parse go on as without a handler.
+// The return values of an event handler: false for a listed value, which refuses it, and for a
+// listed unknown argument, which takes it; otherwise true.
 struct HandlerRule
 {
     std::set<std::wstring> refusedValues;

@@ -40,7 +40,7 @@ std::int32_t parseUpToMarker(Run& run, Arguments& arguments, std::wstring& error
         {
             code = parsePositional(run, arguments, error);
         }
-        else if (tellUnknownArgument(run, argument) &&
+        else if (notifyUnknownArgument(run, argument) &&
                  (run.flags & kexa_3_3::flag_unknown_is_error) != 0)
         {
             error = L"Unknown option: " + argument;
@@ -107,7 +107,7 @@ void Parser::parseInto(Parsed& parsed, const Arguments& arguments,
                        const std::vector<HandlerRule>& handlers, bool storing) const
 {
     Result* result = storing ? &parsed.result : nullptr;
-    Run run{m_registry, handlers, m_flags, result, parsed.nextNumber, {}};
+    Run run{m_registry, handlers, m_flags, result, parsed.nextPosition, {}};
     Arguments remaining = arguments;
     parsed.code = parseUpToMarker(run, remaining, parsed.message);
     if (parsed.code == 0)
@@ -119,14 +119,14 @@ void Parser::parseInto(Parsed& parsed, const Arguments& arguments,
         parsed.code = checkActions(m_registry, parsed.result, parsed.message);
     }
     parsed.events = run.events;
-    parsed.nextNumber = run.nextNumber;
+    parsed.nextPosition = run.nextPosition;
 }
 
 Parsed Parser::parse(const Arguments& arguments, const std::vector<HandlerRule>& handlers,
-                     std::int32_t firstNumber, bool storing) const
+                     std::int32_t firstPosition, bool storing) const
 {
     Parsed parsed;
-    parsed.nextNumber = firstNumber;
+    parsed.nextPosition = firstPosition;
     if (storing)
     {
         storeDefaults(m_registry, parsed.result);
@@ -136,11 +136,11 @@ Parsed Parser::parse(const Arguments& arguments, const std::vector<HandlerRule>&
 }
 
 Parsed Parser::parseCommandLine(const std::wstring& commandLine,
-                                const std::vector<HandlerRule>& handlers, std::int32_t firstNumber,
-                                bool storing) const
+                                const std::vector<HandlerRule>& handlers,
+                                std::int32_t firstPosition, bool storing) const
 {
     Parsed parsed;
-    parsed.nextNumber = firstNumber;
+    parsed.nextPosition = firstPosition;
     parseInto(parsed, splitLines(commandLine), handlers, storing);
     return parsed;
 }
@@ -152,7 +152,7 @@ Arguments splitLines(const std::wstring& text)
     std::wstring line;
     while (std::getline(stream, line))
     {
-        // The same characters in every locale and on every system; some count more of them.
+        // A fixed list of characters, because iswspace() depends on the locale and the system.
         line.erase(0, std::min(line.find_first_not_of(L" \t\v\f\r"), line.size()));
         while (!line.empty() && (line.back() == L'\r' || line.back() == L'\n'))
         {

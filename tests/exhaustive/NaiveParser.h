@@ -1,6 +1,6 @@
-// A second, deliberately plain implementation of parsing: it walks every name for every argument,
-// erases arguments from the front of a vector and copies what it keeps. It shares nothing with the
-// library but the public variant, and predicts what the library must answer.
+// A second implementation of parsing, which predicts the results of the library. It is deliberately
+// naive: it compares every argument with every name, erases arguments from the front of a vector
+// and copies everything that it keeps. It shares only the public variant with the library.
 #ifndef NAIVE_PARSER_H
 #define NAIVE_PARSER_H
 
@@ -16,14 +16,14 @@
 namespace naive
 {
 
-// What one parse leads to, before anything is asked of the result.
+// The outcome of one parse, before the result is queried.
 struct Parsed
 {
     std::int32_t code = 0;
-    std::wstring message; // empty where code is 0
+    std::wstring message; // empty if the code is 0
     Result result;
     std::vector<Event> events;
-    std::int32_t nextNumber = 0; // the number that the next converted value gets
+    std::int32_t nextPosition = 0; // of the next converted value
 };
 
 class Parser
@@ -33,16 +33,17 @@ public:
 
     const Registry& registry() const { return m_registry; }
 
-    // Parses as with an argument vector; `arguments` does not hold the program's name.
+    // Parses like IParser::parse().
     //
-    // firstNumber: the number that the first converted value gets.
-    // storing:     false parses with a null result.
+    // arguments:   without the name of the program.
+    // firstPosition: the position of the first converted value.
+    // storing:     false: parses with a null result.
     Parsed parse(const Arguments& arguments, const std::vector<HandlerRule>& handlers,
-                 std::int32_t firstNumber, bool storing = true) const;
+                 std::int32_t firstPosition, bool storing = true) const;
 
-    // The same for a text with one argument in each line.
+    // Parses like IParser::parseCommandLine(): a text with one argument in each line.
     Parsed parseCommandLine(const std::wstring& commandLine,
-                            const std::vector<HandlerRule>& handlers, std::int32_t firstNumber,
+                            const std::vector<HandlerRule>& handlers, std::int32_t firstPosition,
                             bool storing = true) const;
 
 private:
@@ -53,7 +54,7 @@ private:
     std::int32_t m_flags;
 };
 
-// The arguments that a text with one argument in each line holds.
+// Returns the arguments of a text with one argument in each line.
 Arguments splitLines(const std::wstring& text);
 
 } // namespace naive

@@ -27,7 +27,7 @@ bool startsWith(const std::wstring& text, const std::wstring& start)
     return text.substr(0, start.size()) == start;
 }
 
-// Every name that a command line may use, in table order.
+// Returns every name that a command line may use, in the order of declaration.
 std::vector<std::wstring> candidateNames(const Registry& registry)
 {
     std::vector<std::wstring> candidates;
@@ -45,7 +45,7 @@ std::vector<std::wstring> candidateNames(const Registry& registry)
     return candidates;
 }
 
-// A full name wins alone, even where it begins other names too.
+// Returns the candidates that begin with the typed name; only the equal one if there is one.
 std::vector<std::wstring> bestMatches(const std::vector<std::wstring>& candidates,
                                       const std::wstring& typedName)
 {
@@ -93,7 +93,7 @@ std::int32_t fail(std::wstring& error, const std::wstring& text)
 std::int32_t storeAndConsume(Run& run, const Option& option, const std::wstring& value,
                              std::size_t consumed, Arguments& arguments, std::wstring& error)
 {
-    tellOptionParsed(run, option.primaryName());
+    notifyOptionParsed(run, option.primaryName());
     const std::int32_t code = storeValues(run, option, arguments[0], value, error);
     for (std::size_t count = 0; code == 0 && count < consumed; ++count)
     {

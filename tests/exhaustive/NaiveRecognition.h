@@ -1,4 +1,4 @@
-// Which option an argument means, and where its value comes from.
+// Recognition of the option that an argument names, and of its value.
 #ifndef NAIVE_RECOGNITION_H
 #define NAIVE_RECOGNITION_H
 
@@ -12,7 +12,7 @@
 namespace naive
 {
 
-// An argument such as "--name=value" without its hyphens.
+// The parts of an argument such as "--name=value", without the hyphens.
 struct SplitArgument
 {
     std::wstring name;
@@ -21,25 +21,27 @@ struct SplitArgument
 
 SplitArgument splitArgument(const std::wstring& argument);
 
-// What the front argument means as an option or an abbreviation of one.
+// The option that an argument names, in full or abbreviated.
 struct Recognised
 {
     bool claimed = false;
-    const Option* option = nullptr; // null where the abbreviation is ambiguous
+    const Option* option = nullptr; // null if the abbreviation is ambiguous
     std::wstring bestName;
     std::wstring candidateList; // empty unless the abbreviation is ambiguous
 };
 
 Recognised recogniseOption(const Registry& registry, const std::wstring& argument);
 
-// Parses the front argument as the option that it was recognised as. Answers the code; on 0 the
-// consumed arguments are gone from the front.
+// Parses the front argument as the recognised option. Returns the code; if it is 0, the consumed
+// arguments have been removed from the front.
 std::int32_t parseOption(Run& run, const Recognised& recognised, Arguments& arguments,
                          std::wstring& error);
 
-// The same for arguments that are values of the first positional option.
+// Returns whether the argument is a value of the first positional option.
 bool recognisePositional(const Registry& registry, std::int32_t flags,
                          const std::wstring& argument);
+
+// Parses the front argument as a value of the first positional option. Otherwise as parseOption().
 std::int32_t parsePositional(Run& run, Arguments& arguments, std::wstring& error);
 
 } // namespace naive

@@ -33,7 +33,7 @@ void apply(Option& option, const BuilderStep& step)
         option.allowedValues.push_back(step.value);
         break;
     case BuilderStep::Call::addDeprecatedValue:
-        // insert keeps the first replacement of an old value.
+        // insert() does not overwrite: the first replacement of an old value is kept.
         option.deprecatedValues.insert({step.value, step.replacement});
         break;
     case BuilderStep::Call::setDefaultValue:

@@ -1,4 +1,4 @@
-// The declared options, built again without a look at the library.
+// The declared options of the naive implementation.
 #ifndef NAIVE_REGISTRY_H
 #define NAIVE_REGISTRY_H
 
@@ -46,7 +46,7 @@ public:
         return m_compatibleActions;
     }
 
-    // The first option that has the name; null when there is none.
+    // Returns the first option that has the name, or null.
     const Option* find(const std::wstring& name) const;
 
 private:
@@ -56,7 +56,7 @@ private:
     std::vector<std::set<std::wstring>> m_compatibleActions;
 };
 
-// The pieces of a text between its commas, empty ones left out.
+// Returns the parts of a text between its commas, without the empty ones.
 std::vector<std::wstring> splitAtCommas(const std::wstring& text);
 
 } // namespace naive

@@ -16,10 +16,10 @@ void Result::store(const Option& option, const Record& record)
         }
         return;
     }
-    // An entry under the primary name alone came from another option, one with that name among its
-    // own; the further names start where the primary name stands.
+    // A name without an entry starts with a copy of the primary name's entry. This happens if
+    // another option that has the primary name among its own names made that entry.
     const Record before = found->second;
-    // A name that the option lists twice is one entry all the same, and grows once.
+    // A name that is declared twice has one entry, to which the occurrence is added once.
     const std::set<std::wstring> names(option.names.begin(), option.names.end());
     for (const std::wstring& name : names)
     {
@@ -69,15 +69,15 @@ bool Result::onDefault() const
     return m_current->positions.empty() && !m_current->defaultText.empty();
 }
 
-ValueAnswer Result::defaultAnswer() const
+QueriedValue Result::queriedDefault() const
 {
-    ValueAnswer answer;
-    answer.code = 0;
-    answer.hasText = true;
-    answer.text = m_current->defaultText;
-    answer.value = m_current->defaultValue;
-    answer.position = m_current->defaultPosition;
-    return answer;
+    QueriedValue queried;
+    queried.code = 0;
+    queried.hasText = true;
+    queried.text = m_current->defaultText;
+    queried.value = m_current->defaultValue;
+    queried.position = m_current->defaultPosition;
+    return queried;
 }
 
 bool Result::isPresent(const std::wstring& name, std::int32_t from, std::int32_t to)
@@ -85,65 +85,65 @@ bool Result::isPresent(const std::wstring& name, std::int32_t from, std::int32_t
     const bool present = begin(name, from, to);
     if (present && onDefault())
     {
-        // Lets a following getNextValue give the default once.
+        // With these bounds getNextValue() returns the default once.
         m_from = no_position;
         m_to = no_position;
     }
     return present;
 }
 
-ValueAnswer Result::getFirstValue(const std::wstring& name, std::int32_t from, std::int32_t to)
+QueriedValue Result::getFirstValue(const std::wstring& name, std::int32_t from, std::int32_t to)
 {
     if (!begin(name, from, to))
     {
-        return ValueAnswer();
+        return QueriedValue();
     }
-    return onDefault() ? defaultAnswer() : getNextValue();
+    return onDefault() ? queriedDefault() : getNextValue();
 }
 
-ValueAnswer Result::getNextValue()
+QueriedValue Result::getNextValue()
 {
-    ValueAnswer answer;
+    QueriedValue queried;
     if (m_current == nullptr)
     {
-        return answer;
+        return queried;
     }
     if (onDefault())
     {
         if (m_from != no_position || m_to != no_position)
         {
-            return answer;
+            return queried;
         }
         m_from = 0;
         m_to = no_position;
-        return defaultAnswer();
+        return queriedDefault();
     }
     if (m_current->values.empty())
     {
         if (m_positionCursor < m_current->positions.size())
         {
-            answer.code = 0;
-            answer.position = m_current->positions[m_positionCursor++];
+            queried.code = 0;
+            queried.position = m_current->positions[m_positionCursor++];
         }
-        return answer;
+        return queried;
     }
     while (m_valueCursor < m_current->values.size() &&
            m_current->values[m_valueCursor].position < m_from)
     {
         ++m_valueCursor;
     }
-    // The upper bound is inclusive here, though the walk's first occurrence must lie below it.
+    // The upper bound is inclusive here, but exclusive for the first occurrence, in begin().
     if (m_valueCursor < m_current->values.size() &&
         m_current->values[m_valueCursor].position <= m_to)
     {
         const StoredValue& value = m_current->values[m_valueCursor++];
-        answer.code = 0;
-        answer.hasText = true;
-        answer.text = value.text;
-        answer.value = value.value;
-        answer.position = value.position;
+        queried.code = 0;
+        queried.hasText = true;
+        queried.text = value.text;
+        queried.value = value.value;
+        queried.position = value.position;
     }
-    return answer;
+    return queried;
 }
 
 std::int32_t Result::getNextPosition()
@@ -155,10 +155,10 @@ std::int32_t Result::getNextPosition()
     return m_current->positions[m_positionCursor++];
 }
 
-ValueAnswer Result::getLastValue(const std::wstring& name, std::int32_t from, std::int32_t to)
+QueriedValue Result::getLastValue(const std::wstring& name, std::int32_t from, std::int32_t to)
 {
-    ValueAnswer last = getFirstValue(name, from, to);
-    for (ValueAnswer next = getNextValue(); next.code == 0; next = getNextValue())
+    QueriedValue last = getFirstValue(name, from, to);
+    for (QueriedValue next = getNextValue(); next.code == 0; next = getNextValue())
     {
         last = next;
     }

@@ -1,4 +1,4 @@
-// What a parse found, and the queries on it: a map of every name to its own copy of the record.
+// The naive parse result: every name is mapped to its own copy of the record of its option.
 #ifndef NAIVE_RESULT_H
 #define NAIVE_RESULT_H
 
@@ -33,8 +33,9 @@ struct Record
     std::int32_t defaultPosition = no_position;
 };
 
-// One answer of a value query. On a non-zero code the rest is as a new answer has it.
-struct ValueAnswer
+// What a query for a value returned. If the code is not 0, the other members have their initial
+// values.
+struct QueriedValue
 {
     std::int32_t code = 1;
     bool hasText = false;
@@ -52,19 +53,18 @@ public:
     const std::map<std::wstring, Record>& records() const { return m_records; }
     const std::vector<std::wstring>& unparsed() const { return m_unparsed; }
 
-    // The queries of a host. All of them move the one cursor.
+    // The queries of a host. All of them share one cursor.
     bool isPresent(const std::wstring& name, std::int32_t from, std::int32_t to);
-    ValueAnswer getFirstValue(const std::wstring& name, std::int32_t from, std::int32_t to);
-    ValueAnswer getNextValue();
+    QueriedValue getFirstValue(const std::wstring& name, std::int32_t from, std::int32_t to);
+    QueriedValue getNextValue();
     std::int32_t getNextPosition();
-    ValueAnswer getLastValue(const std::wstring& name, std::int32_t from, std::int32_t to);
+    QueriedValue getLastValue(const std::wstring& name, std::int32_t from, std::int32_t to);
 
 private:
-    // Begins a walk. Whether it found the option; for getFirstValue it still has to fetch a value
-    // unless the default is the answer.
+    // Starts a walk and returns whether the option has an occurrence in the range or a default.
     bool begin(const std::wstring& name, std::int32_t from, std::int32_t to);
     bool onDefault() const;
-    ValueAnswer defaultAnswer() const;
+    QueriedValue queriedDefault() const;
 
     std::map<std::wstring, Record> m_records;
     std::vector<std::wstring> m_unparsed;

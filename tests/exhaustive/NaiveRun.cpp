@@ -5,12 +5,12 @@
 namespace naive
 {
 
-std::int32_t numberAfter(std::int32_t number)
+std::int32_t positionAfter(std::int32_t position)
 {
-    return number + 1 == no_position ? 0 : number + 1;
+    return position + 1 == no_position ? 0 : position + 1;
 }
 
-void tellOptionParsed(Run& run, const std::wstring& name)
+void notifyOptionParsed(Run& run, const std::wstring& name)
 {
     for (std::size_t handler = 0; handler < run.handlers.size(); ++handler)
     {
@@ -18,12 +18,12 @@ void tellOptionParsed(Run& run, const std::wstring& name)
     }
 }
 
-bool tellValueParsed(Run& run, const std::wstring& name, const vexkit2::variant_t& value,
-                     std::int32_t number)
+bool notifyValueParsed(Run& run, const std::wstring& name, const vexkit2::variant_t& value,
+                       std::int32_t position)
 {
     for (std::size_t handler = 0; handler < run.handlers.size(); ++handler)
     {
-        run.events.push_back({Event::Kind::valueParsed, handler, name, value, number});
+        run.events.push_back({Event::Kind::valueParsed, handler, name, value, position});
         if (run.handlers[handler].refusedValues.count(textOfValue(value)) != 0)
         {
             return false;
@@ -32,7 +32,7 @@ bool tellValueParsed(Run& run, const std::wstring& name, const vexkit2::variant_
     return true;
 }
 
-bool tellUnknownArgument(Run& run, const std::wstring& argument)
+bool notifyUnknownArgument(Run& run, const std::wstring& argument)
 {
     bool unknown = true;
     for (std::size_t handler = 0; handler < run.handlers.size(); ++handler)

@@ -1,4 +1,4 @@
-// What the steps of one parse share: what was declared, and what they have found so far.
+// The state that the steps of one parse share.
 #ifndef NAIVE_RUN_H
 #define NAIVE_RUN_H
 
@@ -30,7 +30,7 @@ struct Event
     std::size_t handler = 0;
     std::wstring text; // the option's name, or the argument
     vexkit2::variant_t value;
-    std::int32_t number = 0;
+    std::int32_t position = 0;
 };
 
 struct Run
@@ -38,19 +38,24 @@ struct Run
     const Registry& registry;
     const std::vector<HandlerRule>& handlers;
     std::int32_t flags;
-    Result* result; // null: parse without storing
-    std::int32_t nextNumber;
+    Result* result; // null: nothing is stored
+    std::int32_t nextPosition;
     std::vector<Event> events;
 };
 
-// The number after the given one. 2147483647 means "no position" and is left out.
-std::int32_t numberAfter(std::int32_t number);
+// Returns the next position. It skips 2147483647, which means "no position".
+std::int32_t positionAfter(std::int32_t position);
 
-// Tell the handlers, in their order; answer as the parser answers its own steps.
-void tellOptionParsed(Run& run, const std::wstring& name);
-bool tellValueParsed(Run& run, const std::wstring& name, const vexkit2::variant_t& value,
-                     std::int32_t number);
-bool tellUnknownArgument(Run& run, const std::wstring& argument);
+// Call the handlers in their order.
+void notifyOptionParsed(Run& run, const std::wstring& name);
+
+// Returns whether all handlers accept the value. Handlers after the first one that refuses it are
+// not called.
+bool notifyValueParsed(Run& run, const std::wstring& name, const vexkit2::variant_t& value,
+                       std::int32_t position);
+
+// Returns whether the argument stays unknown, because no handler takes it. Calls all handlers.
+bool notifyUnknownArgument(Run& run, const std::wstring& argument);
 
 } // namespace naive
 

@@ -19,7 +19,7 @@ unsigned byteAt(std::string_view bytes, std::size_t position)
     return static_cast<unsigned char>(bytes[position]);
 }
 
-// How many bytes a sequence has by its first one; 0 for a byte that begins none.
+// Returns the length of the sequence that a byte begins; 0 if it begins none.
 std::size_t lengthByFirst(unsigned first)
 {
     if (first < 0x80)
@@ -37,7 +37,7 @@ std::size_t lengthByFirst(unsigned first)
     return first >= 0xF0 && first < 0xF8 ? 4 : 0;
 }
 
-// Whether the bytes are one well-formed sequence; then the code point that they encode.
+// Returns whether the bytes are one well-formed sequence, and decodes it.
 bool decodeOne(std::string_view bytes, CodePoint& codePoint)
 {
     const std::size_t length = bytes.empty() ? 0 : lengthByFirst(byteAt(bytes, 0));
@@ -60,8 +60,8 @@ bool decodeOne(std::string_view bytes, CodePoint& codePoint)
            (codePoint < 0xD800 || codePoint > 0xDFFF);
 }
 
-// Whether some bytes behind these make a well-formed sequence. The second byte is the only one
-// whose range depends on the first, so the ends of its possible ranges are tried.
+// Returns whether more bytes can complete these to a well-formed sequence. Only the range of the
+// second byte depends on the first byte, so it is enough to try the ends of all ranges there.
 bool beginsSequence(std::string_view bytes)
 {
     const std::size_t length = lengthByFirst(byteAt(bytes, 0));

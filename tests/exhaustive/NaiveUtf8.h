@@ -1,4 +1,4 @@
-// UTF-8 by the definition of well-formed sequences.
+// A reference decoder for UTF-8, written from the definition of well-formed sequences.
 #ifndef NAIVE_UTF8_H
 #define NAIVE_UTF8_H
 
@@ -8,8 +8,7 @@
 namespace naive
 {
 
-// UTF-8 to wide text, one U+FFFD for each maximal ill-formed part. Slow, and independent of the
-// library.
+// Decodes UTF-8 to wide text, with one U+FFFD for each maximal ill-formed part.
 std::wstring decodeUtf8(std::string_view bytes);
 
 } // namespace naive

@@ -41,7 +41,7 @@ std::vector<vexkit2::variant_t> candidatesOf(const Option& option)
     return candidates;
 }
 
-// The candidates that the text abbreviates.
+// Returns the candidates that the text abbreviates.
 std::vector<vexkit2::variant_t> abbreviated(const std::vector<vexkit2::variant_t>& candidates,
                                             const std::wstring& text)
 {
@@ -137,7 +137,7 @@ std::int32_t storeValues(Run& run, const Option& option, const std::wstring& arg
     Record record;
     if (valueText.empty())
     {
-        record.positions.push_back(run.nextNumber);
+        record.positions.push_back(run.nextPosition);
     }
     else
     {
@@ -157,16 +157,16 @@ std::int32_t storeValues(Run& run, const Option& option, const std::wstring& arg
                     L"Value validation problem in argument '" + argument + L"': " + checked.error;
                 return 2;
             }
-            const std::int32_t number = run.nextNumber;
-            run.nextNumber = numberAfter(number);
-            if (!tellValueParsed(run, option.primaryName(), checked.value, number))
+            const std::int32_t position = run.nextPosition;
+            run.nextPosition = positionAfter(position);
+            if (!notifyValueParsed(run, option.primaryName(), checked.value, position))
             {
                 error = L"Value '" + valueText + L"' is not valid for option '" +
                         option.primaryName() + L"' in argument '" + argument + L"'";
                 return 1;
             }
-            record.positions.push_back(number);
-            record.values.push_back({checked.text, checked.value, number});
+            record.positions.push_back(position);
+            record.values.push_back({checked.text, checked.value, position});
         }
     }
     if (run.result != nullptr)

@@ -1,4 +1,4 @@
-// From the text of an option's value to typed values in the result.
+// Checking and storing the values of an option.
 #ifndef NAIVE_VALUES_H
 #define NAIVE_VALUES_H
 
@@ -11,7 +11,7 @@
 namespace naive
 {
 
-// A value that passed the checks of its option, or why it did not.
+// A value that passed the checks of its option, or the error.
 struct CheckedValue
 {
     bool accepted = false;
@@ -22,8 +22,10 @@ struct CheckedValue
 
 CheckedValue checkValue(const Option& option, const std::wstring& text);
 
-// Cuts, checks, tells the handlers and stores one occurrence of an option. Answers the code;
-// `argument` is the one that messages quote.
+// Splits the text into values, checks them, calls the handlers and stores one occurrence of the
+// option. Returns the code.
+//
+// argument: the argument that messages quote.
 std::int32_t storeValues(Run& run, const Option& option, const std::wstring& argument,
                          const std::wstring& valueText, std::wstring& error);
 

@@ -1,4 +1,4 @@
-// Standard output and standard error pointed at the null device.
+// Redirection of standard output and standard error to the null device.
 #ifndef NAIVE_NULL_OUTPUT_H
 #define NAIVE_NULL_OUTPUT_H
 
@@ -7,9 +7,8 @@
 namespace naive
 {
 
-// From here on the process writes to neither: warnings, traces and notices of the library under
-// test are not what the run is about, and would be megabytes. Answers the former standard output;
-// null when it could not be kept.
+// Redirects both streams for the rest of the process: the warnings and traces of the library would
+// be megabytes. Returns a stream to the former standard output, or null on failure.
 std::FILE* silenceOutput();
 
 } // namespace naive

@@ -14,7 +14,7 @@ std::vector<OptionSet> optionSets()
     {
         if (set.handlers.empty())
         {
-            set.handlers.emplace_back(); // lets everything pass, so that events are seen
+            set.handlers.emplace_back(); // accepts everything; records the events
         }
     }
     return sets;

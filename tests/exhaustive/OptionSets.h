@@ -1,4 +1,4 @@
-// The table of the exhaustive run: what is declared, and the arguments that vectors are made of.
+// The table of the exhaustive run. Each row has declarations and the arguments for its vectors.
 #ifndef NAIVE_OPTION_SETS_H
 #define NAIVE_OPTION_SETS_H
 
@@ -18,14 +18,14 @@ struct OptionSet
     std::vector<HandlerRule> handlers;
     std::vector<std::wstring> alphabet;
 
-    // The flag bits that decide something here. Vectors of full length run under every combination
-    // of these; shorter ones under every combination of all bits.
+    // The flags that affect these declarations. Vectors of full length are parsed with every
+    // combination of these flags, shorter ones with every combination of all flags.
     std::int32_t decisiveFlags = 0;
 };
 
 std::vector<OptionSet> optionSets();
 
-// The table in pieces, by theme.
+// Each appends the rows of one topic.
 void appendNameSets(std::vector<OptionSet>& sets);
 void appendValueSets(std::vector<OptionSet>& sets);
 void appendPositionalSets(std::vector<OptionSet>& sets);

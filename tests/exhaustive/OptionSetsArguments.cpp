@@ -1,4 +1,4 @@
-// Positional options, and actions with what they accept.
+// Option sets for positional options, and for actions with the options that they accept.
 #include "kexa/parser.h"
 #include "OptionSets.h"
 

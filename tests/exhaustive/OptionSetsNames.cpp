@@ -1,4 +1,4 @@
-// How arguments find their option: abbreviations, hyphens, "no-", names added later.
+// Option sets for finding options: abbreviations, hyphens, "no-", names added later.
 #include "kexa/parser.h"
 #include "OptionSets.h"
 

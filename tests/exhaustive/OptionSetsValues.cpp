@@ -1,4 +1,4 @@
-// What becomes of the text of a value: types, lists, allowed and deprecated values, defaults.
+// Option sets for values: types, lists, allowed and deprecated values, defaults.
 #include "kexa/parser.h"
 #include "OptionSets.h"
 

@@ -25,14 +25,15 @@ std::wstring describePosition(std::int32_t position)
     return position == no_position ? L"none" : std::to_wstring(position);
 }
 
-std::wstring describeAnswer(const ValueAnswer& answer)
+std::wstring describeQueriedValue(const QueriedValue& queried)
 {
-    if (answer.code != 0)
+    if (queried.code != 0)
     {
-        return L"(" + std::to_wstring(answer.code) + L")";
+        return L"(" + std::to_wstring(queried.code) + L")";
     }
-    return L"(" + (answer.hasText ? L"'" + answer.text + L"'" : L"no text") + L", " +
-           describeValue(answer.value) + L", position " + describePosition(answer.position) + L")";
+    return L"(" + (queried.hasText ? L"'" + queried.text + L"'" : L"no text") + L", " +
+           describeValue(queried.value) + L", position " + describePosition(queried.position) +
+           L")";
 }
 
 std::wstring describeEvent(const Event& event)
@@ -43,8 +44,8 @@ std::wstring describeEvent(const Event& event)
     case Event::Kind::optionParsed:
         return L"option parsed '" + event.text + L"'" + handler;
     case Event::Kind::valueParsed:
-        return L"value parsed '" + event.text + L"', " + describeValue(event.value) + L", number " +
-               std::to_wstring(event.number) + handler;
+        return L"value parsed '" + event.text + L"', " + describeValue(event.value) +
+               L", position " + std::to_wstring(event.position) + handler;
     case Event::Kind::unknownArgument:
         break;
     }
@@ -56,16 +57,16 @@ std::wstring describeEvent(const Event& event)
 bool operator==(const Event& left, const Event& right)
 {
     return left.kind == right.kind && left.handler == right.handler && left.text == right.text &&
-           left.number == right.number && sameValue(left.value, right.value);
+           left.position == right.position && sameValue(left.value, right.value);
 }
 
-bool operator==(const ValueAnswer& left, const ValueAnswer& right)
+bool operator==(const QueriedValue& left, const QueriedValue& right)
 {
     return left.code == right.code && left.hasText == right.hasText && left.text == right.text &&
            left.position == right.position && sameValue(left.value, right.value);
 }
 
-bool operator==(const NameAnswers& left, const NameAnswers& right)
+bool operator==(const QueriedName& left, const QueriedName& right)
 {
     return left.name == right.name && left.present == right.present &&
            left.afterPresent == right.afterPresent && left.values == right.values &&
@@ -76,14 +77,14 @@ bool operator==(const Outcome& left, const Outcome& right)
 {
     return left.code == right.code && left.message == right.message &&
            left.events == right.events && left.unparsed == right.unparsed &&
-           left.names == right.names && left.nextNumber == right.nextNumber;
+           left.names == right.names && left.nextPosition == right.nextPosition;
 }
 
 std::wstring describe(const Outcome& outcome)
 {
     std::wostringstream text;
-    text << L"  code " << outcome.code << L", message '" << outcome.message << L"', next number "
-         << outcome.nextNumber << L'\n';
+    text << L"  code " << outcome.code << L", message '" << outcome.message << L"', next position "
+         << outcome.nextPosition << L'\n';
     for (const Event& event : outcome.events)
     {
         text << L"  event: " << describeEvent(event) << L'\n';
@@ -92,26 +93,26 @@ std::wstring describe(const Outcome& outcome)
     {
         text << L"  left over: '" << argument << L"'\n";
     }
-    for (const NameAnswers& answers : outcome.names)
+    for (const QueriedName& queried : outcome.names)
     {
-        text << L"  '" << answers.name << L"' in " << describePosition(answers.from) << L".."
-             << describePosition(answers.to) << (answers.present ? L": present" : L": absent")
+        text << L"  '" << queried.name << L"' in " << describePosition(queried.from) << L".."
+             << describePosition(queried.to) << (queried.present ? L": present" : L": absent")
              << L"; then";
-        for (const ValueAnswer& answer : answers.afterPresent)
+        for (const QueriedValue& value : queried.afterPresent)
         {
-            text << L' ' << describeAnswer(answer);
+            text << L' ' << describeQueriedValue(value);
         }
         text << L"; values";
-        for (const ValueAnswer& answer : answers.values)
+        for (const QueriedValue& value : queried.values)
         {
-            text << L' ' << describeAnswer(answer);
+            text << L' ' << describeQueriedValue(value);
         }
         text << L"; positions";
-        for (const std::int32_t position : answers.positions)
+        for (const std::int32_t position : queried.positions)
         {
             text << L' ' << describePosition(position);
         }
-        text << L"; last " << describeAnswer(answers.last) << L'\n';
+        text << L"; last " << describeQueriedValue(queried.last) << L'\n';
     }
     return text.str();
 }

@@ -1,4 +1,4 @@
-// All that a host can see of one parse, from the library or from the naive implementation.
+// Everything that a host can observe of one parse, by the library or by the naive implementation.
 #ifndef NAIVE_OUTCOME_H
 #define NAIVE_OUTCOME_H
 
@@ -12,103 +12,104 @@
 namespace naive
 {
 
-// The answers to every query about one name in one range of positions.
-struct NameAnswers
+// The results of all queries for one name in one range of positions.
+struct QueriedName
 {
     std::wstring name;
     std::int32_t from = 0;
     std::int32_t to = no_position;
     bool present = false;
-    std::vector<ValueAnswer> afterPresent; // getNextValue behind isPresent, up to its refusal
-    std::vector<ValueAnswer> values;       // getFirstValue, then getNextValue up to its refusal
-    std::vector<std::int32_t> positions;   // getNextPosition behind a getFirstValue, up to its end
-    ValueAnswer last;                      // getLastValue
+    std::vector<QueriedValue> afterPresent; // getNextValue after isPresent, up to the first failure
+    std::vector<QueriedValue> values;       // getFirstValue, then getNextValue up to a failure
+    std::vector<std::int32_t> positions; // getNextPosition after getFirstValue, up to no_position
+    QueriedValue last;                   // getLastValue
 };
 
 struct Outcome
 {
     std::int32_t code = 0;
-    std::wstring message; // as the parser gives it, also after success
+    std::wstring message; // of getErrorMessage(), also after success
     std::vector<Event> events;
     std::vector<std::wstring> unparsed;
-    std::vector<NameAnswers> names;
-    std::int32_t nextNumber = 0; // the number that the next converted value gets
+    std::vector<QueriedName> names;
+    std::int32_t nextPosition = 0; // of the next converted value
 };
 
-// How much is asked of a result.
-enum class Questions
+// The ranges of positions that are queried for each name.
+enum class QueryRanges
 {
-    wholeRange, // every name, over all positions
+    wholeRange,
     severalRanges
 };
 
 bool operator==(const Event& left, const Event& right);
-bool operator==(const ValueAnswer& left, const ValueAnswer& right);
-bool operator==(const NameAnswers& left, const NameAnswers& right);
+bool operator==(const QueriedValue& left, const QueriedValue& right);
+bool operator==(const QueriedName& left, const QueriedName& right);
 bool operator==(const Outcome& left, const Outcome& right);
 inline bool operator!=(const Outcome& left, const Outcome& right)
 {
     return !(left == right);
 }
 
-// The outcome for a reader, one fact in each line.
+// Formats an outcome for a failure message.
 std::wstring describe(const Outcome& outcome);
 
-// Every name of every option, in table order.
+// Returns all names of all options, in the order of declaration.
 std::vector<std::wstring> namesOf(const Registry& registry);
 
-// No parse here gives as many answers: a walk that gets there does not end.
+// A walk of this length is taken for endless. No parse of these tests stores as many values.
 constexpr std::size_t endlessWalk = 10000;
 
-// Asks a result: naive::Result, or anything with its query operations.
+// Runs all queries for a name. SomeResult: naive::Result, or a class with the same operations.
 template <class SomeResult>
-NameAnswers askName(SomeResult& result, const std::wstring& name, std::int32_t from,
-                    std::int32_t to)
+QueriedName queryName(SomeResult& result, const std::wstring& name, std::int32_t from,
+                      std::int32_t to)
 {
-    NameAnswers answers;
-    answers.name = name;
-    answers.from = from;
-    answers.to = to;
-    answers.present = result.isPresent(name, from, to);
+    QueriedName queried;
+    queried.name = name;
+    queried.from = from;
+    queried.to = to;
+    queried.present = result.isPresent(name, from, to);
     do
     {
-        answers.afterPresent.push_back(result.getNextValue());
-    } while (answers.afterPresent.back().code == 0 && answers.afterPresent.size() < endlessWalk);
-    // The walk goes on behind a first refusal: a value at exactly `to` is still given.
-    answers.values.push_back(result.getFirstValue(name, from, to));
+        queried.afterPresent.push_back(result.getNextValue());
+    } while (queried.afterPresent.back().code == 0 && queried.afterPresent.size() < endlessWalk);
+    // getNextValue is called even if getFirstValue fails, because it also returns a value at `to`
+    // itself.
+    queried.values.push_back(result.getFirstValue(name, from, to));
     do
     {
-        answers.values.push_back(result.getNextValue());
-    } while (answers.values.back().code == 0 && answers.values.size() < endlessWalk);
+        queried.values.push_back(result.getNextValue());
+    } while (queried.values.back().code == 0 && queried.values.size() < endlessWalk);
     result.getFirstValue(name, from, to);
     do
     {
-        answers.positions.push_back(result.getNextPosition());
-    } while (answers.positions.back() != no_position && answers.positions.size() < endlessWalk);
-    if (answers.values.size() < endlessWalk)
+        queried.positions.push_back(result.getNextPosition());
+    } while (queried.positions.back() != no_position && queried.positions.size() < endlessWalk);
+    if (queried.values.size() < endlessWalk)
     {
-        answers.last = result.getLastValue(name, from, to);
+        queried.last = result.getLastValue(name, from, to);
     }
-    return answers;
+    return queried;
 }
 
 template <class SomeResult>
-std::vector<NameAnswers> askResult(SomeResult& result, const std::vector<std::wstring>& names,
-                                   std::int32_t firstNumber, Questions questions)
+std::vector<QueriedName> queryResult(SomeResult& result, const std::vector<std::wstring>& names,
+                                     std::int32_t firstPosition, QueryRanges ranges)
 {
-    std::vector<NameAnswers> answers;
+    std::vector<QueriedName> queried;
     for (const std::wstring& name : names)
     {
-        answers.push_back(askName(result, name, 0, no_position));
-        if (questions == Questions::severalRanges)
+        queried.push_back(queryName(result, name, 0, no_position));
+        if (ranges == QueryRanges::severalRanges)
         {
-            answers.push_back(askName(result, name, firstNumber, firstNumber));
-            answers.push_back(askName(result, name, firstNumber, firstNumber + 1));
-            answers.push_back(askName(result, name, firstNumber + 1, firstNumber + 2));
-            answers.push_back(askName(result, name, no_position, no_position));
+            queried.push_back(queryName(result, name, firstPosition, firstPosition));
+            queried.push_back(queryName(result, name, firstPosition, firstPosition + 1));
+            queried.push_back(queryName(result, name, firstPosition + 1, firstPosition + 2));
+            queried.push_back(queryName(result, name, no_position, no_position));
         }
     }
-    return answers;
+    return queried;
 }
 
 } // namespace naive

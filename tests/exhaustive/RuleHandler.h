@@ -1,4 +1,4 @@
-// A handler of the library's events that writes them down.
+// An event handler that records the events of the library.
 #ifndef NAIVE_RULE_HANDLER_H
 #define NAIVE_RULE_HANDLER_H
 
@@ -14,7 +14,7 @@
 namespace naive
 {
 
-// Writes down every event and answers as its rule says.
+// Records every event and returns what its rule defines.
 class RuleHandler final : public kexa_3_3::EventHandler
 {
 public:

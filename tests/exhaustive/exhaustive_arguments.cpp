@@ -1,7 +1,7 @@
-// Parses every argument vector up to a length, under every option set and flags word of a table,
-// with the library and with the naive implementation, and compares all that a host can see.
+// Parses every argument vector up to a length with the library and with the naive implementation,
+// for every option set and combination of flags, and compares everything that a host can observe.
 //
-// exhaustive_arguments [LENGTH]: vectors of up to LENGTH arguments, 4 unless given.
+// exhaustive_arguments [LENGTH]: vectors of up to LENGTH arguments, 4 by default.
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -24,7 +24,7 @@ using naive::ParseCall;
 constexpr std::int32_t allFlags = 2 | 4 | 8 | 16 | 32;
 constexpr unsigned long long reportedDifferences = 5; // for each option set
 
-// Keeps the report readable wherever it is printed.
+// Escapes all characters but printable ASCII and line feeds.
 std::string escaped(const std::wstring& text)
 {
     std::string out;
@@ -75,7 +75,7 @@ public:
         m_differences += m_differencesOfSet;
     }
 
-    // Whether something was compared and nothing differed.
+    // Returns whether at least one vector was compared and none differed.
     bool finish() const
     {
         std::fprintf(m_report, "%llu vectors compared, %llu differences\n", m_compared,
@@ -84,7 +84,7 @@ public:
     }
 
 private:
-    // Bits that decide nothing here are combined over shorter vectors only.
+    // Flags that do not affect the set are combined with shorter vectors only.
     void runFlags(const OptionSet& set, std::int32_t flags)
     {
         const bool decisive = (flags & ~set.decisiveFlags) == 0;
@@ -107,12 +107,12 @@ private:
             {
                 call.arguments.push_back(set.alphabet[letter]);
             }
-            call.questions =
-                everyWay ? naive::Questions::severalRanges : naive::Questions::wholeRange;
+            call.ranges =
+                everyWay ? naive::QueryRanges::severalRanges : naive::QueryRanges::wholeRange;
             compare(set, flags, comparison, call);
             if (everyWay)
             {
-                call.questions = naive::Questions::wholeRange;
+                call.ranges = naive::QueryRanges::wholeRange;
                 call.asCommandLine = true;
                 compare(set, flags, comparison, call);
                 call.asCommandLine = false;
@@ -122,7 +122,7 @@ private:
         } while (advance(letters, set.alphabet.size()));
     }
 
-    // Counts up in the alphabet; false when every vector of the length was seen.
+    // Advances to the next vector of this length, like a counter; returns false after the last one.
     static bool advance(std::vector<std::size_t>& letters, std::size_t alphabet)
     {
         for (std::size_t& letter : letters)

@@ -1,4 +1,4 @@
-// Every allocation that the library makes is made to fail, one after the other.
+// Fails every allocation of the library in turn, in a cycle that uses all of the interface.
 #include <cstddef>
 #include <iostream>
 #include <string>
@@ -27,18 +27,18 @@ void runCycle(const TemporaryFolder& folder, const Record* expected, Record* rec
     }
 }
 
-// What the test writes to both console streams, from the moment a mark is set.
+// Captures standard output and standard error.
 class BothStreams
 {
 public:
-    // Forgets what was written before.
+    // Marks the current ends of the streams, where the text of finish() starts.
     void mark()
     {
         outputBefore = output.soFar().size();
         errorBefore = error.soFar().size();
     }
-    // The rest of the texts, both after the other. On a failed test GoogleTest's words lie in what
-    // was captured: they are shown.
+    // Returns the output since the mark, followed by the errors since the mark. GoogleTest's
+    // messages were captured as well, so after a failure the output is printed.
     std::string finish()
     {
         const std::string written = output.finish();
@@ -73,8 +73,8 @@ protected:
         reference = console.finish();
     }
 
-    // Runs a cycle in which one allocation fails, and the same one again without a failure. Answers
-    // how many allocations the first made up to its end.
+    // Runs a cycle in which one allocation fails, then a cycle without a failure. Returns the
+    // number of allocations in the first one.
     std::size_t failAllocation(std::size_t number, Extent extent)
     {
         BothStreams console;
@@ -91,7 +91,7 @@ protected:
         return counted;
     }
 
-    // Fails allocation 1, 2, ... until a cycle needs fewer. Answers how many failed.
+    // Fails allocation 1, 2, ... until a cycle has fewer allocations. Returns how many failed.
     std::size_t failEachAllocation(Extent extent)
     {
         std::size_t number = 1;

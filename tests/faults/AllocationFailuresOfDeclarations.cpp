@@ -1,5 +1,6 @@
-// Allocations fail at every place of a declaration: the parser keeps its texts in blocks, so a few
-// declarations are repeated with the end of a block at ever different places in them.
+// Fails allocations at every point of a declaration. A parser stores texts in blocks, and allocates
+// when a block is full. The declarations are repeated with more and more padding in front of them,
+// so that the block ends at every point.
 #include <cstddef>
 #include <iostream>
 #include <memory>
@@ -27,7 +28,7 @@ constexpr const wchar_t* names[] = {L"name", L"n", L"further", L"output", L"out"
 class Declarations
 {
 public:
-    // padding: how many characters of the parser's texts are used up before.
+    // padding: number of characters that are stored in the parser before the declarations.
     Declarations(std::size_t padding, const Record* expected)
         : m_parser(createParser()), m_steps(expected, [this] { return observe(); })
     {
@@ -55,7 +56,7 @@ public:
         build("addKeywords", [](IOption& option) { option.addKeywords(L"test,link,pack,test"); });
         build("addKeywords that make it positional",
               [](IOption& option) { option.addKeywords(L"more,kexa_positional_option"); });
-        // Names without end, until every table has grown.
+        // So many names that every table grows.
         for (int number = 0; number < 30; ++number)
         {
             const std::wstring name = L"name-" + std::to_wstring(number);
@@ -128,7 +129,7 @@ private:
     IOption* m_option = nullptr;
 };
 
-// Runs the declarations with one allocation failing. Answers how many they made.
+// Runs the declarations with one failing allocation. Returns how many allocations they made.
 std::size_t failAllocationOf(std::size_t padding, std::size_t number, Extent extent,
                              const Record& expected)
 {
@@ -143,12 +144,12 @@ std::size_t failAllocationOf(std::size_t padding, std::size_t number, Extent ext
 
 } // namespace
 
-TEST(AllocationFailureOfDeclarations, LeavesThemWhollyMadeOrNotAtAll)
+TEST(AllocationFailureOfDeclarations, LeavesThemCompleteOrMissing)
 {
     std::size_t runs = 0;
     std::size_t tried = 0;
-    // The first block has 12 KiB. With less padding all of the declarations would fit into it, with
-    // more of it the padding itself would not.
+    // The first block has 12 KiB. With less padding the declarations fit into it as well; with more
+    // the padding itself does not.
     constexpr std::size_t lowest = 6144 / sizeof(wchar_t);
     constexpr std::size_t highest = 11264 / sizeof(wchar_t);
     constexpr std::size_t stride = 16 / sizeof(wchar_t);
@@ -172,7 +173,7 @@ TEST(AllocationFailureOfDeclarations, LeavesThemWhollyMadeOrNotAtAll)
         }
     }
     EXPECT_GT(runs, 600U);
-    EXPECT_GE(tried, runs); // wherever the block ends, something more is needed
+    EXPECT_GE(tried, runs); // every run allocates at least once
     std::cout << tried << " allocations failed\n";
     RecordProperty("allocations", std::to_string(tried));
 }

@@ -1,5 +1,6 @@
-// Allocations fail while an occurrence is stored for names that do not share one record: one was
-// added late, or belongs to another parser's option as well. Either all names tell of it or none.
+// Fails allocations while an occurrence is stored for an option whose names have different records:
+// one name was added late, another also belongs to an option of a second parser. The occurrence
+// must be stored for all of the names or for none.
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -18,10 +19,10 @@ namespace
 
 using Texts = std::vector<std::wstring>;
 
-// How a parse ends whose result holds a name that the parser does not know.
+// The code of a parse whose result contains a name that the parser does not have.
 constexpr result_t foreign_name = result_nothing;
 
-// What a result tells of each name.
+// Returns the values of each name.
 std::vector<Texts> contents(IParseResult& result)
 {
     std::vector<Texts> all;
@@ -45,7 +46,7 @@ result_t parse(IParser& parser, IParseResult& result, const wchar_t* argument)
     return inLibrary([&] { return parser.parse(2, arguments, &result); });
 }
 
-// Fails each allocation of the last parse in turn. Answers how many there were.
+// Fails each allocation of the last parse in turn. Returns how many there were.
 std::size_t failEachAllocation(Extent extent)
 {
     for (std::size_t number = 1;; ++number)
@@ -70,7 +71,7 @@ std::size_t failEachAllocation(Extent extent)
         if (code == foreign_name)
         {
             EXPECT_LT(made, number);
-            // A name without an entry starts with what the first name tells.
+            // A name without a record starts with a copy of the first name's record.
             after[2] = after[0];
             for (std::size_t name = 0; name < 3; ++name)
             {
@@ -89,7 +90,7 @@ std::size_t failEachAllocation(Extent extent)
     }
 }
 
-TEST(AllocationFailureOfLateNames, AllNamesTellOfTheOccurrenceOrNone)
+TEST(AllocationFailureOfLateNames, AllNamesHaveTheOccurrenceOrNone)
 {
     for (const Extent extent : {Extent::oneAllocation, Extent::restOfCall})
     {

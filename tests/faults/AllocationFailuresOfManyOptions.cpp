@@ -1,6 +1,6 @@
-// Allocations fail while the tables of a parser and of a result outgrow their first room, and again
-// later: more options, names and groups than programs usually have. What was declared or stored
-// before stays.
+// Fails allocations while the tables of a parser and of a result grow, several times: for more
+// options, names and groups than programs usually have. Everything that was declared or stored
+// before must stay.
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -20,7 +20,7 @@ namespace
 constexpr std::size_t options = 300;
 constexpr std::size_t options_in_group = 10;
 
-// Of each option two names, the value to give it and the argument that gives it.
+// The two names of an option, its value, and the argument with that value.
 struct Texts
 {
     std::wstring name;
@@ -53,7 +53,7 @@ const std::vector<Texts>& texts()
     return made;
 }
 
-// Declares the options from one on until a declaration fails. Answers how many are declared then.
+// Declares the options from index `first` on until one fails. Returns how many are declared then.
 std::size_t declareFrom(IParser& parser, std::size_t first)
 {
     for (std::size_t number = first; number < options; ++number)
@@ -86,7 +86,8 @@ result_t parseAll(IParser& parser, IParseResult& result)
         });
 }
 
-// Expects that options hold their value a number of times, and those in front of one more often.
+// Expects that each option has its value `times` times, and the options before `end` `more` times
+// in addition.
 void expectValues(IParseResult& result, std::size_t end, std::size_t times, std::size_t more)
 {
     for (std::size_t number = 0; number < options; ++number)
@@ -98,7 +99,7 @@ void expectValues(IParseResult& result, std::size_t end, std::size_t times, std:
     }
 }
 
-// One sweep over declarations. Answers how many allocations were made to fail.
+// Fails each allocation of the declarations in turn. Returns how many failed.
 std::size_t failEachOfDeclaring(Extent extent)
 {
     failAllocation(0, extent);
@@ -123,7 +124,7 @@ std::size_t failEachOfDeclaring(Extent extent)
                     << number;
             }
             EXPECT_EQ(declareFrom(*parser, declared), options);
-            EXPECT_EQ(parser->showFullHelp(false), help); // which lists each group once
+            EXPECT_EQ(parser->showFullHelp(false), help); // lists each group once
             const ResultOwner result = createResult(*parser);
             EXPECT_EQ(parseAll(*parser, *result), result_success);
             expectValues(*result, 0, 1, 0);
@@ -136,7 +137,8 @@ std::size_t failEachOfDeclaring(Extent extent)
     }
 }
 
-// One sweep over a parse that stores a value of each option.
+// Fails each allocation of a parse in turn that stores a value of each option. Returns how many
+// failed.
 std::size_t failEachOfStoring(Extent extent)
 {
     failAllocation(0, extent);

@@ -1,6 +1,6 @@
-// Allocations fail while a parse stores more than a result has room for: texts, the occurrences of
-// one option, and shares of the host's own values. What was stored before stays, argument by
-// argument.
+// Fails allocations while a parse stores more than a new result has room for: texts, occurrences of
+// one option, and references to values of the host. The arguments before the failure must stay
+// stored.
 #include <algorithm>
 #include <cstddef>
 #include <string>
@@ -20,7 +20,7 @@ namespace
 
 using Texts = std::vector<std::wstring>;
 
-// The arguments, and what "text" holds after each of them.
+// The arguments, and the values of "text" after each of them.
 class Command
 {
 public:
@@ -55,7 +55,7 @@ public:
 
     [[nodiscard]] const Texts& all() const { return m_texts; }
 
-    // Whether the texts are those of some arguments from the front.
+    // Returns whether the texts are the values of the first arguments, for any number of them.
     [[nodiscard]] bool isPrefix(const Texts& texts) const
     {
         bool ends = false;
@@ -85,7 +85,7 @@ private:
     std::vector<std::size_t> m_ends = {0};
 };
 
-// One sweep. Answers how many allocations were made to fail.
+// Fails each allocation of a parse in turn. Returns how many failed.
 std::size_t failEachAllocation(const Command& command, Extent extent)
 {
     for (std::size_t number = 1;; ++number)
@@ -119,7 +119,7 @@ std::size_t failEachAllocation(const Command& command, Extent extent)
                 EXPECT_EQ(code, result_standard_exception);
                 EXPECT_TRUE(command.isPrefix(stored)) << stored.size();
             }
-            // The same again is stored behind it.
+            // A second parse appends its values to those of the first.
             EXPECT_EQ(command.parse(*parser, *result), result_success);
             stored.insert(stored.end(), command.all().begin(), command.all().end());
             EXPECT_EQ(readTexts(*result, L"text"), stored);

@@ -1,4 +1,4 @@
-// Event handlers that ask the result being filled, the parser's help, or parse themselves.
+// Event handlers that query the result being filled, create help texts, or parse.
 #include <string>
 #include <vector>
 
@@ -43,7 +43,7 @@ TEST_F(HandlersThatCallBack, TheResultShowsTheArgumentsBeforeTheOneBeingParsed)
     EXPECT_EQ(host.texts(L"name"), (Texts{L"a", L"b", L"c"}));
 }
 
-TEST_F(HandlersThatCallBack, AWalkBegunBeforeTheParseSeesWhatItStores)
+TEST_F(HandlersThatCallBack, AWalkBegunBeforeTheParseReachesTheNewValues)
 {
     EXPECT_EQ(host.parse({L"--name=a"}), result_success);
     Value value;
@@ -61,13 +61,13 @@ TEST_F(HandlersThatCallBack, AWalkBegunBeforeTheParseSeesWhatItStores)
     EXPECT_EQ(walked, (Texts{L"b", L"c", L"d", L"e", L"f", L"g", L"h", L"i"}));
 }
 
-TEST_F(HandlersThatCallBack, HelpAndQuestionsAreAnswered)
+TEST_F(HandlersThatCallBack, HelpAndQueriesWorkInsideAnEvent)
 {
     const std::wstring help = host.parser().showFullHelp(false);
-    int asked = 0;
-    const auto ask = [&](const wchar_t*)
+    int calls = 0;
+    const auto query = [&](const wchar_t*)
     {
-        ++asked;
+        ++calls;
         EXPECT_EQ(host.parser().showFullHelp(false), help);
         EXPECT_STREQ(host.parser().showTopicHelp(L"nothing", false),
                      L"Help for nothing not available.Please use one of the following topics:\n");
@@ -75,10 +75,10 @@ TEST_F(HandlersThatCallBack, HelpAndQuestionsAreAnswered)
         EXPECT_STREQ(host.parser().getErrorMessage(), L"");
         return false;
     };
-    handler.answerOption = ask;
-    handler.answerUnknown = ask;
+    handler.answerOption = query;
+    handler.answerUnknown = query;
     EXPECT_EQ(host.parse({L"--name=a", L"unknown"}), result_success);
-    EXPECT_EQ(asked, 2);
+    EXPECT_EQ(calls, 2);
 }
 
 TEST_F(HandlersThatCallBack, AParseInsideAnEventFillsItsOwnResult)
@@ -115,7 +115,7 @@ TEST_F(HandlersThatCallBack, AParseInsideAnEventMayFillTheSameResult)
     EXPECT_EQ(host.texts(L"name"), (Texts{L"inner", L"a", L"b"}));
 }
 
-TEST_F(HandlersThatCallBack, AFailedParseInsideAnEventLeavesItsMessage)
+TEST_F(HandlersThatCallBack, AFailedParseInsideAnEventSetsTheMessage)
 {
     handler.answerOption = [&](const wchar_t*)
     {

@@ -1,4 +1,4 @@
-// Event handlers that register and remove handlers, themselves too, while they are called.
+// Event handlers that add and remove handlers, including themselves, while they are called.
 #include <functional>
 #include <memory>
 #include <string>
@@ -12,7 +12,8 @@ using namespace toolbox;
 namespace
 {
 
-// Three handlers with ascending addresses, of which a test registers some.
+// Three handlers with ascending addresses, because handlers are called in the order of their
+// addresses.
 class HandlersThatChangeHandlers : public testing::Test
 {
 protected:
@@ -26,7 +27,7 @@ protected:
         }
     }
 
-    // Lets a handler act at each of its events.
+    // Makes a handler run an action at each of its events.
     void at(std::size_t index, const std::function<void()>& action)
     {
         handlers[index].answerOption = [action](const wchar_t*)
@@ -58,7 +59,7 @@ protected:
 
 } // namespace
 
-TEST_F(HandlersThatChangeHandlers, OneThatRemovesItselfHearsNoMore)
+TEST_F(HandlersThatChangeHandlers, OneThatRemovesItselfIsNotCalledAgain)
 {
     registerHandlers({0, 1, 2});
     at(1, [this] { EXPECT_TRUE(host.parser().removeEventHandler(&handlers[1])); });
@@ -66,14 +67,15 @@ TEST_F(HandlersThatChangeHandlers, OneThatRemovesItselfHearsNoMore)
                                               L"1: unknown y", L"3: unknown y"}));
 }
 
-TEST_F(HandlersThatChangeHandlers, OneThatRemovesItselfMayDieAtOnce)
+TEST_F(HandlersThatChangeHandlers, OneThatRemovesItselfMayBeDestroyedAtOnce)
 {
     registerHandlers({0, 2});
     auto dying = std::make_unique<RecordingHandler>(events, L"dying: ");
     ASSERT_TRUE(host.parser().addEventHandler(dying.get()));
     dying->answerUnknown = [&](const wchar_t*)
     {
-        // The function that runs here dies with its handler: nothing of it is used afterwards.
+        // Destroying the handler also destroys the std::function that is running, so it is moved to
+        // a local variable first.
         IParser& parser = host.parser();
         RecordingHandler* const self = dying.release();
         parser.removeEventHandler(self);
@@ -82,7 +84,8 @@ TEST_F(HandlersThatChangeHandlers, OneThatRemovesItselfMayDieAtOnce)
         delete self;
         return true;
     };
-    // The order of a heap address among the others is not known.
+    // The address of this handler may be below or above the others, so the order of calls is
+    // unknown.
     const Events all = eventsOf({L"x", L"y"});
     EXPECT_EQ(std::count(all.begin(), all.end(), L"dying: unknown x"), 1);
     EXPECT_EQ(std::count(all.begin(), all.end(), L"dying: unknown y"), 0);
@@ -97,7 +100,7 @@ TEST_F(HandlersThatChangeHandlers, OneThatIsRemovedBeforeItsTurnIsNotCalled)
     EXPECT_EQ(eventsOf({L"x"}), (Events{L"1: unknown x", L"3: unknown x"}));
 }
 
-TEST_F(HandlersThatChangeHandlers, OneThatIsRemovedAfterItsTurnHearsTheNextEventNoMore)
+TEST_F(HandlersThatChangeHandlers, OneThatIsRemovedAfterItsTurnIsNotCalledForTheNextEvent)
 {
     registerHandlers({0, 1, 2});
     at(2, [this] { host.parser().removeEventHandler(&handlers[0]); });
@@ -105,21 +108,21 @@ TEST_F(HandlersThatChangeHandlers, OneThatIsRemovedAfterItsTurnHearsTheNextEvent
                                               L"2: unknown y", L"3: unknown y"}));
 }
 
-TEST_F(HandlersThatChangeHandlers, OneThatIsAddedAtAHigherAddressHearsTheSameEvent)
+TEST_F(HandlersThatChangeHandlers, OneThatIsAddedAtAHigherAddressIsCalledForTheSameEvent)
 {
     registerHandlers({0});
     at(0, [this] { host.parser().addEventHandler(&handlers[2]); });
     EXPECT_EQ(eventsOf({L"x"}), (Events{L"1: unknown x", L"3: unknown x"}));
 }
 
-TEST_F(HandlersThatChangeHandlers, OneThatIsAddedAtALowerAddressHearsTheNextEvent)
+TEST_F(HandlersThatChangeHandlers, OneThatIsAddedAtALowerAddressIsCalledForTheNextEvent)
 {
     registerHandlers({2});
     at(2, [this] { host.parser().addEventHandler(&handlers[0]); });
     EXPECT_EQ(eventsOf({L"x", L"y"}), (Events{L"3: unknown x", L"1: unknown y", L"3: unknown y"}));
 }
 
-TEST_F(HandlersThatChangeHandlers, OneThatComesBackInItsOwnCallIsNotCalledTwice)
+TEST_F(HandlersThatChangeHandlers, OneThatIsRemovedAndAddedInItsOwnCallIsNotCalledTwice)
 {
     registerHandlers({1});
     at(1,
@@ -146,7 +149,7 @@ TEST_F(HandlersThatChangeHandlers, AllMayRemoveEachOther)
     EXPECT_EQ(host.texts(L"name"), (std::vector<std::wstring>{L"a"}));
 }
 
-TEST_F(HandlersThatChangeHandlers, WhatARemovedHandlerAnsweredCounts)
+TEST_F(HandlersThatChangeHandlers, ReturnValueOfARemovedHandlerCounts)
 {
     registerHandlers({0, 1});
     handlers[0].answerValue = [this](const wchar_t*, const ValueRecord&)

@@ -1,4 +1,4 @@
-// Event handlers that declare options, change them or configure the parser while it parses.
+// Event handlers that declare or change options, or configure the parser, during a parse.
 #include <functional>
 #include <set>
 #include <string>
@@ -24,7 +24,7 @@ protected:
         host.parser().addEventHandler(&handler);
     }
 
-    // Acts at the first recognised option, or at the first value.
+    // Run an action at the first recognised option, or at the first value.
     void atOption(const std::function<void()>& action)
     {
         handler.answerOption = [this, action](const wchar_t*)
@@ -57,7 +57,7 @@ protected:
 
 } // namespace
 
-TEST_F(HandlersThatDeclare, ANewOptionIsKnownToTheArgumentsBehind)
+TEST_F(HandlersThatDeclare, ANewOptionIsFoundByTheFollowingArguments)
 {
     atOption([this] { host.addOption(L"late,l"); });
     EXPECT_EQ(host.parse({L"--name=a", L"--late=b", L"--la=c"}), result_success);
@@ -98,7 +98,7 @@ TEST_F(HandlersThatDeclare, ANewNameOfAnOptionStoredBeforeJoinsItsRecord)
     EXPECT_EQ(host.texts(L"further"), (Texts{L"a", L"b"}));
 }
 
-TEST_F(HandlersThatDeclare, ANewAllowedValueCountsForTheNextPiece)
+TEST_F(HandlersThatDeclare, ANewAllowedValueAppliesToTheNextListElement)
 {
     atValue([this] { name->addAllowedValue(variant_t(L"allowed")); });
     EXPECT_EQ(host.parse({L"--name=anything,all"}), result_success);
@@ -109,21 +109,21 @@ TEST_F(HandlersThatDeclare, ANewAllowedValueCountsForTheNextPiece)
               L"allow value 'anything'. Possible values follows: 'allowed'");
 }
 
-TEST_F(HandlersThatDeclare, ANewSeparatorCountsForTheNextArgument)
+TEST_F(HandlersThatDeclare, ANewSeparatorAppliesToTheNextArgument)
 {
     atValue([this] { name->setSeparator(L':'); });
     EXPECT_EQ(host.parse({L"--name=a,b:c", L"--name=d,e:f"}), result_success);
     EXPECT_EQ(host.texts(L"name"), (Texts{L"a", L"b:c", L"d,e", L"f"}));
 }
 
-TEST_F(HandlersThatDeclare, AnOptionThatBecomesPositionalTakesTheArgumentsBehind)
+TEST_F(HandlersThatDeclare, AnOptionThatBecomesPositionalTakesTheFollowingArguments)
 {
     atOption([this] { name->setMarked(); });
     EXPECT_EQ(host.parse({L"--name=a", L"b"}), result_success);
     EXPECT_EQ(host.texts(L"name"), (Texts{L"a", L"b"}));
 }
 
-TEST_F(HandlersThatDeclare, ANewDefaultCountsFromTheNextParse)
+TEST_F(HandlersThatDeclare, ANewDefaultAppliesFromTheNextParse)
 {
     IOption& other = host.addOption(L"other");
     atOption([&] { other.setDefaultValue(variant_t(L"default")); });
@@ -150,7 +150,7 @@ TEST_F(HandlersThatDeclare, ActionsDeclaredCompatibleDuringAParseAreCompatibleIn
     EXPECT_EQ(host.parse({L"--build", L"--clean"}), result_success);
 }
 
-TEST_F(HandlersThatDeclare, AnUnknownArgumentDeclaredMeanwhileIsStillUnknown)
+TEST_F(HandlersThatDeclare, AnUnknownArgumentStaysUnknownWhenItsHandlerDeclaresIt)
 {
     handler.answerUnknown = [this](const wchar_t*)
     {

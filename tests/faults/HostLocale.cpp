@@ -1,5 +1,4 @@
-// A host that sets a global locale of its own: the same arguments and the same option file give the
-// same answers.
+// A global locale of the host does not change how arguments and option files are parsed.
 #include <locale>
 #include <string>
 
@@ -39,7 +38,7 @@ std::locale commaDecimals()
     return std::locale(wide, new CommaDecimals<char>);
 }
 
-// Whether the locale is one that would disturb.
+// Returns whether streams write numbers with commas, so that the locale could affect parsing.
 bool writesCommas()
 {
     std::wostringstream stream;
@@ -47,7 +46,7 @@ bool writesCommas()
     return stream.str() == L"1.234,5";
 }
 
-// All that a host sees of one parse with numbers and an option file, one fact in each line.
+// Returns everything that a host can observe of parses with numbers and an option file.
 std::wstring parseNumbers()
 {
     const TemporaryFolder folder;
@@ -93,7 +92,7 @@ TEST(HostLocale, DoesNotChangeHowNumbersAndOptionFilesAreRead)
     EXPECT_EQ(parseNumbers(), before);
 }
 
-TEST(HostLocale, ChangedDuringAParseDoesNotDisturbIt)
+TEST(HostLocale, ChangedDuringAParseHasNoEffect)
 {
     Events events;
     RecordingHandler handler(events);

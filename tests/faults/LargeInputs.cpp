@@ -1,5 +1,4 @@
-// Inputs of a size that nobody types: the answers stay right, and the time grows with the size
-// only.
+// Very large inputs: the results are correct, and the time is linear in the size.
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -15,7 +14,7 @@ namespace
 constexpr std::size_t million = 1000000;
 constexpr std::size_t mebibyte = std::size_t{1} << 20;
 
-// As many characters as take 64 MiB.
+// Number of characters in 64 MiB.
 constexpr std::size_t long_length = 64 * mebibyte / sizeof(wchar_t);
 
 class LargeInputs : public testing::Test
@@ -23,7 +22,7 @@ class LargeInputs : public testing::Test
 protected:
     LargeInputs() { host.addOption(L"name,n"); }
 
-    // EXPECT_EQ would print both texts.
+    // Not EXPECT_EQ, which would print both texts.
     void expectMessage(const std::wstring& before, const std::wstring& longText,
                        const std::wstring& behind)
     {
@@ -182,7 +181,7 @@ TEST_F(LargeInputs, AnAmbiguousNameAmongManyListsThemAll)
                   L"");
 }
 
-TEST(LargeTexts, AreWrappedInTimeThatGrowsWithTheirLength)
+TEST(LargeTexts, AreWrappedInLinearTime)
 {
     std::wstring text;
     while (text.size() < long_length)
@@ -196,7 +195,7 @@ TEST(LargeTexts, AreWrappedInTimeThatGrowsWithTheirLength)
     EXPECT_EQ(std::wstring_view(broken.getText()).size(), 3 * word.size());
 }
 
-TEST(LargeTexts, AreExplainedInTimeThatGrowsWithTheirLength)
+TEST(LargeTexts, AreFormattedAsHelpInLinearTime)
 {
     Host host;
     const std::wstring description(long_length, L'd');

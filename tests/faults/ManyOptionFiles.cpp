@@ -1,4 +1,4 @@
-// Option files in numbers: a long chain, a long list, and cycles.
+// Many option files: a long chain, a long list, and cycles.
 #include <cstddef>
 #include <filesystem>
 #include <string>
@@ -14,7 +14,8 @@ namespace
 
 constexpr int file_count = 10000;
 
-// Wine reads a folder to its end for each file that is made in it.
+// Few files in each folder, because Wine reads the whole folder for each file that is created in
+// it.
 constexpr int files_in_folder = 100;
 
 class ManyOptionFiles : public testing::Test
@@ -86,7 +87,7 @@ TEST_F(ManyOptionFiles, AListIsReadInItsOrder)
     expectNumbersUpTo(file_count);
 }
 
-TEST_F(ManyOptionFiles, EveryFileNamingEveryOtherComesToAnEnd)
+TEST_F(ManyOptionFiles, FilesThatAllNameEachOtherAreReadOnce)
 {
     constexpr int few = 100;
     std::string all;

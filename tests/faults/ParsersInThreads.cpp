@@ -1,4 +1,6 @@
-// Parsers of different threads do not disturb each other.
+// Different parsers may be used by different threads at the same time.
+#include <algorithm>
+#include <array>
 #include <atomic>
 #include <functional>
 #include <string>
@@ -17,7 +19,8 @@ using Texts = std::vector<std::wstring>;
 
 constexpr int parses = 100000;
 
-// Runs an action in several threads at once, each with its number.
+// Runs an action in several threads, which start it at the same time. Passes the index of the
+// thread.
 void inThreads(int count, const std::function<void(int)>& action)
 {
     std::atomic<int> waiting{count};
@@ -41,8 +44,8 @@ void inThreads(int count, const std::function<void(int)>& action)
     }
 }
 
-// A host with options of its own, whose parses can be foretold. Answers of a parse are compared
-// here and not by GoogleTest: there are too many.
+// A host with predictable parses. The results are not compared with GoogleTest's macros, which are
+// too slow for so many parses.
 class ThreadHost
 {
 public:
@@ -58,7 +61,7 @@ public:
         m_host.addSwitch(L"clean");
     }
 
-    // Parses in a way that depends on the round. Answers whether all came out right.
+    // Parses arguments that depend on the round. Returns whether the results are right.
     bool parse(int round)
     {
         m_host.renewResult();
@@ -102,7 +105,7 @@ private:
 
 } // namespace
 
-TEST(ParsersInThreads, OfTwoThreadsAnswerRightly)
+TEST(ParsersInThreads, OfTwoThreadsGiveRightResults)
 {
     std::atomic<int> wrong{0};
     std::atomic<int> done{0};
@@ -118,6 +121,47 @@ TEST(ParsersInThreads, OfTwoThreadsAnswerRightly)
               });
     EXPECT_EQ(wrong, 0);
     EXPECT_EQ(done, 2 * parses);
+}
+
+// All parsers of the process share the counter of positions. Several rounds make it likely that
+// both threads really convert values at the same time.
+TEST(ParsersInThreads, GiveOutUniqueAscendingPositions)
+{
+    constexpr int rounds = 20;
+    constexpr std::size_t values = 20000;
+    std::wstring list = L"--number=";
+    for (std::size_t count = 0; count < values; ++count)
+    {
+        list += L"1,";
+    }
+    std::array<Host, 2> hosts;
+    std::array<std::vector<std::int32_t>, 2> positions;
+    for (Host& host : hosts)
+    {
+        host.addOption(L"number", value_type_integer);
+    }
+    for (int round = 0; round < rounds; ++round)
+    {
+        inThreads(2, [&](int number)
+                  { hosts.at(static_cast<std::size_t>(number)).parse({list.c_str()}); });
+        for (std::size_t number = 0; number < hosts.size(); ++number)
+        {
+            for (const ReadValue& value : hosts[number].values(L"number"))
+            {
+                positions[number].push_back(value.position);
+            }
+            hosts[number].renewResult();
+        }
+    }
+    std::vector<std::int32_t> all;
+    for (const std::vector<std::int32_t>& ofThread : positions)
+    {
+        EXPECT_EQ(ofThread.size(), rounds * values);
+        EXPECT_TRUE(std::is_sorted(ofThread.begin(), ofThread.end())) << "a position ran backwards";
+        all.insert(all.end(), ofThread.begin(), ofThread.end());
+    }
+    std::sort(all.begin(), all.end());
+    EXPECT_EQ(std::adjacent_find(all.begin(), all.end()), all.end()) << "a position was used twice";
 }
 
 TEST(ParsersInThreads, MayBeMadeAndReleasedAtTheSameTime)
@@ -146,7 +190,7 @@ TEST(ParsersInThreads, MayBeHandedFromOneThreadToAnother)
     }
 }
 
-TEST(ParsersInThreads, ExplainAtTheSameTime)
+TEST(ParsersInThreads, FormatHelpAtTheSameTime)
 {
     ThreadHost reference(0);
     const std::wstring help = reference.host().parser().showFullHelp(false);
@@ -191,8 +235,8 @@ TEST(ParsersInThreads, ReadOptionFilesAtTheSameTime)
     EXPECT_EQ(wrong, 0);
 }
 
-// What is printed whatever the trace: each line whole, none lost.
-TEST(ParsersInThreads, WarnAndComplainAtTheSameTime)
+// These messages are printed even if the trace is off. No line may be lost or split.
+TEST(ParsersInThreads, PrintWarningsAtTheSameTime)
 {
     constexpr std::size_t rounds = 500;
     const auto warn = [](int)

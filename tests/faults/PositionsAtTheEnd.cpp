@@ -1,5 +1,4 @@
-// Positions near 2147483647, which stands for "no position": the numbers end before it and begin at
-// 0 again.
+// Positions near 2147483647, which means "no position": the position before it is followed by 0.
 #include <string>
 #include <vector>
 
@@ -43,7 +42,7 @@ protected:
 
 } // namespace
 
-TEST_F(PositionsAtTheEnd, GoOnAtZero)
+TEST_F(PositionsAtTheEnd, AreFollowedByZero)
 {
     setNextSequenceNumber(last - 1);
     ASSERT_EQ(host.parse({L"--name=a,b,c,d"}), result_success);
@@ -51,7 +50,7 @@ TEST_F(PositionsAtTheEnd, GoOnAtZero)
     EXPECT_EQ(nextSequenceNumber(), 2);
 }
 
-TEST_F(PositionsAtTheEnd, OfOccurrencesWithoutAValueAreNeverTheMarkForNone)
+TEST_F(PositionsAtTheEnd, OfOccurrencesWithoutAValueAreNeverNoPosition)
 {
     setNextSequenceNumber(last);
     ASSERT_EQ(host.parse({L"--flag", L"--name=a", L"--flag", L"--name=b"}), result_success);
@@ -59,23 +58,23 @@ TEST_F(PositionsAtTheEnd, OfOccurrencesWithoutAValueAreNeverTheMarkForNone)
     EXPECT_EQ(positions(L"name"), (Positions{last, 0}));
 }
 
-TEST_F(PositionsAtTheEnd, AreToldToHandlers)
+TEST_F(PositionsAtTheEnd, ArePassedToHandlers)
 {
     Events events;
     RecordingHandler handler(events);
-    Positions told;
-    handler.answerValue = [&told](const wchar_t*, const ValueRecord& value)
+    Positions passed;
+    handler.answerValue = [&passed](const wchar_t*, const ValueRecord& value)
     {
-        told.push_back(value.sequenceNumber);
+        passed.push_back(value.sequenceNumber);
         return true;
     };
     host.parser().addEventHandler(&handler);
     setNextSequenceNumber(last);
     ASSERT_EQ(host.parse({L"--name=a,b"}), result_success);
-    EXPECT_EQ(told, (Positions{last, 0}));
+    EXPECT_EQ(passed, (Positions{last, 0}));
 }
 
-TEST_F(PositionsAtTheEnd, AreFoundByTheRangesThatHoldThem)
+TEST_F(PositionsAtTheEnd, AreFoundInTheRangesThatContainThem)
 {
     setNextSequenceNumber(last - 1);
     ASSERT_EQ(host.parse({L"--name=a,b"}), result_success);
@@ -88,7 +87,7 @@ TEST_F(PositionsAtTheEnd, AreFoundByTheRangesThatHoldThem)
     };
     const std::vector<Row> table = {
         {0, no_position, 1, {L"a", L"b"}},
-        {last - 1, last, 1, {L"a", L"b"}}, // a value at exactly the end is given
+        {last - 1, last, 1, {L"a", L"b"}}, // the upper bound is inclusive for values
         {last, no_position, 1, {L"b"}},
         {last, last, 0, {}},
         {no_position, no_position, 0, {}},
@@ -109,7 +108,7 @@ TEST_F(PositionsAtTheEnd, AreFoundByTheRangesThatHoldThem)
     }
 }
 
-TEST_F(PositionsAtTheEnd, BehindTheWrapAreFoundOverTheWholeRange)
+TEST_F(PositionsAtTheEnd, AfterTheWrapAreFoundInTheWholeRange)
 {
     setNextSequenceNumber(last);
     ASSERT_EQ(host.parse({L"--name=a", L"--name=b"}), result_success);

@@ -1,4 +1,4 @@
-// Option files that are no regular file, cannot be read, or have no end.
+// Option files that are not regular files, cannot be read, or are endless.
 #include <cstddef>
 #include <string>
 #include <thread>
@@ -43,7 +43,7 @@ protected:
     Host host{flag_unknown_is_error};
 };
 
-// Writes lines into a descriptor and closes it, from another thread.
+// Starts a thread that writes lines to a descriptor and closes it.
 std::thread writeLines(int descriptor, std::size_t count)
 {
     return std::thread(
@@ -52,7 +52,7 @@ std::thread writeLines(int descriptor, std::size_t count)
             const std::string line = "--name=piped\n";
             for (std::size_t number = 0; number < count; ++number)
             {
-                // Two writes for each line: what arrives at once is no line.
+                // Two writes for each line, so that single reads do not return whole lines.
                 EXPECT_EQ(::write(descriptor, line.data(), 5), 5);
                 EXPECT_EQ(::write(descriptor, line.data() + 5, line.size() - 5),
                           static_cast<ssize_t>(line.size() - 5));
@@ -61,7 +61,7 @@ std::thread writeLines(int descriptor, std::size_t count)
         });
 }
 
-// Lets the process open descriptors below a number only, while the object lives.
+// Limits the descriptors of the process to numbers below `highest` until the destructor runs.
 class DescriptorLimit
 {
 public:
@@ -79,7 +79,7 @@ private:
     rlimit m_before = {};
 };
 
-// Gives root's rights away while the object lives: root may read everything.
+// Drops the privileges of root, who may read every file, until the destructor runs.
 class WithoutPrivileges
 {
 public:
@@ -116,7 +116,7 @@ TEST_F(SpecialFiles, AFileBeyondTheLimitIsRefusedUnread)
     const std::wstring name = folder.write(L"sparse", "--name=a\n");
     ASSERT_EQ(::truncate(toUtf8(name).c_str(), (off_t{1} << 30) + 1), 0);
     expectRefusal(name, L"it is larger than 1 GiB");
-    // Far beyond what a program could hold.
+    // More than any program could load: the size alone decides.
     ASSERT_EQ(::truncate(toUtf8(name).c_str(), off_t{1} << 42), 0);
     expectRefusal(name, L"it is larger than 1 GiB");
 }
@@ -185,7 +185,7 @@ TEST_F(SpecialFiles, AFileWithoutPermissionIsRefused)
     const WithoutPrivileges plain;
     if (!plain.dropped())
     {
-        GTEST_SKIP() << "root cannot become anybody else here, and may read every file";
+        GTEST_SKIP() << "root cannot drop its privileges here, and may read every file";
     }
     expectRefusal(name, L"permission denied");
 }
@@ -226,7 +226,7 @@ TEST_F(SpecialFiles, ASocketIsRefused)
 
 TEST_F(SpecialFiles, AFileWhoseReadingFailsIsRefused)
 {
-    // The first page of a process's memory is mapped by nobody: opening works, reading does not.
+    // The first page of a process is never mapped: the file can be opened, but reading fails.
     expectRefusal(L"/proc/self/mem", L"it cannot be read");
 }
 

@@ -1,4 +1,5 @@
-// What an exception thrown by an event handler does to a parse, and what it leaves behind.
+// Exceptions thrown by event handlers: how the parse ends, and the state of parser and result after
+// it.
 #include <functional>
 #include <new>
 #include <stdexcept>
@@ -18,7 +19,7 @@ struct Thrown
     const char* what;
     std::function<void()> raise;
     result_t code;
-    const wchar_t* message; // behind a parse that failed with "before"
+    const wchar_t* message; // after a parse that failed for "before"
 };
 
 const std::vector<Thrown>& thrownByHandlers()
@@ -37,7 +38,7 @@ const std::vector<Thrown>& thrownByHandlers()
     return table;
 }
 
-// A handler that throws at one of the three events, once.
+// A handler that throws once, at one of the three events. Parameter: the index of the event.
 class ThrowingHandlers : public testing::TestWithParam<int>
 {
 protected:
@@ -83,7 +84,7 @@ protected:
         }
     }
 
-    // Makes "Unknown option: before" the message that later parses find.
+    // Sets the message to "Unknown option: before".
     void failBefore()
     {
         handler.answerUnknown = nullptr;
@@ -112,7 +113,7 @@ TEST_P(ThrowingHandlers, EndTheParseWithACode)
     }
 }
 
-TEST_P(ThrowingHandlers, EndAParseOfLinesAlike)
+TEST_P(ThrowingHandlers, EndAParseOfLinesWithACode)
 {
     for (const Thrown& row : thrownByHandlers())
     {
@@ -124,7 +125,7 @@ TEST_P(ThrowingHandlers, EndAParseOfLinesAlike)
     }
 }
 
-TEST_P(ThrowingHandlers, EndAParseThatReadsOptionFilesAlike)
+TEST_P(ThrowingHandlers, EndAParseOfOptionFilesWithACode)
 {
     const TemporaryFolder folder;
     const std::wstring argument =
@@ -140,7 +141,7 @@ TEST_P(ThrowingHandlers, EndAParseThatReadsOptionFilesAlike)
     }
 }
 
-TEST_P(ThrowingHandlers, LeaveAResultInWhichAllNamesOfAnOptionAreAlike)
+TEST_P(ThrowingHandlers, LeaveAllNamesOfAnOptionWithEqualValues)
 {
     for (const Thrown& row : thrownByHandlers())
     {
@@ -148,7 +149,7 @@ TEST_P(ThrowingHandlers, LeaveAResultInWhichAllNamesOfAnOptionAreAlike)
         host.renewResult();
         throwOnce(row.raise);
         EXPECT_EQ(host.parse({L"-n=first,second", L"unknown"}), row.code);
-        // The occurrence that the handler interrupted is not there; a whole one is.
+        // An occurrence is stored only if no handler threw before its end.
         const std::vector<std::wstring> stored =
             GetParam() == 2 ? std::vector<std::wstring>{L"first", L"second"}
                             : std::vector<std::wstring>{};
@@ -159,7 +160,7 @@ TEST_P(ThrowingHandlers, LeaveAResultInWhichAllNamesOfAnOptionAreAlike)
     }
 }
 
-TEST_P(ThrowingHandlers, LeaveAParserThatParsesTheSameArgumentsRightly)
+TEST_P(ThrowingHandlers, LeaveAParserThatParsesAgain)
 {
     for (const Thrown& row : thrownByHandlers())
     {

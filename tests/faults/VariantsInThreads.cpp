@@ -1,4 +1,4 @@
-// Variants that share a block may be copied, read and released on different threads.
+// Variants that share a block may be copied, read and released by different threads.
 #include <atomic>
 #include <string>
 #include <thread>
@@ -26,7 +26,7 @@ private:
     std::atomic<int>* m_destroyed;
 };
 
-// Copies, compares and drops in one thread.
+// Copies, moves, compares and destroys variants.
 void shuffle(const variant_t& mine, int rounds)
 {
     std::vector<variant_t> copies(8);
@@ -41,7 +41,8 @@ void shuffle(const variant_t& mine, int rounds)
     }
 }
 
-// Lets threads work on copies of one variant and releases the original meanwhile.
+// Runs shuffle() in several threads with copies of one variant, and releases the original
+// meanwhile.
 void shareAmongThreads(variant_t original)
 {
     std::vector<std::thread> threads;
@@ -80,7 +81,7 @@ TEST(VariantsInThreads, AnObjectIsDestroyedOnce)
     }
 }
 
-TEST(VariantsInThreads, TheLastOfTwoReleasesFrees)
+TEST(VariantsInThreads, TheLastOfTwoReleasesDestroysTheObject)
 {
     std::atomic<int> destroyed{0};
     for (int round = 1; round <= 2000; ++round)
@@ -120,8 +121,9 @@ TEST(VariantsInThreads, ValuesOutliveTheirResultInAnotherThread)
     }
 }
 
-// Values of several texts in one piece of memory, whose last share may be given up by any thread.
-TEST(VariantsInThreads, ValuesOfOneResultAreReleasedWhileItIs)
+// The texts of several values may share one block of memory, which any thread may be the last to
+// release.
+TEST(VariantsInThreads, ValuesOfOneResultMayBeReleasedTogetherWithIt)
 {
     constexpr std::size_t threadCount = 4;
     std::wstring list = L"--name=";
@@ -167,7 +169,7 @@ TEST(VariantsInThreads, ValuesOfOneResultAreReleasedWhileItIs)
                 });
         }
         go = true;
-        host.renewResult(); // releases the one before
+        host.renewResult(); // releases the result of these values
         for (std::thread& thread : threads)
         {
             thread.join();
@@ -175,7 +177,7 @@ TEST(VariantsInThreads, ValuesOfOneResultAreReleasedWhileItIs)
     }
 }
 
-// A value of one thread's result is declared in the parser of another.
+// A value of a result in one thread is declared in a parser of another thread.
 TEST(VariantsInThreads, ValueMayBeDeclaredWhileItsResultIsReleased)
 {
     Host host;

@@ -1,4 +1,5 @@
-// In a file of its own, so that no compiler leaves the call out: callgrind looks for it.
+// In a separate file, so that the compiler does not remove the calls, by which callgrind finds the
+// phases.
 extern "C" void growth_boundary();
 
 extern "C" void growth_boundary() {}

@@ -1,5 +1,5 @@
-# Runs PROGRAM under callgrind and fails where its phases grow faster than linearly with arguments,
-# or where the cost of one argument grows with the number of options.
+# Runs PROGRAM under callgrind. Fails if a phase grows faster than linearly with the arguments, or
+# if the cost of one argument grows with the number of options.
 if(NOT OBSTACLE STREQUAL "")
     message("skipped: ${OBSTACLE}")
     return()
@@ -15,7 +15,7 @@ if(NOT code EQUAL 0)
     message(FATAL_ERROR "the program failed (${code}):\n${output}\n${errors}")
 endif()
 
-# Instructions of the phase with a number; callgrind starts at zero again after each dump.
+# Reads the instructions of the phase with a number. callgrind restarts at zero after each dump.
 function(read_count phase result)
     file(STRINGS "${FOLDER}/counts.${phase}" lines REGEX "^(summary|totals): ")
     if(NOT lines MATCHES "(summary|totals): ([0-9]+)")
@@ -49,8 +49,8 @@ foreach(line IN LISTS lines)
     list(APPEND counts ${instructions})
     list(LENGTH counts length)
     if(length EQUAL 3)
-        # The second doubling may add twice what the first one added, and a fifth for noise;
-        # quadratic growth adds four times as much.
+        # Linear growth adds twice as much in the second doubling as in the first, quadratic growth
+        # four times as much. A fifth is added for noise.
         list(GET counts 0 first)
         list(GET counts 1 second)
         math(EXPR allowed "(${second} - ${first}) * 24 / 10")
@@ -60,8 +60,9 @@ foreach(line IN LISTS lines)
             set(failed TRUE)
         endif()
     elseif(length EQUAL 4)
-        # 32 times as many options (or allowed values), as many arguments. A record for each option
-        # costs more than one that grows, and a search may take a step more for each doubling.
+        # 32 times as many options (or allowed values) for an equal number of arguments. One record
+        # per option costs more than one record that grows, and a search may take one step more for
+        # each doubling.
         list(GET counts 2 before)
         math(EXPR allowed "${before} * 25 / 10")
         if(instructions GREATER allowed)

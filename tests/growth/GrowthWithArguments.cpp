@@ -1,5 +1,4 @@
-// What a parse, a reading and a list of declarations ask the heap for grows no faster than their
-// size does.
+// The allocations of parsing, reading a result and declaring options grow at most linearly.
 #include <array>
 #include <cstdint>
 #include <ostream>
@@ -19,7 +18,7 @@ using toolbox::countAllocations;
 
 constexpr std::size_t smallest = 1024;
 
-// Costs at 1, 2, 4 and 8 times the smallest size.
+// Costs for 1, 2, 4 and 8 times the smallest size.
 using Costs = std::array<AllocationCount, 4>;
 
 template <class Measure>
@@ -33,8 +32,8 @@ Costs measureAt(Measure measure)
     return costs;
 }
 
-// Each doubling may add at most twice what the one before it added, and a quarter for memory that
-// is taken ahead in powers of two. Quadratic growth adds four times as much.
+// Linear growth adds twice as much in each doubling as in the one before, quadratic growth four
+// times as much. A quarter is added for memory that is allocated ahead in powers of two.
 void expectLinear(const std::string& what, std::uint64_t first, std::uint64_t second,
                   std::uint64_t third)
 {
@@ -79,8 +78,8 @@ INSTANTIATE_TEST_SUITE_P(Styles, GrowthWithArguments, testing::ValuesIn(rows),
 
 constexpr std::size_t options = 30;
 
-// Everything else here would pass if the library's allocations were not counted.
-TEST(AllocationCount, SeesWhatTheLibraryAsksFor)
+// The other tests would pass even if the library's allocations were not counted.
+TEST(AllocationCount, IncludesAllocationsOfTheLibrary)
 {
     const ParserPointer parser = declareOptions(0);
     parser->addOption(L"text", L"", kexa_3_3::value_type_string, L"");
@@ -106,8 +105,9 @@ TEST_P(GrowthWithArguments, ParsingIsLinear)
         }));
 }
 
-// The names of an option are stored in anew where one joined those that a result knows, once.
-TEST(GrowthWithLateNames, ParsingTakesFarFewerBlocksThanArguments)
+// A name that is added after a parse changes the result's record of the option once, not for each
+// argument.
+TEST(GrowthWithLateNames, ParsingAllocatesFarFewerBlocksThanArguments)
 {
     constexpr std::size_t count = 16 * smallest;
     const ParserPointer parser = declareOptions(0);
@@ -130,18 +130,18 @@ TEST(GrowthWithLateNames, ParsingTakesFarFewerBlocksThanArguments)
     EXPECT_EQ(result->isPresent(L"b", 0, kexa_3_3::no_position), 1);
 }
 
-// Neither a value nor the text of one, nor a left-over argument, takes a block of its own.
-TEST_P(GrowthWithArguments, ParsingTakesFarFewerBlocksThanArguments)
+// Values, their texts and left-over arguments do not have blocks of their own.
+TEST_P(GrowthWithArguments, ParsingAllocatesFarFewerBlocksThanArguments)
 {
     constexpr std::size_t arguments = 16 * smallest;
     const CommandLine line(GetParam().style, options, arguments);
-    static_cast<void>(line.parse()); // what the first parse prepares is not counted
+    static_cast<void>(line.parse()); // prepares what is created once
     ResultPointer result;
     EXPECT_LE(countAllocations([&] { result = line.parse(); }).blocks, arguments / 256);
     EXPECT_EQ(line.countValues(*result), line.expectedValues());
 }
 
-TEST_P(GrowthWithArguments, ReadingTakesNoBlocks)
+TEST_P(GrowthWithArguments, ReadingDoesNotAllocate)
 {
     const CommandLine line(GetParam().style, options, smallest);
     const ResultPointer result = line.parse();

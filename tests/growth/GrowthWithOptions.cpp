@@ -1,5 +1,5 @@
-// What one argument asks the heap for does not depend on how many options, or allowed values, are
-// declared.
+// The allocations for one argument do not depend on the number of declared options or allowed
+// values.
 #include <string>
 
 #include <gtest/gtest.h>
@@ -16,8 +16,8 @@ using toolbox::countAllocations;
 constexpr std::size_t few = 64;
 constexpr std::size_t many = 4096;
 
-// Every option is given in both command lines, and the second parse of each is counted: what the
-// first one prepares is paid once and not for each argument.
+// Counts the second parse, because the first one also creates what later parses reuse. Every option
+// is given in the command line.
 AllocationCount countSecondParse(Style style, std::size_t options)
 {
     const CommandLine line(style, options, many);
@@ -31,9 +31,9 @@ AllocationCount countSecondParse(Style style, std::size_t options)
     return count;
 }
 
-// With many options each is stored once and has a record of its own, with few it is one record that
-// grows; either way the cost of an argument has the same bound. Blocks are taken for many arguments
-// together: one for each text among them would be a third of the arguments and more.
+// With many options each value has a record of its own; with few options a few records grow. The
+// bound for one argument is valid for both. One block serves many arguments; a block for each text
+// would be at least a third of the arguments.
 void expectBounded(Style style)
 {
     constexpr std::uint64_t argumentsForEachBlock = 64;
@@ -46,17 +46,17 @@ void expectBounded(Style style)
     }
 }
 
-TEST(GrowthWithOptions, FullNameCostsTheSame)
+TEST(GrowthWithOptions, FullNameHasABoundedCost)
 {
     expectBounded(Style::fullNames);
 }
 
-TEST(GrowthWithOptions, AbbreviationCostsTheSame)
+TEST(GrowthWithOptions, AbbreviationHasABoundedCost)
 {
     expectBounded(Style::abbreviations);
 }
 
-TEST(GrowthWithOptions, AllowedValueCostsTheSame)
+TEST(GrowthWithOptions, AllowedValueHasABoundedCost)
 {
     expectBounded(Style::allowedValues);
 }

@@ -1,6 +1,6 @@
-// Parses command lines of growing size between boundaries, and prints one line for each: what it
-// is, how many options and how many arguments. Each line stands for two phases, a preparation and
-// the parse itself.
+// Parses command lines of growing size, each between two calls of growth_boundary(). Prints one
+// line for each: its style, the number of options and the number of arguments. Each line stands for
+// two phases: the preparation and the parse.
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -27,7 +27,7 @@ constexpr Kind kinds[] = {
 bool runPhase(const Kind& kind, std::size_t options, std::size_t arguments)
 {
     const CommandLine line(kind.style, options, arguments);
-    static_cast<void>(line.parse()); // what is prepared once is not part of the growth
+    static_cast<void>(line.parse()); // prepares what is created once
     std::size_t values = 0;
     growth_boundary();
     {

@@ -27,7 +27,7 @@ void FaultySteps::step(const char* title, const std::function<Attempt()>& attemp
     if (m_expected == nullptr)
     {
         ASSERT_FALSE(made.refused);
-        m_record.push_back({made.answer, m_observe()});
+        m_record.push_back({made.returned, m_observe()});
         return;
     }
     ASSERT_LT(m_index, m_expected->size());
@@ -38,7 +38,7 @@ void FaultySteps::step(const char* title, const std::function<Attempt()>& attemp
         if (leftover == Leftover::nothing)
         {
             EXPECT_EQ(m_observe(), (*m_expected)[m_index - 1].state)
-                << "the refused step changed something";
+                << "the failed step changed something";
         }
         made = attempt();
         EXPECT_FALSE(made.refused) << "the second attempt";
@@ -50,7 +50,7 @@ void FaultySteps::step(const char* title, const std::function<Attempt()>& attemp
 void FaultySteps::compareWithExpected(const Attempt& attempt, bool observed) const
 {
     const Recorded& expected = (*m_expected)[m_index];
-    EXPECT_EQ(attempt.answer, expected.answer);
+    EXPECT_EQ(attempt.returned, expected.returned);
     if (observed)
     {
         EXPECT_EQ(m_observe(), expected.state);

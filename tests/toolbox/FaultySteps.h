@@ -1,5 +1,5 @@
-// Runs the steps of a cycle of library calls, one allocation of which may be made to fail, and
-// compares each with the same cycle without a failure.
+// Runs the steps of a cycle of library calls, in which one allocation may fail, and compares each
+// step with the record of a cycle without a failure.
 #ifndef KEXA_TESTS_TOOLBOX_FAULTY_STEPS_H
 #define KEXA_TESTS_TOOLBOX_FAULTY_STEPS_H
 
@@ -10,38 +10,38 @@
 namespace faults
 {
 
-// What a step led to. Refused: it failed in the way that the headers tell.
+// The outcome of a step. refused: it failed in a way that the headers document.
 struct Attempt
 {
     bool refused = false;
-    std::wstring answer;
+    std::wstring returned;
 };
 
-// What a step answered, and what a host could see of all objects afterwards.
+// What a step returned, and what a host can observe of all objects after it.
 struct Recorded
 {
-    std::wstring answer;
+    std::wstring returned;
     std::wstring state;
 };
 
-using Record = std::vector<Recorded>; // the first entry tells the state before all steps
+using Record = std::vector<Recorded>; // the first entry is the state before all steps
 
-// What a refused step may leave behind.
+// What a refused step may have changed.
 enum class Leftover
 {
     nothing,
-    something // as the header tells
+    something // as the header documents
 };
 
 class FaultySteps
 {
 public:
-    // expected: what the cycle without a failure recorded; null for that cycle itself.
-    // observe:  tells all that a host can see; makes no difference to what it looks at.
+    // expected: the record of a cycle without a failure; null for that cycle itself.
+    // observe:  returns everything that a host can observe, without changing it.
     FaultySteps(const Record* expected, std::function<std::wstring()> observe);
 
-    // Makes an attempt. Where an allocation fails in it and it is refused, everything must be as
-    // before, and a second attempt must succeed as if the first had never been made.
+    // Runs a step. If an allocation fails and the step is refused, nothing may have changed, and a
+    // second attempt must succeed with the expected outcome.
     void step(const char* title, const std::function<Attempt()>& attempt,
               Leftover leftover = Leftover::nothing);
 

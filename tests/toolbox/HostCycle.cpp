@@ -98,7 +98,7 @@ void HostCycle::create()
                  });
 }
 
-// All that a host can see of the parser. Failures are switched off meanwhile.
+// Returns everything that a host can observe of the parser. Allocations made here do not fail.
 std::wstring HostCycle::observe()
 {
     if (m_parser == nullptr)
@@ -153,8 +153,8 @@ std::wstring HostCycle::parseAndDescribe(const ParseCall& call)
     return text.str();
 }
 
-// A failed parse leaves a result in which all names of an option are alike, and which further
-// parses may fill.
+// After a failed parse all names of an option have equal values, and further parses may fill the
+// result.
 void HostCycle::expectContinuable(const ParseCall& call, IParseResult& partlyFilled)
 {
     for (const std::vector<const wchar_t*>& names : declaredNames())
@@ -176,7 +176,7 @@ Attempt HostCycle::attemptParse(const ParseCall& call)
 {
     const std::wstring message = m_parser->getErrorMessage();
     bool refused = false;
-    const std::wstring answer = parseAndDescribe(
+    const std::wstring described = parseAndDescribe(
         [&](IParseResult* result)
         {
             const result_t code = inLibrary([&] { return call(result); });
@@ -188,7 +188,7 @@ Attempt HostCycle::attemptParse(const ParseCall& call)
             }
             return code;
         });
-    return {refused, refused ? std::wstring() : answer};
+    return {refused, refused ? std::wstring() : described};
 }
 
 } // namespace faults

@@ -1,4 +1,5 @@
-// Everything a host does with the library, from createParser to release, as steps that may fail.
+// All operations of the interface, from createParser to release, as steps in which an allocation
+// may fail.
 #ifndef KEXA_TESTS_TOOLBOX_HOST_CYCLE_H
 #define KEXA_TESTS_TOOLBOX_HOST_CYCLE_H
 
@@ -16,7 +17,7 @@
 namespace faults
 {
 
-// Counts events and refuses one value, without allocating anything.
+// Counts events and refuses one value. Does not allocate.
 class CountingHandler : public kexa_3_3::EventHandler
 {
 public:
@@ -30,11 +31,11 @@ public:
     int unknown = 0;
 };
 
-// One parser, used once from its making to its release.
+// One parser from its creation to its release.
 class HostCycle
 {
 public:
-    // folder: where option files lie or are made. expected: see FaultySteps.
+    // folder: the folder of the option files. expected: see FaultySteps.
     HostCycle(const toolbox::TemporaryFolder& folder, const Record* expected);
 
     void run();
@@ -84,7 +85,7 @@ private:
     kexa_3_3::IOption* m_file = nullptr;
 };
 
-// The names that the cycle declares, those of one option in one row.
+// Returns the names that the cycle declares, with all names of one option in one row.
 const std::vector<std::vector<const wchar_t*>>& declaredNames();
 
 } // namespace faults

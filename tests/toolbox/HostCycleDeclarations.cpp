@@ -1,4 +1,4 @@
-// The steps of HostCycle in which a host describes its command line.
+// The steps of HostCycle that declare options.
 #include <new>
 #include <set>
 #include <string>
@@ -33,8 +33,8 @@ IOption* HostCycle::declareOption(const char* title, const Declare& declaration,
     return option;
 }
 
-// A declaration that is refused for its names. It makes a group known, as may one that lacks
-// memory.
+// A declaration with names that are refused. It adds its group nevertheless, which a declaration
+// without enough memory may also do.
 void HostCycle::refuseDeclaration(const char* title, const Declare& declaration)
 {
     m_steps.step(
@@ -134,7 +134,7 @@ void HostCycle::declare()
                   {L"ratio"});
 }
 
-// Enough declarations for every table of the parser to grow.
+// So many declarations that every table of the parser grows.
 void HostCycle::declareMany()
 {
     for (int number = 0; number < 40; ++number)
@@ -151,7 +151,7 @@ void HostCycle::declareMany()
 
 void HostCycle::build()
 {
-    // Made beforehand: what a host allocates for its own values does not count.
+    // Created outside of the steps, because allocations by the host must not fail.
     const variant_t fast(L"fast");
     const variant_t slow(L"slow");
     const variant_t automatic(L"auto");

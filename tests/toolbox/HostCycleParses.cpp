@@ -1,4 +1,4 @@
-// The steps of HostCycle in which a host parses, reads the result and shows help.
+// The steps of HostCycle that parse, query the result and create help texts.
 #include <new>
 #include <vector>
 
@@ -97,11 +97,10 @@ void HostCycle::query()
     m_steps.step("queries",
                  [this, first]
                  {
-                     // Asked within one call: what the library promises is an answer or code 3,
-                     // and it needs no memory to answer.
+                     // Queries may return code 3 if an allocation fails, but these do not allocate.
                      Value value;
                      const wchar_t* argument = nullptr;
-                     const bool answered = inLibrary(
+                     const bool succeeded = inLibrary(
                          [&]
                          {
                              IParseResult& result = *m_result;
@@ -112,19 +111,19 @@ void HostCycle::query()
                                     result.getFirstUnparsed(&argument) == 0 &&
                                     getLastValue(&result, L"o", 0, no_position).status == 0;
                          });
-                     EXPECT_TRUE(answered);
+                     EXPECT_TRUE(succeeded);
                      return Attempt{false, describe(*m_result, {L"target", L"build"}, first)};
                  });
 }
 
-// An empty text where memory is short, else the whole help.
+// Help is the complete text, or empty if an allocation fails.
 void HostCycle::helpStep(const char* title, const Help& help)
 {
     m_steps.step(title,
                  [&]
                  {
-                     const wchar_t* const answer = inLibrary(help);
-                     return Attempt{lastCallFailed() && *answer == L'\0', answer};
+                     const wchar_t* const text = inLibrary(help);
+                     return Attempt{lastCallFailed() && *text == L'\0', text};
                  });
 }
 

@@ -1,4 +1,4 @@
-// All that a parse result holds, as text or as lists to add up.
+// The contents of a parse result, as a text or as lists.
 #ifndef KEXA_TESTS_TOOLBOX_RESULT_DESCRIPTION_H
 #define KEXA_TESTS_TOOLBOX_RESULT_DESCRIPTION_H
 
@@ -14,17 +14,16 @@ namespace faults
 
 using Names = std::vector<const wchar_t*>;
 
-// Everything that the queries answer for these names, one fact in each line. Positions count from
-// firstPosition, so that the same parse gives the same text at any time.
+// Formats the results of all queries for these names. Positions are relative to firstPosition, so
+// that repeated parses have equal texts.
 std::wstring describe(kexa_3_3::IParseResult& result, const Names& names,
                       std::int32_t firstPosition);
 
-// What was stored by occurrences, defaults left out: the texts of each name, and under the empty
-// name the left-over arguments.
+// The values of each name, without defaults, and the left-over arguments under the empty name.
 using Contents = std::map<std::wstring, std::vector<std::wstring>>;
 Contents readContents(kexa_3_3::IParseResult& result, const Names& names);
 
-// The contents of a result that both were stored into, one after the other.
+// Returns the contents of a result that was filled with both in this order.
 Contents operator+(Contents first, const Contents& second);
 
 } // namespace faults

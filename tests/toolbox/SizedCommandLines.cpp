@@ -103,7 +103,7 @@ void CommandLine::addNamed(std::size_t options, std::size_t arguments, Style sty
     }
     for (std::size_t given = 0; given < arguments; ++given)
     {
-        // A step that shares no factor with the numbers of options in use visits them all.
+        // The step 7 shares no factor with any number of options here, so it visits all options.
         const std::size_t number = given * 7 % options;
         const std::wstring name =
             style == Style::abbreviations ? optionAbbreviation(number) : optionName(number);

@@ -1,4 +1,4 @@
-// Command lines of any size, and the hosts that parse them.
+// Command lines of any size, with parsers for them.
 #pragma once
 
 #include <cstddef>
@@ -19,43 +19,42 @@ struct Release
 using ParserPointer = std::unique_ptr<kexa_3_3::IParser, Release>;
 using ResultPointer = std::unique_ptr<kexa_3_3::IParseResult, Release>;
 
-// The longest name is "option-12345-name".
+// For example "option-00012-name" for 12.
 std::wstring optionName(std::size_t number);
-std::wstring optionAbbreviation(std::size_t number); // a prefix that only that name has
+std::wstring optionAbbreviation(std::size_t number); // a unique prefix of the name
 
-// A parser with that many options: boolean ones, numbers and texts by turns.
+// Returns a parser with `count` options: booleans, integers and strings in turn.
 ParserPointer declareOptions(std::size_t count);
 
 ResultPointer makeResult(kexa_3_3::IParser& parser);
 
-// Which arguments a command line holds.
+// The kind of arguments in a command line.
 enum class Style
 {
     fullNames,     // --option-00012-name=value
     abbreviations, // --option-00012=value
     nextArguments, // --option-00012-name value (two arguments)
     positional,    // value
-    leftOver,      // value, behind "--"
+    leftOver,      // value, after "--"
     unknown,       // --other-12=value, dropped
     listPieces,    // one argument with a list of values
     allowedValues  // --choice=full-or-abbreviated value
 };
 
-// A command line of one style, with the parser that understands it.
+// A command line of one style, with a parser for it.
 class CommandLine
 {
 public:
-    // options: how many are declared (or allowed values); arguments: how many are given.
+    // options: number of declared options, or allowed values. arguments: number of arguments.
     CommandLine(Style style, std::size_t options, std::size_t arguments);
 
-    // Parses into a new result. Throws std::runtime_error where the parser finds an error, and
-    // where fewer values than arguments are in the result.
+    // Parses into a new result. Throws std::runtime_error if the parse fails.
     ResultPointer parse() const;
 
-    // The number of values and left-over arguments in a result.
+    // Returns the number of values and left-over arguments in a result.
     std::size_t countValues(kexa_3_3::IParseResult& result) const;
 
-    // What countValues must answer.
+    // The number that countValues() must return.
     std::size_t expectedValues() const noexcept { return m_expectedValues; }
 
 private:

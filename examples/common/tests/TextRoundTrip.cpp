@@ -1,5 +1,5 @@
-// Every sequence of up to four bytes, out of those at which UTF-8 changes its mind, becomes wide
-// text and the same bytes again; well-formed characters become themselves.
+// Converts every sequence of up to four bytes at the boundaries of UTF-8 to wide text and back,
+// which must give equal bytes. Well-formed sequences must become their characters.
 #include <cstddef>
 #include <cstdio>
 #include <string>

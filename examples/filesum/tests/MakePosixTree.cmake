@@ -1,4 +1,5 @@
-# A tree with what only some systems allow: links, and names that are not UTF-8.
+# A tree with names and links that not all systems support: symbolic links, and names that are not
+# UTF-8.
 string(ASCII 255 ill_formed)
 string(ASCII 92 backslash)
 file(WRITE "${work}/tree/bad${ill_formed}name" "ill-formed")

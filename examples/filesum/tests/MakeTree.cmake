@@ -1,4 +1,4 @@
-# The folder tree that the transcripts of filesum work on, below the folder `work`.
+# Creates the folder tree of the transcripts, below the folder `work`.
 file(WRITE "${work}/tree/readme.txt" "Hello\n")
 file(WRITE "${work}/tree/empty" "")
 file(WRITE "${work}/tree/data/digits.txt" "123456789")
@@ -19,7 +19,7 @@ file(WRITE "${work}/malformed.sums"
     "crc32=cbf43926 9\n"
     "crc32=cbf43926 9 x\\y\n")
 
-# Control characters do not reach the terminal in messages.
+# A name with control characters, which messages must not pass to the terminal.
 string(ASCII 27 escape)
 string(REPEAT "${escape}" 50 controls)
 file(WRITE "${work}/many-malformed.sums" "1\n2\n3\n4\n5\n${controls}\n7\n")

@@ -1,5 +1,5 @@
-// Runs a program whose standard output and standard error are one terminal, and writes what arrives
-// there to standard output, with "<return>" for every carriage return.
+// Runs a program with a terminal as its standard output and standard error. Copies what the program
+// writes to standard output, with "<return>" for each carriage return.
 #include <cerrno>
 #include <cstdio>
 #include <string>
@@ -13,7 +13,7 @@
 namespace
 {
 
-// A pair of connected terminals; the bytes written to `program` arrive at `watcher` unchanged.
+// A pseudo terminal. Bytes that are written to `program` can be read unchanged from `watcher`.
 struct Terminal
 {
     int watcher = -1;
@@ -38,7 +38,7 @@ bool openTerminal(Terminal& terminal)
     return ::tcsetattr(terminal.program, TCSANOW, &settings) == 0;
 }
 
-// Reads until the program's side is closed.
+// Copies the output until the program's side is closed.
 void relay(int watcher)
 {
     char buffer[4096];

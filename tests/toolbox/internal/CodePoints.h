@@ -1,4 +1,4 @@
-// Code points as texts of both kinds, written for tests without a look at the library.
+// Reference conversions between code points, UTF-8 and wide text, independent of the library.
 #pragma once
 
 #include <cstdint>
@@ -9,20 +9,21 @@
 namespace unit
 {
 
-// A Unicode scalar value: any code point but a surrogate.
+// Returns whether a code point is a Unicode scalar value, which every code point but the surrogates
+// is.
 bool isScalarValue(std::uint32_t codePoint);
 
-// A scalar value in UTF-8.
+// Encodes a scalar value in UTF-8.
 std::string encode(std::uint32_t codePoint);
 
-// The number that the payload bits of the bytes make, taken for one sequence of that length. It
-// says nothing about whether the sequence is well-formed.
+// Returns the number that the payload bits of one sequence encode, well-formed or not. Returns
+// 0xFFFFFFFF for bytes that do not have the pattern of a sequence of this length.
 std::uint32_t decodeWhole(std::string_view bytes);
 
-// Scalar values in wide text.
+// Encodes scalar values as wide text.
 std::wstring wideOf(const std::vector<std::uint32_t>& codePoints);
 
-// Bytes for a failure message: "C3 A9".
+// Formats bytes for a failure message: "C3 A9 ".
 std::string bytesOf(std::string_view bytes);
 
 } // namespace unit

@@ -1,4 +1,4 @@
-// The names column of one option.
+// Tests of formatNames(), the names column of one option.
 #include <functional>
 #include <string>
 
@@ -26,7 +26,7 @@ std::wstring column(std::int32_t valueType, const std::function<void(IOption&)>&
     return formatNames(option);
 }
 
-TEST(NamesColumn, FurtherNamesComeFirstAndBackwards)
+TEST(NamesColumn, FurtherNamesComeFirstInReverseOrder)
 {
     const auto named = [](std::initializer_list<const wchar_t*> names)
     {
@@ -98,7 +98,7 @@ TEST(NamesColumn, DefaultFollowsTheFormItSelects)
     }
 }
 
-TEST(NamesColumn, AllowedValuesStandInsteadOfTheType)
+TEST(NamesColumn, AllowedValuesReplaceTheType)
 {
     const auto build = [](IOption& option)
     {
@@ -113,7 +113,7 @@ TEST(NamesColumn, AllowedValuesStandInsteadOfTheType)
     EXPECT_EQ(column(value_type_none, build), L"-mode");
 }
 
-TEST(NamesColumn, DefaultWithATextStandsInParentheses)
+TEST(NamesColumn, DefaultWithATextIsInParentheses)
 {
     const struct
     {

@@ -1,4 +1,4 @@
-// The listing of options over hand-made lists of groups and entries.
+// Tests of the listing of options, without a parser: each test makes its own groups and entries.
 #include "help/OptionListing.h"
 
 #include <deque>
@@ -24,7 +24,7 @@ protected:
                            const wchar_t* description = L"text")
     {
         OptionDescription& option =
-            options.emplace_back(groups.emplace_back(group, L"not looked at"), false, pool);
+            options.emplace_back(groups.emplace_back(group, L"not used"), false, pool);
         option.addName(name);
         option.valueType = value_type_none;
         option.description = description;
@@ -38,7 +38,7 @@ protected:
     std::vector<const OptionDescription*> entries;
 };
 
-// A lead, blanks up to the column of descriptions, a text.
+// Returns the line that has the lead in the names column and the text in the description column.
 std::wstring line(const std::wstring& lead, const std::wstring& text)
 {
     return lead + std::wstring(30 - lead.size(), L' ') + text + L"\n";
@@ -66,7 +66,7 @@ TEST_F(OptionListing, HiddenGroupIsShownAlone)
               line(L"-b", L"text") + L"\nkexa_hidden2\n\n");
 }
 
-TEST_F(OptionListing, GroupsStandInTheirOrderEntriesInThatOfTheirNames)
+TEST_F(OptionListing, GroupsKeepTheirOrderAndEntriesAreSortedByName)
 {
     add(L"z", L"second");
     add(L"b", L"first");
@@ -81,7 +81,7 @@ TEST_F(OptionListing, EntriesOfOneNameKeepTheirOrder)
 {
     std::deque<std::wstring> texts;
     std::wstring expected;
-    for (int count = 0; count < 50; ++count) // more than a sort that is not stable leaves in order
+    for (int count = 0; count < 50; ++count) // so many that an unstable sort changes their order
     {
         texts.push_back(std::to_wstring(count));
         add(L"same", L"", texts.back().c_str());
@@ -96,9 +96,9 @@ TEST_F(OptionListing, MarkedEntryIsLeftOut)
     EXPECT_EQ(formatOptionHelp({{L"", L""}}, entries, false), L"\n");
 }
 
-TEST_F(OptionListing, GroupTextIsAParagraphWithALineEndBehind)
+TEST_F(OptionListing, GroupTextIsAParagraphFollowedByAnEmptyLine)
 {
-    std::wstring line; // as much as fits
+    std::wstring line; // the longest line that fits
     for (int count = 0; count < 15; ++count)
     {
         line += L" word";
@@ -108,7 +108,7 @@ TEST_F(OptionListing, GroupTextIsAParagraphWithALineEndBehind)
               L"g\n" + line + L"\n next\n\n\n" + L" t\n\n\n");
 }
 
-TEST_F(OptionListing, LongColumnStandsAlone)
+TEST_F(OptionListing, LongColumnHasALineOfItsOwn)
 {
     add(L"a name of twenty-eight chars", L"");
     add(L"b name of twenty-nine charac.", L"");
@@ -117,7 +117,7 @@ TEST_F(OptionListing, LongColumnStandsAlone)
                   L"-b name of twenty-nine charac.\n" + line(L"", L"text") + L"\n");
 }
 
-TEST_F(OptionListing, ColumnIsWrittenWithoutADescriptionToo)
+TEST_F(OptionListing, EntryWithoutADescriptionIsOnlyItsColumn)
 {
     add(L"a", L"", L"");
     add(L"b name of twenty-nine charac.", L"", L"");

@@ -1,4 +1,4 @@
-// The layout of paragraphs, compared with its steps written down one by one.
+// Tests of the layout of paragraphs, mainly against a naive reference implementation.
 #include "help/ParagraphLayout.h"
 
 #include <algorithm>
@@ -16,7 +16,8 @@ using toolbox::toUtf8;
 
 const std::wstring out_of_range = L"out of range";
 
-// What the layout gives, behind what stands there already; or that it throws.
+// Returns the text that appendParagraph() appends, or `out_of_range` if it throws. Text that is in
+// the output before must stay unchanged.
 std::wstring layOut(const std::wstring& lead, const std::wstring& text, std::size_t indent,
                     std::size_t lineWidth)
 {
@@ -33,7 +34,7 @@ std::wstring layOut(const std::wstring& lead, const std::wstring& text, std::siz
     return out.substr(6);
 }
 
-// The next piece of the text. `room` is how many characters may stand in it.
+// Removes the next piece from the text and returns it. room: the most characters that it may have.
 std::wstring takeChunk(std::wstring& text, std::size_t room)
 {
     std::size_t length = std::min(text.find(L'\n'), room);
@@ -50,8 +51,9 @@ std::wstring takeChunk(std::wstring& text, std::size_t room)
     return chunk;
 }
 
-std::wstring layOutStepByStep(const std::wstring& lead, std::wstring text, std::size_t indent,
-                              std::size_t lineWidth)
+// The reference implementation of appendParagraph().
+std::wstring layOutByReference(const std::wstring& lead, std::wstring text, std::size_t indent,
+                               std::size_t lineWidth)
 {
     std::wstring out;
     if (text.empty())
@@ -69,7 +71,7 @@ std::wstring layOutStepByStep(const std::wstring& lead, std::wstring text, std::
     {
         if (steps > 1000)
         {
-            return out_of_range; // it would go on for ever
+            return out_of_range; // an endless loop
         }
         if (text[0] == L' ' || text[0] == L'\n')
         {
@@ -109,7 +111,7 @@ std::wstring layOutStepByStep(const std::wstring& lead, std::wstring text, std::
     return out;
 }
 
-// Every text over the alphabet up to a length.
+// Returns every text of at most `longest` characters over the alphabet.
 std::vector<std::wstring> allTexts(const std::wstring& alphabet, std::size_t longest)
 {
     std::vector<std::wstring> texts = {L""};
@@ -127,8 +129,10 @@ std::vector<std::wstring> allTexts(const std::wstring& alphabet, std::size_t lon
     return texts;
 }
 
-void expectSteps(const std::vector<std::wstring>& leads, const std::vector<std::wstring>& texts,
-                 std::size_t widestIndent, std::size_t widestLine)
+// Compares the layout with the reference for every combination of the arguments.
+void expectReferenceLayout(const std::vector<std::wstring>& leads,
+                           const std::vector<std::wstring>& texts, std::size_t widestIndent,
+                           std::size_t widestLine)
 {
     for (std::size_t indent = 0; indent <= widestIndent; ++indent)
     {
@@ -139,7 +143,7 @@ void expectSteps(const std::vector<std::wstring>& leads, const std::vector<std::
                 for (const std::wstring& text : texts)
                 {
                     ASSERT_EQ(layOut(lead, text, indent, lineWidth),
-                              layOutStepByStep(lead, text, indent, lineWidth))
+                              layOutByReference(lead, text, indent, lineWidth))
                         << '"' << toUtf8(lead) << "\", \"" << toUtf8(text) << "\", " << indent
                         << ", " << lineWidth;
                 }
@@ -148,36 +152,36 @@ void expectSteps(const std::vector<std::wstring>& leads, const std::vector<std::
     }
 }
 
-TEST(ParagraphLayout, EveryShortTextIsLaidOutStepByStep)
+TEST(ParagraphLayout, EveryShortTextMatchesTheReference)
 {
-    expectSteps({L"", L"-"}, allTexts(L"a \n", 5), 2, 6);
+    expectReferenceLayout({L"", L"-"}, allTexts(L"a \n", 5), 2, 6);
 }
 
-TEST(ParagraphLayout, EveryShortLeadIsWrittenStepByStep)
+TEST(ParagraphLayout, EveryShortLeadMatchesTheReference)
 {
-    expectSteps(allTexts(L"- \n", 3), {L"", L"a", L" ", L"\n", L"a b", L"abcdef gh", L"a\n\nb "}, 3,
-                8);
+    expectReferenceLayout(allTexts(L"- \n", 3),
+                          {L"", L"a", L" ", L"\n", L"a b", L"abcdef gh", L"a\n\nb "}, 3, 8);
 }
 
-TEST(ParagraphLayout, LongTextIsLaidOutStepByStep)
+TEST(ParagraphLayout, LongTextMatchesTheReference)
 {
     const std::wstring text = L"The quick brown fox,\n  jumps over  the lazy dog. \n\nSupercali "
                               L"fragilisticexpialidocious ";
-    expectSteps({L"", L"-name", L"-a-longer-name=<string>"}, {text}, 12, 40);
+    expectReferenceLayout({L"", L"-name", L"-a-longer-name=<string>"}, {text}, 12, 40);
 }
 
-TEST(ParagraphLayout, NothingIsAppendedWithoutAText)
+TEST(ParagraphLayout, EmptyTextAppendsNothing)
 {
     EXPECT_EQ(layOut(L"lead", L"", 4, 10), L"");
     EXPECT_EQ(layOut(L"lead", L"", 4, 0), L"");
 }
 
-TEST(ParagraphLayout, PairOfSurrogatesIsNotBrokenApart)
+TEST(ParagraphLayout, SurrogatePairIsNotSplit)
 {
     const bool utf16 = sizeof(wchar_t) == 2;
     EXPECT_EQ(layOut(L"", L"aa\U0001F600\U0001F601b", 1, 5),
               utf16 ? L" aa\n \U0001F600\n \U0001F601b\n" : L" aa\U0001F600\n \U0001F601b\n");
-    // With room for one unit there is no other way.
+    // A line with room for one unit must split the pair.
     if (utf16)
     {
         EXPECT_EQ(layOut(L"", L"\U0001F600", 1, 3),

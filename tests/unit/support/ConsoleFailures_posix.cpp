@@ -1,4 +1,4 @@
-// Console output that is refused, or taken slowly. Needs devices and pipes of a POSIX system.
+// Tests of console output that fails or blocks, with devices and pipes of a POSIX system.
 #ifndef _WIN32
 
 #include <chrono>
@@ -23,11 +23,11 @@ using kexa_3_3::ucout;
 using kexa_3_3::internal::ConsoleTarget;
 using kexa_3_3::internal::writeConsole;
 
-// Puts a descriptor in the place of standard output for a while.
+// Redirects standard output to a descriptor until the destructor runs.
 class Redirected
 {
 public:
-    // descriptor: taken over; below 0: standard output is closed.
+    // descriptor: owned by the object; below 0: standard output is closed.
     explicit Redirected(int descriptor) : m_saved(::dup(STDOUT_FILENO))
     {
         if (descriptor < 0)
@@ -50,7 +50,7 @@ private:
     int m_saved;
 };
 
-// Whether the stream was bad after the insertion.
+// Returns whether an insertion sets the bad bit of ucout().
 bool failsToWrite(int descriptor)
 {
     const Redirected redirected(descriptor);
@@ -66,21 +66,22 @@ TEST(ConsoleFailures, FailedWriteSetsTheBadBit)
     EXPECT_FALSE(failsToWrite(::open("/dev/null", O_WRONLY)));
 }
 
-TEST(ConsoleFailures, FailedWriteIsAnswered)
+TEST(ConsoleFailures, FailedWriteReturnsFalse)
 {
     const Redirected redirected(::open("/dev/full", O_WRONLY));
     EXPECT_FALSE(writeConsole(ConsoleTarget::output, L"text"));
     EXPECT_TRUE(writeConsole(ConsoleTarget::output, L""));
 }
 
-TEST(ConsoleFailures, WhatCouldNotBeWrittenDoesNotSilenceWhatComesLater)
+TEST(ConsoleFailures, FailedWriteDoesNotPreventLaterWrites)
 {
     ASSERT_TRUE(failsToWrite(::open("/dev/full", O_WRONLY)));
     EXPECT_EQ(toolbox::captureOutput([] { ucout() << L"later"; }), "later");
 }
 
-// The writer has to wait for the reader again and again: the text is larger than a pipe holds.
-TEST(ConsoleFailures, DescriptorThatDoesNotWaitGetsTheWholeText)
+// The text is larger than the buffer of a pipe, so the writer has to wait for the reader
+// repeatedly.
+TEST(ConsoleFailures, NonBlockingDescriptorGetsTheWholeText)
 {
     std::wstring text;
     for (int line = 0; line < 50000; ++line)
@@ -94,7 +95,8 @@ TEST(ConsoleFailures, DescriptorThatDoesNotWaitGetsTheWholeText)
     std::thread reader(
         [&received, end = ends[0]]
         {
-            // Until the pipe gets no fuller: the writer has to wait.
+            // Reads only when the pipe is full (its size no longer grows), so that the writer
+            // blocks.
             int before = -1;
             int filled = 0;
             for (int turn = 0; turn < 500 && (filled == 0 || filled != before); ++turn)

@@ -1,4 +1,4 @@
-// The console streams: encoding, order, formatting, failure.
+// Tests of the console streams: encoding, order and formatting.
 #include "support/ConsoleStreams.h"
 
 #include <clocale>
@@ -22,7 +22,7 @@ using toolbox::captureOutput;
 
 const std::string replacement = "\xEF\xBF\xBD";
 
-// Groups digits by one and knows strange truths.
+// Formats numbers and booleans in a way that no test expects.
 class OddNumbers final : public std::numpunct<wchar_t>
 {
 protected:
@@ -31,7 +31,7 @@ protected:
     [[nodiscard]] char_type do_decimal_point() const override { return L'?'; }
 };
 
-// For as long as it lives, the C++ and the C locale are odd.
+// Sets an odd global locale, for C++ and for C, and restores the former one in the destructor.
 class OddLocale
 {
 public:
@@ -44,8 +44,8 @@ private:
     std::locale m_before;
 };
 
-// A stream takes the global locale when it is made, so these are made while it is odd, before any
-// test runs.
+// A stream takes the global locale when it is created. Creating both under an odd locale, before
+// any test runs, shows that they do not keep it.
 [[maybe_unused]] const bool made_under_an_odd_locale = []
 {
     const OddLocale locale;
@@ -63,7 +63,7 @@ TEST(ConsoleStreams, TextIsWrittenInUtf8)
     EXPECT_EQ(captureError([&] { EXPECT_TRUE(writeConsole(ConsoleTarget::error, text)); }), bytes);
 }
 
-TEST(ConsoleStreams, LocaleOfTheHostDoesNotCount)
+TEST(ConsoleStreams, LocaleOfTheHostIsIgnored)
 {
     const std::string before = std::setlocale(LC_ALL, nullptr);
     for (const char* const name : {"C", "C.UTF-8", ""})
@@ -92,8 +92,9 @@ TEST(ConsoleStreams, ZeroCharactersAreWritten)
               std::string("a\0b\0", 4));
 }
 
-// Streams tell that they end by a character that is none; as a text it has nothing to write.
-TEST(ConsoleStreams, MarkOfTheEndWritesNothingAndEndsNothing)
+// put() passes the value of eof() to overflow(), where it means that there is no character to
+// write.
+TEST(ConsoleStreams, EndOfFileValueWritesNothingAndIsNoError)
 {
     EXPECT_EQ(captureOutput(
                   []
@@ -107,7 +108,7 @@ TEST(ConsoleStreams, MarkOfTheEndWritesNothingAndEndsNothing)
               "ab");
 }
 
-TEST(ConsoleStreams, EveryInsertionArrivesAtOnce)
+TEST(ConsoleStreams, InsertionsAreNotBuffered)
 {
     toolbox::ConsoleCapture capture(toolbox::ConsoleCapture::Stream::output);
     ucout() << L"one";
@@ -146,7 +147,7 @@ TEST(ConsoleStreams, OrderWithFlushedStreamsIsKept)
               "1234");
 }
 
-TEST(ConsoleStreams, OutputAndErrorAreApart)
+TEST(ConsoleStreams, OutputAndErrorAreSeparate)
 {
     std::string error;
     const std::string output = captureOutput(
@@ -196,7 +197,8 @@ TEST(ConsoleStreams, HalfWithoutTheOtherIsReplaced)
 
 TEST(ConsoleStreams, LargeTextIsWrittenWhole)
 {
-    // An emoji stands on every boundary at which the text could be cut.
+    // The text is written in parts. With an emoji in every third unit, some parts would end inside
+    // one.
     std::wstring text;
     std::string bytes;
     for (int count = 0; count < 20000; ++count)

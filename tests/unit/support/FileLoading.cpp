@@ -1,4 +1,4 @@
-// Loading files whole, and telling them apart.
+// Tests of reading whole files and of canonical paths.
 #include "support/FileLoading.h"
 
 #include <filesystem>
@@ -11,7 +11,7 @@
 namespace kexa_3_3
 {
 
-// Shows what a failed comparison of problems means.
+// Names the problem in the message of a failed comparison.
 void PrintTo(FileProblem problem, std::ostream* out)
 {
     static const char* const names[] = {"none",      "not_found", "no_permission",
@@ -39,7 +39,7 @@ FileProblem problemOf(const std::wstring& name)
     return loadFile(name, bytes);
 }
 
-// The bytes of a file that can be loaded.
+// Loads a file and expects success.
 std::string load(const std::wstring& name)
 {
     std::string bytes = "what was there before";
@@ -47,7 +47,7 @@ std::string load(const std::wstring& name)
     return bytes;
 }
 
-TEST(FileLoading, BytesComeBackAsTheyAre)
+TEST(FileLoading, BytesAreNotChanged)
 {
     const TemporaryFolder folder;
     std::string all;
@@ -63,7 +63,7 @@ TEST(FileLoading, BytesComeBackAsTheyAre)
     }
 }
 
-// Around the room that is taken at first, and far beyond.
+// Sizes around that of the first buffer, and far above it.
 TEST(FileLoading, EverySizeIsReadWhole)
 {
     const TemporaryFolder folder;
@@ -96,7 +96,7 @@ TEST(FileLoading, NameWithAZeroIsNotFound)
     EXPECT_EQ(problemOf(file + std::wstring(L"\0more", 5)), FileProblem::not_found);
 }
 
-TEST(FileLoading, FolderIsToldFromAFile)
+TEST(FileLoading, FolderIsReportedAsAFolder)
 {
     const TemporaryFolder folder;
     EXPECT_EQ(problemOf(folder.name(L"")), FileProblem::is_folder);
@@ -111,7 +111,7 @@ TEST(FileLoading, FileAboveTheLimitIsTooLarge)
     fs::resize_file(folder.path() / "sparse", kexa_3_3::largest_file + 1, error);
     if (error)
     {
-        GTEST_SKIP() << "no room for a file of 1 GiB";
+        GTEST_SKIP() << "this file system does not hold a file of 1 GiB";
     }
     EXPECT_EQ(problemOf(name), FileProblem::too_large);
 }
@@ -125,7 +125,7 @@ TEST(FileLoading, NameIsRelativeToTheCurrentFolder)
     EXPECT_EQ(load(L"./file"), "here");
 }
 
-TEST(FileLoading, NamesMayHoldAnyCharacter)
+TEST(FileLoading, NamesMayContainAnyCharacter)
 {
     const TemporaryFolder folder;
     for (const wchar_t* const name :
@@ -135,7 +135,7 @@ TEST(FileLoading, NamesMayHoldAnyCharacter)
     }
 }
 
-TEST(CanonicalPath, IsTheSameForAllNamesOfAFile)
+TEST(CanonicalPath, IsEqualForAllNamesOfAFile)
 {
     const TemporaryFolder folder;
     const std::wstring name = folder.write(L"file", "x");
@@ -163,7 +163,7 @@ TEST(CanonicalPath, FollowsLinks)
     }
     if (error)
     {
-        GTEST_SKIP() << "this system makes no links for us";
+        GTEST_SKIP() << "symbolic links cannot be created here";
     }
     const std::wstring path = canonicalPath(name);
     EXPECT_EQ(canonicalPath(folder.name(L"link")), path);
@@ -180,14 +180,14 @@ TEST(CanonicalPath, DiffersForDifferentFiles)
               canonicalPath(folder.write(L"\u00E8", "x")));
 }
 
-TEST(CanonicalPath, IsTheNameWhereTheNameHasAZero)
+TEST(CanonicalPath, IsTheNameItselfIfTheNameHasAZero)
 {
     const TemporaryFolder folder;
     const std::wstring name = folder.write(L"file", "x") + std::wstring(L"\0more", 5);
     EXPECT_EQ(canonicalPath(name), name);
 }
 
-TEST(CanonicalPath, IsTheNameWhereThereIsNoFile)
+TEST(CanonicalPath, IsTheNameItselfIfThereIsNoFile)
 {
     const TemporaryFolder folder;
     const std::wstring missing = folder.name(L"no/such/../file \U0001F600");

@@ -1,4 +1,4 @@
-// Files that only a POSIX system has: ill-formed names, pipes, devices, files out of reach.
+// Tests with files that only a POSIX system has: ill-formed names, pipes, devices, forbidden files.
 #ifndef _WIN32
 
 #include <fstream>
@@ -22,7 +22,7 @@ using kexa_3_3::loadFile;
 using toolbox::TemporaryFolder;
 using toolbox::toUtf8;
 
-// Writes a file whose name is these bytes.
+// Writes a file. name: the bytes of the file name, which need not be well-formed UTF-8.
 void writeFile(const TemporaryFolder& folder, const std::string& name, const std::string& bytes)
 {
     std::ofstream file(folder.path().string() + "/" + name, std::ios::binary);
@@ -30,7 +30,7 @@ void writeFile(const TemporaryFolder& folder, const std::string& name, const std
     ASSERT_TRUE(file.flush()) << name;
 }
 
-TEST(FileLoadingOnPosix, LoneLowSurrogateStandsForAByte)
+TEST(FileLoadingOnPosix, LoneLowSurrogateBecomesAByte)
 {
     const TemporaryFolder folder;
     const struct
@@ -50,7 +50,7 @@ TEST(FileLoadingOnPosix, LoneLowSurrogateStandsForAByte)
     }
 }
 
-TEST(FileLoadingOnPosix, OtherSurrogatesStandForNoByte)
+TEST(FileLoadingOnPosix, OtherSurrogatesDoNotBecomeBytes)
 {
     const TemporaryFolder folder;
     writeFile(folder, "\x7F", "x");
@@ -61,7 +61,7 @@ TEST(FileLoadingOnPosix, OtherSurrogatesStandForNoByte)
     }
 }
 
-TEST(FileLoadingOnPosix, CanonicalPathsOfIllFormedNamesStayApart)
+TEST(FileLoadingOnPosix, CanonicalPathsOfIllFormedNamesDiffer)
 {
     const TemporaryFolder folder;
     writeFile(folder, "\xFE", "x");
@@ -73,7 +73,7 @@ TEST(FileLoadingOnPosix, CanonicalPathsOfIllFormedNamesStayApart)
     EXPECT_EQ(canonicalPath(first), canonicalPath(folder.name(L"./") + L"\xDCFE"));
 }
 
-// More than a pipe holds, so that it is read in many parts.
+// Sends more than the buffer of a pipe holds, so that several reads are needed.
 TEST(FileLoadingOnPosix, PipeIsReadToItsEnd)
 {
     const TemporaryFolder folder;
@@ -92,7 +92,7 @@ TEST(FileLoadingOnPosix, PipeIsReadToItsEnd)
     EXPECT_TRUE(bytes == sent) << bytes.size() << " of " << sent.size() << " bytes";
 }
 
-TEST(FileLoadingOnPosix, FileThatTellsNoSizeIsReadWhole)
+TEST(FileLoadingOnPosix, FileThatReportsNoSizeIsReadWhole)
 {
     std::string bytes;
     ASSERT_EQ(loadFile(L"/proc/self/status", bytes), FileProblem::none);
@@ -113,7 +113,7 @@ TEST(FileLoadingOnPosix, ForbiddenFileHasNoPermission)
     const TemporaryFolder folder;
     writeFile(folder, "secret", "x");
     ASSERT_EQ(::chmod((folder.path().string() + "/secret").c_str(), 0), 0);
-    // Nothing is forbidden to the superuser, who can be somebody else for a moment.
+    // The superuser may read every file, so the test switches to an unprivileged user for the read.
     constexpr uid_t nobody = 65534;
     const bool superuser = ::geteuid() == 0;
     ASSERT_TRUE(!superuser || ::seteuid(nobody) == 0);

@@ -1,4 +1,4 @@
-// UTF-8 read as wide text: what is ill-formed, and how many U+FFFD stand for it.
+// Tests of decoding UTF-8: which bytes are ill-formed, and how many U+FFFD replace them.
 #include <cstdint>
 #include <set>
 #include <string>
@@ -60,7 +60,7 @@ TEST(Utf8Decoding, ByteOrderMarkIsKept)
     expectDecoded({{"\xEF\xBB\xBF", {0xFEFF}}, {"\xEF\xBB\xBF\x61", {0xFEFF, 'a'}}});
 }
 
-// Tables 3-8 to 3-11 of the Unicode Standard and the older example with mixed faults.
+// Tables 3-8 to 3-11 of the Unicode Standard, and the example with mixed faults of older versions.
 TEST(Utf8Decoding, ExamplesOfTheUnicodeStandard)
 {
     expectDecoded(
@@ -119,7 +119,8 @@ TEST(Utf8Decoding, LoneContinuationBytesAreOneFaultEach)
                    {"\xC3\xA9\xA9", {0xE9, bad}}});
 }
 
-// What can be continued to a well-formed sequence, written down by encoding every code point.
+// A reference decoder. It holds all proper prefixes of well-formed sequences, which it finds by
+// encoding every code point.
 class Sequences
 {
 public:
@@ -127,14 +128,13 @@ public:
     {
         for (std::uint32_t codePoint = 0; codePoint <= 0x10FFFF; ++codePoint)
         {
-            // The sixty-four sequences that differ in their last byte only have the same
-            // beginnings.
+            // The 64 sequences that differ only in their last byte have equal prefixes.
             if (isScalarValue(codePoint) && codePoint % 64 == 0)
             {
                 const std::string bytes = encode(codePoint);
                 for (std::size_t length = 1; length < bytes.size(); ++length)
                 {
-                    m_beginnings.insert(bytes.substr(0, length));
+                    m_prefixes.insert(bytes.substr(0, length));
                 }
             }
         }
@@ -146,9 +146,8 @@ public:
         while (!bytes.empty())
         {
             std::size_t length = 1;
-            while (
-                length < bytes.size() && isBeginning(bytes.substr(0, length)) &&
-                (isWhole(bytes.substr(0, length + 1)) || isBeginning(bytes.substr(0, length + 1))))
+            while (length < bytes.size() && isPrefix(bytes.substr(0, length)) &&
+                   (isWhole(bytes.substr(0, length + 1)) || isPrefix(bytes.substr(0, length + 1))))
             {
                 ++length;
             }
@@ -160,9 +159,9 @@ public:
     }
 
 private:
-    [[nodiscard]] bool isBeginning(std::string_view bytes) const
+    [[nodiscard]] bool isPrefix(std::string_view bytes) const
     {
-        return m_beginnings.find(bytes) != m_beginnings.end();
+        return m_prefixes.find(bytes) != m_prefixes.end();
     }
     [[nodiscard]] bool isWhole(std::string_view bytes) const
     {
@@ -170,10 +169,10 @@ private:
         return isScalarValue(codePoint) && encode(codePoint) == bytes;
     }
 
-    std::set<std::string, std::less<>> m_beginnings;
+    std::set<std::string, std::less<>> m_prefixes;
 };
 
-TEST(Utf8Decoding, EveryShortSequenceOfBoundaryBytesReadsAsTheDefinitionSays)
+TEST(Utf8Decoding, EveryShortSequenceOfBoundaryBytesMatchesTheReference)
 {
     const std::string alphabet = "\x41\x7F\x80\x8F\x90\x9F\xA0\xBF\xC1\xC2\xE0\xE1\xED\xF0\xF4\xF5";
     const Sequences sequences;
@@ -202,7 +201,7 @@ TEST(Utf8Decoding, EveryShortSequenceOfBoundaryBytesReadsAsTheDefinitionSays)
     }
 }
 
-TEST(Utf8Decoding, RowOfAsciiOfAnyLengthMayStandBeforeAndBehind)
+TEST(Utf8Decoding, AsciiRunsOfAnyLengthMayPrecedeAndFollow)
 {
     const Sequences sequences;
     for (const char* const middle :
@@ -222,57 +221,58 @@ TEST(Utf8Decoding, RowOfAsciiOfAnyLengthMayStandBeforeAndBehind)
     }
 }
 
-TEST(Utf8DecodingIntoRoom, AnswersWhatWasWrittenToItsFront)
+TEST(Utf8DecodingIntoBuffer, ReturnsAViewOfTheDecodedText)
 {
-    std::wstring room;
+    std::wstring buffer;
     for (const char* const bytes :
          {"a text that is rather long", "b", "", "\xC3\xA9", "\xF0\x9F\x98\x80\xFF",
-          "and another text, which is longer than all those that were there before it", "c"})
+          "and another text, which is longer than all of the texts before it", "c"})
     {
-        const std::wstring_view text = wideFromUtf8(bytes, room);
+        const std::wstring_view text = wideFromUtf8(bytes, buffer);
         EXPECT_EQ(text, wideFromUtf8(bytes)) << bytes;
-        EXPECT_EQ(text.data(), room.data());
+        EXPECT_EQ(text.data(), buffer.data());
     }
 }
 
-TEST(Utf8DecodingIntoRoom, RoomGrowsAndNeverShrinks)
+TEST(Utf8DecodingIntoBuffer, BufferGrowsAndNeverShrinks)
 {
-    std::wstring room;
+    std::wstring buffer;
     std::size_t before = 0;
     for (const std::size_t length : {0U, 5U, 100U, 3U, 0U, 99U, 101U, 1000U, 1U})
     {
-        EXPECT_EQ(wideFromUtf8(std::string(length, 'a'), room), std::wstring(length, L'a'));
-        EXPECT_GE(room.size(), before);
-        EXPECT_GE(room.size(), length);
-        before = room.size();
+        EXPECT_EQ(wideFromUtf8(std::string(length, 'a'), buffer), std::wstring(length, L'a'));
+        EXPECT_GE(buffer.size(), before);
+        EXPECT_GE(buffer.size(), length);
+        before = buffer.size();
     }
 }
 
-// Texts that grow by one character each would otherwise have it filled for every one.
-TEST(Utf8DecodingIntoRoom, RoomIsMadeSeldom)
+// Growing to the exact size would fill the whole buffer again for each text that is one byte
+// longer.
+TEST(Utf8DecodingIntoBuffer, BufferGrowsGeometrically)
 {
-    std::wstring room;
+    std::wstring buffer;
     std::size_t before = 0;
     std::size_t changes = 0;
     std::string bytes;
     for (int length = 1; length <= 10000; ++length)
     {
         bytes.push_back('a');
-        ASSERT_EQ(wideFromUtf8(bytes, room).size(), bytes.size());
-        changes += room.size() == before ? 0U : 1U;
-        before = room.size();
+        ASSERT_EQ(wideFromUtf8(bytes, buffer).size(), bytes.size());
+        changes += buffer.size() == before ? 0U : 1U;
+        before = buffer.size();
     }
     EXPECT_LE(changes, 20U);
 }
 
-TEST(Utf8DecodingIntoRoom, WhatStandsBehindIsNotPartOfIt)
+TEST(Utf8DecodingIntoBuffer, TextBehindTheViewIsIgnored)
 {
-    std::wstring room(50, L'?');
-    EXPECT_EQ(wideFromUtf8("ab", room), L"ab");
-    EXPECT_EQ(room.size(), 50U);
-    EXPECT_EQ(wideFromUtf8("\xE2\x82\xAC\xE2\x82", room), L"\u20AC\uFFFD");
-    EXPECT_EQ(wideFromUtf8("", room), L"");
-    EXPECT_EQ(room.size(), 50U);
+    std::wstring buffer(50, L'?');
+    EXPECT_EQ(wideFromUtf8("ab", buffer), L"ab");
+    EXPECT_EQ(buffer.size(), 50U);
+    EXPECT_EQ(wideFromUtf8("\xE2\x82\xAC\xE2\x82", buffer), L"\u20AC\uFFFD");
+    EXPECT_EQ(wideFromUtf8("", buffer), L"");
+    EXPECT_EQ(buffer.size(), 50U);
 }
 
 } // namespace

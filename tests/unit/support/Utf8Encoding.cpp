@@ -1,4 +1,4 @@
-// Wide text written as UTF-8, and the way there and back.
+// Tests of encoding wide text as UTF-8, and of the round trip.
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -20,7 +20,7 @@ using unit::wideOf;
 
 const std::string replacement = "\xEF\xBF\xBD";
 
-// Units as they are, surrogates included.
+// Returns a text of these units, which may be lone surrogates.
 std::wstring units(const std::vector<std::uint32_t>& numbers)
 {
     std::wstring text;
@@ -80,7 +80,7 @@ TEST(Utf8Encoding, LoneSurrogateIsReplaced)
     }
 }
 
-// In UTF-32 both halves are ill-formed by themselves.
+// In UTF-32 each surrogate is ill-formed, in pairs too.
 TEST(Utf8Encoding, SurrogatePairIsOneCharacterOnlyInUtf16)
 {
     const bool utf16 = sizeof(wchar_t) == 2;
@@ -95,7 +95,7 @@ TEST(Utf8Encoding, NumberBeyondUnicodeIsReplaced)
 {
     if (sizeof(wchar_t) == 2)
     {
-        GTEST_SKIP() << "16-bit units hold no such number";
+        GTEST_SKIP() << "a 16-bit unit cannot hold such a number";
     }
     for (const std::uint32_t number : {0x110000U, 0x7FFFFFFFU, 0x80000000U, 0xFFFFFFFFU})
     {
@@ -105,7 +105,7 @@ TEST(Utf8Encoding, NumberBeyondUnicodeIsReplaced)
     }
 }
 
-TEST(Utf8Encoding, EveryCodePointComesBack)
+TEST(Utf8Encoding, EveryCodePointSurvivesTheRoundTrip)
 {
     constexpr std::uint32_t block = 0x400;
     for (std::uint32_t first = 0; first <= 0x10FFFF; first += block)

@@ -1,0 +1,132 @@
+// Entries found by name.
+#pragma once
+
+#include <bit>
+#include <cassert>
+#include <cstddef>
+#include <cstdint>
+#include <memory_resource>
+#include <new>
+#include <utility>
+#include <vector>
+
+#include "support/text/HashedText.h"
+
+namespace kexa_3_3
+{
+
+// A hash table with open addressing beside an array of its entries in the order of insertion.
+// std::pmr::unordered_map allocates a node for each entry, which alone takes a third of the time of
+// a small command line.
+//
+// Entry: has a member `HashedText name`, which does not change once the entry is in the table.
+template <class Entry>
+class NameTable
+{
+public:
+    // memory:   outlives the table. A table that grows leaves its former arrays there.
+    // expected: the number of entries to make room for at once.
+    // Throws std::bad_alloc.
+    NameTable(std::pmr::memory_resource& memory, std::size_t expected)
+        : m_entries(&memory), m_slots(slotsFor(expected), Slot(), &memory)
+    {
+        m_entries.reserve(expected);
+    }
+
+    // Makes room for `count` further entries. Throws std::bad_alloc, changing nothing.
+    void reserveMore(std::size_t count)
+    {
+        const std::size_t needed = m_entries.size() + count;
+        if (needed <= m_entries.capacity())
+        {
+            return;
+        }
+        const std::size_t room = std::bit_ceil(needed);
+        if (room > largest_room)
+        {
+            throw std::bad_alloc(); // GCOVR_EXCL_LINE: billions of entries fit no test machine
+        }
+        std::pmr::vector<Slot> slots(slotsFor(room), Slot(), m_slots.get_allocator());
+        m_entries.reserve(room);
+        for (const Slot& slot : m_slots)
+        {
+            if (slot.number != no_entry)
+            {
+                slots[freeSlotIn(slots, slot.hash)] = slot;
+            }
+        }
+        m_slots.swap(slots);
+    }
+
+    // Adds an entry. Preconditions: reserveMore() made room, and no entry has the name.
+    Entry& add(Entry entry) noexcept
+    {
+        assert(m_entries.size() < m_entries.capacity());
+        assert(find(entry.name) == nullptr);
+        const std::uint32_t hash = entry.name.hash();
+        m_slots[freeSlotIn(m_slots, hash)] = {static_cast<std::uint32_t>(m_entries.size()), hash};
+        return m_entries.emplace_back(std::move(entry));
+    }
+
+    // The entry with the name, or null. An address is valid until the next reserveMore().
+    [[nodiscard]] const Entry* find(const HashedText& name) const noexcept
+    {
+        const std::size_t mask = m_slots.size() - 1;
+        for (std::size_t place = name.hash() & mask;; place = (place + 1) & mask)
+        {
+            const Slot& slot = m_slots[place];
+            if (slot.number == no_entry)
+            {
+                return nullptr;
+            }
+            if (slot.hash == name.hash() && m_entries[slot.number].name == name)
+            {
+                return &m_entries[slot.number];
+            }
+        }
+    }
+    [[nodiscard]] Entry* find(const HashedText& name) noexcept
+    {
+        return const_cast<Entry*>(std::as_const(*this).find(name));
+    }
+
+    [[nodiscard]] bool empty() const noexcept { return m_entries.empty(); }
+    [[nodiscard]] std::size_t size() const noexcept { return m_entries.size(); }
+    [[nodiscard]] auto begin() const noexcept { return m_entries.begin(); }
+    [[nodiscard]] auto end() const noexcept { return m_entries.end(); }
+
+private:
+    static constexpr std::uint32_t no_entry = 0xFFFFFFFF;
+    static constexpr std::size_t largest_room = std::size_t{1} << 31;
+
+    // The hash is kept beside the number, so that a search looks at next to no other entry than the
+    // one it finds, and growth at none.
+    struct Slot
+    {
+        std::uint32_t number = no_entry;
+        std::uint32_t hash = 0;
+    };
+
+    // A power of two, at least twice the number of entries: searches end after few steps.
+    [[nodiscard]] static std::size_t slotsFor(std::size_t entries) noexcept
+    {
+        return 2 * std::bit_ceil(entries);
+    }
+
+    [[nodiscard]] static std::size_t freeSlotIn(const std::pmr::vector<Slot>& slots,
+                                                std::uint32_t hash) noexcept
+    {
+        const std::size_t mask = slots.size() - 1;
+        std::size_t place = hash & mask;
+        while (slots[place].number != no_entry)
+        {
+            place = (place + 1) & mask;
+        }
+        return place;
+    }
+
+    std::pmr::vector<Entry> m_entries;
+    std::pmr::vector<Slot> m_slots;
+};
+
+} // namespace kexa_3_3
