@@ -1,4 +1,4 @@
-// Which options an action accepts, and what counts as given when actions are checked.
+// Options that an action accepts, and which options the action check counts as given.
 #include "Host.h"
 
 using namespace kexa_3_3;
@@ -97,7 +97,7 @@ TEST_F(ActionAcceptance, AnOptionWithoutKeywordsIsAlwaysAccepted)
     check({{L"--sum", L"--name=a"}, L""});
 }
 
-// The options are visited by their names in order, all names included: "b" is a name of zone.
+// Names are checked in sorted order, all names of an option included: "b" is a name of zone.
 TEST_F(ActionAcceptance, TheFirstNameInOrderIsReported)
 {
     check({{L"--list", L"--filter=1", L"--check=1"}, notAccepted(L"list", L"check")});

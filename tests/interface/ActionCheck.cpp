@@ -1,4 +1,4 @@
-// Which actions may stand together on one command line.
+// Which actions may be given together.
 #include "Host.h"
 
 using namespace kexa_3_3;
@@ -101,7 +101,7 @@ TEST(ActionCheck, TwoActionsAreOneTooMany)
         {{}, {L"--list", L"--sum"}, onlyOne(L"sum", L"list")},
         {{}, {L"-l", L"-s"}, onlyOne(L"sum", L"list")},
         {{}, {L"--list", L"--zero"}, onlyOne(L"zero", L"list")},
-        // An action that is denied is given all the same.
+        // A negated action counts as given.
         {{}, {L"--no-list", L"--sum"}, onlyOne(L"sum", L"list")},
         {{}, {L"--list", L"--sum", L"--name=a"}, onlyOne(L"sum", L"list")},
     };
@@ -111,8 +111,8 @@ TEST(ActionCheck, TwoActionsAreOneTooMany)
     }
 }
 
-// The check walks the names under which options were stored, all names of an option included, in
-// their order; so "a", a name of verify, makes verify the first of all.
+// Names are checked in sorted order, all names of an option included: verify comes first by its
+// name "a".
 TEST(ActionCheck, TheFirstNameInOrderIsTheChosenActionWhateverTheOrderOfTheArguments)
 {
     const ActionCase rows[] = {
@@ -150,7 +150,8 @@ TEST(ActionCheck, OneGroupMustHoldAllActionsGiven)
     const ActionCase rows[] = {
         {{{L"list", L"sum"}}, {L"--list", L"--zero"}, onlyOne(L"zero", L"list")},
         {{{L"list", L"sum"}}, {L"--list", L"--sum", L"--zero"}, onlyOne(L"zero", L"list")},
-        // Every pair is compatible, the three are not; the first action stays the chosen one.
+        // Each pair is compatible, but no group holds all three. The first action is the chosen
+        // one.
         {{{L"list", L"sum"}, {L"sum", L"zero"}, {L"list", L"zero"}},
          {L"--list", L"--sum", L"--zero"},
          onlyOne(L"zero", L"list")},

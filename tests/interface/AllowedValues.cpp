@@ -1,4 +1,4 @@
-// Values matched against the values that an option allows, in full and abbreviated.
+// Values compared with the allowed values of an option, in full and abbreviated.
 #include <limits>
 #include <string>
 #include <vector>
@@ -31,7 +31,7 @@ public:
         }
     }
 
-    // The values stored for the text, or the message.
+    // The stored values, or the error message.
     Texts outcome(const std::wstring& text)
     {
         renewResult();
@@ -53,7 +53,7 @@ std::vector<variant_t> wide(const std::vector<const wchar_t*>& texts)
     return values;
 }
 
-// A row gives either the stored text or the words of the message behind the argument.
+// Expects either a stored text or, of the message, the part after the argument.
 struct Row
 {
     const wchar_t* text;
@@ -217,7 +217,7 @@ TEST(AllowedValues, NumbersAreMatchedByValueAcrossKinds)
         {value_type_double, variant_t(s32_t{2}), L"2.0", true},
         {value_type_double, variant_t(0.5F), L"5e-1", true},
         {value_type_double, variant_t(0.1F), L"0.1", false},
-        // As doubles, though the order of the numbers would tell them apart.
+        // An integer equals a double if both are equal as doubles.
         {value_type_double, variant_t(s64_t{9007199254740995}), L"9007199254740996", true},
         {value_type_integer64, variant_t(9007199254740992.0), L"9007199254740993", true},
         {value_type_integer64, variant_t(9007199254740992.0), L"9007199254740994", false},
@@ -246,7 +246,7 @@ TEST(AllowedValues, ListShowsTheTextOfEveryKind)
 
 TEST(AllowedValues, NarrowTextIsMatchedByItsPrefixes)
 {
-    // A narrow text equals no wide one, so it is only ever found as its own longest prefix.
+    // A narrow text never equals a wide one: it is found as an abbreviation that is complete.
     AllowedHost host({variant_t("fast"), variant_t::reference("slow \xC3\xA9")});
     const wchar_t* const list = L"Option 'mode' does not allow value 'fastx'. Possible values "
                                 L"follows: 'fast', 'slow \u00E9'";

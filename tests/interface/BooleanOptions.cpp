@@ -1,4 +1,4 @@
-// Booleans with their "no-" form, and options that take no value.
+// Booleans with their "no-" form, and options without a value.
 #include <string>
 #include <vector>
 
@@ -140,7 +140,7 @@ TEST(ValuelessOptions, ValueIsRefused)
     }
 }
 
-TEST(ValuelessOptions, NextArgumentIsNeverLookedAt)
+TEST(ValuelessOptions, NextArgumentIsNeverAValue)
 {
     Host host;
     host.addOption(L"flag", value_type_none);
@@ -161,7 +161,7 @@ TEST(ValuelessOptions, OnlyTheOptionEventIsSent)
     EXPECT_EQ(events, (Events{L"option flag", L"option flag"}));
 }
 
-TEST(OptionEvents, OptionIsToldBeforeItsValues)
+TEST(OptionEvents, OptionEventComesBeforeItsValueEvents)
 {
     Host host;
     host.addOption(L"name,n");
@@ -175,7 +175,7 @@ TEST(OptionEvents, OptionIsToldBeforeItsValues)
                       L"value verbose false", L"option name", L"value name 'c'"}));
 }
 
-TEST(OptionEvents, OptionIsToldThoughItsValueDoesNotConvert)
+TEST(OptionEvents, OptionEventIsSentThoughItsValueDoesNotConvert)
 {
     Host host;
     host.addOption(L"number", value_type_integer);
@@ -186,7 +186,7 @@ TEST(OptionEvents, OptionIsToldThoughItsValueDoesNotConvert)
     EXPECT_EQ(events, (Events{L"option number", L"value number 1"}));
 }
 
-TEST(OptionEvents, RefusedArgumentTellsNothing)
+TEST(OptionEvents, RefusedArgumentSendsNoEvent)
 {
     for (const wchar_t* argument :
          {L"--verbose=1", L"--flag=1", L"--name", L"--=5", L"--nam", L"--name=x"})

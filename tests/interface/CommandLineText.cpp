@@ -1,4 +1,4 @@
-// How a command-line text becomes arguments, and how parsing one differs from parsing a vector.
+// Splitting a command-line text into arguments.
 #include <cwchar>
 
 #include "Host.h"
@@ -17,7 +17,7 @@ struct SplitCase
     Texts arguments;
 };
 
-// A host that shows the arguments themselves: its positional option takes each as one value.
+// Returns the arguments themselves: a positional option takes each as one value.
 class ArgumentLister
 {
 public:
@@ -55,7 +55,7 @@ TEST(CommandLineText, HoldsOneArgumentInEachLine)
     }
 }
 
-TEST(CommandLineText, BlankLinesGiveNothing)
+TEST(CommandLineText, BlankLinesAreSkipped)
 {
     const SplitCase rows[] = {
         {L"\n", {}},
@@ -108,7 +108,7 @@ TEST(CommandLineText, TrailingBlanksAreKept)
     }
 }
 
-TEST(CommandLineText, CommentsAreLinesWhoseFirstCharacterIsASemicolonOrAHash)
+TEST(CommandLineText, LinesThatBeginWithASemicolonOrAHashAreComments)
 {
     const SplitCase rows[] = {
         {L";a", {}},
@@ -210,50 +210,4 @@ TEST(CommandLineText, MayBeLong)
     }
     ArgumentLister lister;
     EXPECT_EQ(lister.argumentsOf(text.c_str()), expected);
-}
-
-TEST(Defaults, AreHandedToTheResultOfAVector)
-{
-    Host host;
-    host.addOption(L"name,n").setDefaultValue(vexkit2::variant_t(L"standard"));
-    EXPECT_EQ(host.parse({}), 0);
-    EXPECT_EQ(host.values(L"name"),
-              (std::vector<ReadValue>{{L"standard", value_type_string, no_position}}));
-    EXPECT_EQ(host.values(L"n"),
-              (std::vector<ReadValue>{{L"standard", value_type_string, no_position}}));
-    EXPECT_TRUE(host.isPresent(L"name"));
-}
-
-TEST(Defaults, AreHandedOverEvenWhenTheParseFails)
-{
-    Host host(2);
-    host.addOption(L"name").setDefaultValue(vexkit2::variant_t(L"standard"));
-    EXPECT_EQ(host.parse({L"x"}), 2);
-    EXPECT_EQ(host.texts(L"name"), (Texts{L"standard"}));
-}
-
-TEST(Defaults, AreNotHandedToTheResultOfACommandLineText)
-{
-    Host host;
-    host.addOption(L"name").setDefaultValue(vexkit2::variant_t(L"standard"));
-    EXPECT_EQ(host.parseLines(L""), 0);
-    EXPECT_TRUE(host.values(L"name").empty());
-    EXPECT_FALSE(host.isPresent(L"name"));
-}
-
-TEST(Defaults, YieldToAGivenValue)
-{
-    Host host;
-    host.addOption(L"name").setDefaultValue(vexkit2::variant_t(L"standard"));
-    EXPECT_EQ(host.parse({L"--name=a"}), 0);
-    EXPECT_EQ(host.texts(L"name"), (Texts{L"a"}));
-}
-
-TEST(Defaults, OfAnOptionWithoutOneAreNothing)
-{
-    Host host;
-    host.addOption(L"name");
-    EXPECT_EQ(host.parse({}), 0);
-    EXPECT_TRUE(host.values(L"name").empty());
-    EXPECT_FALSE(host.isPresent(L"name"));
 }

@@ -1,4 +1,4 @@
-// Declaring options through the parser, and asking what is declared.
+// Declaring options, and looking them up with hasOption.
 #include "Host.h"
 
 using namespace kexa_3_3;
@@ -27,7 +27,7 @@ std::string show(const HasOptionCase& row)
 
 } // namespace
 
-TEST(AddOption, AnswersStatusThreeAndTheOption)
+TEST(AddOption, ReturnsStatusThreeAndTheOption)
 {
     Host host;
     const Registration& registration =
@@ -55,7 +55,7 @@ TEST(AddOption, GivesTheOptionNoKeyword)
     EXPECT_STREQ(host.parser().showRelatedHelp(L"list", false), L"");
 }
 
-TEST(AddSwitch, AnswersStatusThreeAndTheOption)
+TEST(AddSwitch, ReturnsStatusThreeAndTheOption)
 {
     Host host;
     const Registration& registration =
@@ -87,7 +87,7 @@ TEST(AddSwitch, MakesItsNamesItsKeywords)
     EXPECT_EQ(host.message(), L"Action '-sum' doesn't accept option '-depth'");
 }
 
-TEST(AddOptionWithKeywords, AnswersStatusThreeAndTheOption)
+TEST(AddOptionWithKeywords, ReturnsStatusThreeAndTheOption)
 {
     Host host;
     const Registration& registration = host.parser().addOptionWithKeywords(
@@ -128,7 +128,7 @@ TEST(AddOptionWithKeywords, NullKeywordsAreNone)
     EXPECT_EQ(host.parse({L"--list", L"--depth=1"}), 0);
 }
 
-TEST(Registrations, AFailureAnswersStatusOneAndNoOption)
+TEST(Registrations, AFailureReturnsStatusOneAndNoOption)
 {
     Host host;
     const Registration& registration =
@@ -138,7 +138,7 @@ TEST(Registrations, AFailureAnswersStatusOneAndNoOption)
     EXPECT_FALSE(host.parser().hasOption(L"a", false, nullptr));
 }
 
-TEST(Registrations, TheRecordIsTheParsersAndHoldsTheLatest)
+TEST(Registrations, OneRecordOfTheParserHoldsTheLatestRegistration)
 {
     Host host;
     const Registration& first = host.parser().addOption(L"name", L"", value_type_string, L"");
@@ -170,7 +170,7 @@ TEST(Registrations, TextsAreCopied)
     EXPECT_TRUE(host.parser().hasOption(L"name", false, L"files"));
 }
 
-TEST(HasOption, AnswersForTheKindNameAndGroupAskedFor)
+TEST(HasOption, ComparesKindNameAndGroup)
 {
     Host host;
     host.parser().addOption(L"name,n", L"", value_type_string, L"files:Files to read");
@@ -185,12 +185,12 @@ TEST(HasOption, AnswersForTheKindNameAndGroupAskedFor)
         {L"list", true, nullptr, true},
         {L"list", false, nullptr, false},
         {L"l", true, nullptr, true},
-        // What counts is how it was declared, not its type.
+        // Decided by the operation that declared it, not by its type.
         {L"quick", false, nullptr, true},
         {L"quick", true, nullptr, false},
         {L"sort", true, nullptr, true},
         {L"sort", false, nullptr, false},
-        // The group is the text before the colon, in full.
+        // A group is found by the text before the colon, in full.
         {L"name", false, L"files", true},
         {L"n", false, L"files", true},
         {L"name", false, L"file", false},
@@ -203,7 +203,7 @@ TEST(HasOption, AnswersForTheKindNameAndGroupAskedFor)
         {L"list", true, L"actions", true},
         {L"list", true, L"files", false},
         {L"list", false, L"actions", false},
-        // A name is compared in full, case counting.
+        // Names are compared in full and with case.
         {L"nam", false, nullptr, false},
         {L"names", false, nullptr, false},
         {L"Name", false, nullptr, false},
@@ -241,7 +241,7 @@ TEST(HasOption, ANameAddedLaterCounts)
     EXPECT_FALSE(host.parser().hasOption(L"alias", true, nullptr));
 }
 
-TEST(HasOption, GoesOnBehindAnOptionOfAnotherGroup)
+TEST(HasOption, FindsALaterOptionOfTheNameInTheGivenGroup)
 {
     Host host;
     host.parser().addOption(L"first", L"", value_type_string, L"one").option->addName(L"shared");
@@ -254,7 +254,7 @@ TEST(HasOption, GoesOnBehindAnOptionOfAnotherGroup)
     EXPECT_FALSE(host.parser().hasOption(L"shared", true, L"one"));
 }
 
-TEST(HasOption, NeverFindsOneOptionAsBothKinds)
+TEST(HasOption, FindsNoOptionAsBothKinds)
 {
     for (const std::int32_t type : {0, 6, 7, 8, 9, 11, 13, 17})
     {

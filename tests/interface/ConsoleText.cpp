@@ -1,4 +1,4 @@
-// What the library prints by itself: UTF-8, whatever the locale, in order with the host's output.
+// Lines that the library writes: UTF-8 in any locale, in order with the host's output.
 #include <clocale>
 #include <cstdio>
 #include <iostream>
@@ -126,7 +126,7 @@ TEST(ConsoleText, IsUtf8WhateverTheLocale)
         const LocaleOverride locale(name);
         if (!locale.accepted())
         {
-            continue; // a system need not have every locale
+            continue; // not installed; "C" always is
         }
         EXPECT_EQ(registerTwice(L"\u00e9t\u00e9", L"\u4e2d,\u00e9t\u00e9"),
                   duplicate + std::string("\xE4\xB8\xAD,\xC3\xA9t\xC3\xA9\n"));
@@ -141,7 +141,7 @@ TEST(ConsoleText, IsUtf8WhateverTheLocale)
     }
 }
 
-TEST(ConsoleText, ALoneSurrogateIsWrittenAsAReplacementCharacterAndEndsNothing)
+TEST(ConsoleText, ALoneSurrogateIsWrittenAsOneReplacementCharacter)
 {
     EXPECT_EQ(registerTwice(L"a\xD83Dz", L"a\xD83Dz"), duplicate + std::string("a\xEF\xBF\xBDz\n"));
     EXPECT_EQ(registerTwice(L"a\xDE00", L"a\xDE00"), duplicate + std::string("a\xEF\xBF\xBD\n"));
@@ -151,7 +151,7 @@ TEST(ConsoleText, ALoneSurrogateIsWrittenAsAReplacementCharacterAndEndsNothing)
 
 TEST(ConsoleText, MayBeLong)
 {
-    std::wstring name = L"x"; // so that no character begins at a round number
+    std::wstring name = L"x"; // so that the end of a buffer lies inside a character
     for (int count = 0; count < 20000; ++count)
     {
         name += L"\U0001F600";
@@ -159,7 +159,7 @@ TEST(ConsoleText, MayBeLong)
     EXPECT_EQ(registerTwice(name.c_str(), name.c_str()), duplicate + toUtf8(name) + "\n");
 }
 
-TEST(ConsoleText, KeepsItsPlaceAmongWhatTheHostWrites)
+TEST(ConsoleText, IsInOrderWithTheHostsOwnOutput)
 {
     Host host;
     host.addOption(L"out");

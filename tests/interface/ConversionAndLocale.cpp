@@ -1,4 +1,4 @@
-// A host's global locale does not change how values are read or written.
+// The host's locale does not change how values are read and written.
 #include <clocale>
 #include <locale>
 #include <string>
@@ -59,7 +59,7 @@ TEST_F(ConversionAndLocale, GroupedIntegersStayRefused)
         {{L"1234567", 1234567U}, {L"0xABCDEF", 0xABCDEFU}, {L"1.234.567", std::nullopt}});
 }
 
-TEST_F(ConversionAndLocale, TextOfAValueHasNoGroupsAndAPoint)
+TEST_F(ConversionAndLocale, TextOfAValueHasADecimalPointAndNoThousandsSeparators)
 {
     Host host;
     host.parser()
@@ -72,10 +72,10 @@ TEST_F(ConversionAndLocale, TextOfAValueHasNoGroupsAndAPoint)
                                                     L"-size=<integer> (1234567)\n\n");
 }
 
-TEST_F(ConversionAndLocale, CLocaleIsNotLookedAtEither)
+TEST_F(ConversionAndLocale, CLocaleIsIgnoredToo)
 {
     const std::string before = std::setlocale(LC_NUMERIC, nullptr);
-    // Where none of these exists, the test still shows what the C++ locale does.
+    // Where none of these is installed, only the C++ locale has a decimal comma.
     for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8", "German_Germany.1252"})
     {
         if (std::setlocale(LC_NUMERIC, name) != nullptr)

@@ -1,4 +1,4 @@
-// Texts that the double type takes and refuses.
+// Texts that convert to a double, and texts that do not.
 #include <cmath>
 #include <limits>
 #include <string>

@@ -1,4 +1,4 @@
-// The unsigned 64-bit type, which also takes hexadecimal numbers with "0x" in front or "h" behind.
+// The unsigned 64-bit type: decimal, and hexadecimal with the prefix "0x" or the suffix "h".
 #include <limits>
 #include <string>
 

@@ -1,4 +1,4 @@
-// Texts that the decimal integer types take and refuse, around the limits of each.
+// The decimal integer types: texts that convert and texts that do not, up to the limits of each.
 #include <limits>
 #include <string>
 #include <vector>
@@ -19,7 +19,7 @@ constexpr std::nullopt_t refused = std::nullopt;
 const std::wstring many_zeros(5000, L'0');
 const std::wstring many_nines(5000, L'9');
 
-// What every decimal integer type takes, whatever its width and sign.
+// Rows for every decimal integer type.
 template <class T>
 std::vector<ConversionRow<T>> commonRows()
 {
@@ -64,16 +64,16 @@ std::vector<ConversionRow<T>> commonRows()
         {L"1e2", refused},
         {L"0x10", refused},
         {L"10h", refused},
-        {L"\u0661", refused},     // an Arabic-Indic one
-        {L"1\u0661", refused},    // and behind an ASCII digit
-        {L"\uFF11", refused},     // a fullwidth one
-        {L"\u0967", refused},     // a Devanagari one
-        {L"\u00B2", refused},     // a superscript two
-        {L"\U0001D7CF", refused}, // a mathematical bold one
-        {L"\u00A05", refused},    // spaces outside ASCII are no white space of a number
+        {L"\u0661", refused},     // Arabic-Indic one
+        {L"1\u0661", refused},    // Arabic-Indic one after an ASCII digit
+        {L"\uFF11", refused},     // fullwidth one
+        {L"\u0967", refused},     // Devanagari one
+        {L"\u00B2", refused},     // superscript two
+        {L"\U0001D7CF", refused}, // mathematical bold one
+        {L"\u00A05", refused},    // spaces outside ASCII
         {L"5\u3000", refused},
         {L"\uFEFF5", refused},
-        {L"\u22125", refused}, // a minus sign outside ASCII
+        {L"\u22125", refused}, // minus sign outside ASCII
     };
 }
 
@@ -99,9 +99,9 @@ TEST(ConversionOfIntegers, Signed32)
             {L"-2147483647", -2147483647},
             {L"-2147483649", refused},
             {L"4294967295", refused},
-            {L"4294967296", refused}, // 0 in 32 bits
+            {L"4294967296", refused}, // 2^32
             {L"9223372036854775808", refused},
-            {L"18446744073709551616", refused}, // 0 in 64 bits
+            {L"18446744073709551616", refused}, // 2^64
             {L"-1", -1},
             {L"-0", 0},
             {L" -007 ", -7},

@@ -1,4 +1,4 @@
-// Strings, booleans, types that convert nothing, and what a refused value is told.
+// Strings, booleans and types without a conversion; the message of a value that does not convert.
 #include <string>
 
 #include "Conversion.h"
@@ -9,7 +9,7 @@ namespace
 using namespace kexa_3_3;
 using namespace toolbox;
 
-TEST(ConversionOfOtherTypes, StringTakesAnyTextAsItStands)
+TEST(ConversionOfOtherTypes, StringTakesAnyTextUnchanged)
 {
     for (const std::wstring& text :
          {std::wstring(L"abc"), std::wstring(L" "), std::wstring(L"  a b  "), std::wstring(L"=x="),
@@ -51,7 +51,7 @@ TEST(ConversionOfOtherTypes, BooleanRefusesAnyOtherText)
     }
 }
 
-TEST(ConversionOfOtherTypes, TypesOutsideTheSevenConvertNothing)
+TEST(ConversionOfOtherTypes, OtherTypeNumbersConvertNothing)
 {
     for (const std::int32_t type : {-1, 1, 5, 10, 12, 14, 15, 16, 17, 18, 99})
     {

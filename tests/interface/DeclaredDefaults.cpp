@@ -1,4 +1,4 @@
-// Default values as declared: the last one counts, and values live as long as they are needed.
+// Declared defaults: the last one counts. Declared values live as long as parser or result.
 #include <functional>
 #include <string>
 #include <vector>
@@ -64,7 +64,7 @@ TEST(DeclaredValues, ReleasedParserReleasesEveryValue)
     EXPECT_EQ(destroyed, 5);
 }
 
-// Notes its name when it is destroyed.
+// Adds its name to a list when it is destroyed.
 class NamedObject : public vexkit2::polymorphic_t
 {
 public:

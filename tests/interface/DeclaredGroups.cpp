@@ -1,4 +1,4 @@
-// Groups: the first declaration of a group gives its text.
+// Groups of options and their texts.
 #include <string>
 
 #include "Host.h"

@@ -1,4 +1,4 @@
-// Keywords as they show from outside: in related and full help, and in what an action accepts.
+// The effect of keywords on related help, full help and the options that an action accepts.
 #include <string>
 
 #include "Host.h"
@@ -11,8 +11,8 @@ using namespace toolbox;
 
 constexpr const wchar_t* refusal = L"Action '-run' doesn't accept option '-option'";
 
-// A parser with the action "run", which has the keyword "k" besides its name, and an option
-// "option" with the given keywords.
+// A parser with the action "run", whose keywords are "run" and "k", and an option "option" with the
+// given keywords.
 class KeywordHost : public Host
 {
 public:

@@ -1,4 +1,4 @@
-// The names text of a declaration: splitting, counting, names that are taken, names added later.
+// Names of a declaration: how they are split, counted and refused, and names added later.
 #include <string>
 #include <vector>
 
@@ -31,7 +31,7 @@ TEST(DeclaredNames, EveryNameOfTheTextFindsTheOption)
     EXPECT_EQ(host.texts(L"o"), all);
 }
 
-TEST(DeclaredNames, CountRule)
+TEST(DeclaredNames, AtMostThreeNamesTheThirdOfAtMostTwoCharacters)
 {
     const struct
     {
@@ -251,7 +251,7 @@ TEST(AddedNames, NameAddedBetweenParsesIsRecognisedFromThenOn)
     EXPECT_EQ(host.texts(L"output"), (std::vector<std::wstring>{L"2", L"3"}));
 }
 
-TEST(Builder, EveryOperationAnswersTheOptionItself)
+TEST(Builder, EveryOperationReturnsTheOption)
 {
     Host host;
     IOption& option = host.addOption(L"option");

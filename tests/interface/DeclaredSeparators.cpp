@@ -1,4 +1,4 @@
-// The character at which one argument is cut into several values.
+// The character that separates several values in one argument.
 #include <string>
 #include <vector>
 
@@ -20,7 +20,7 @@ Texts parsed(Host& host, const wchar_t* argument)
     return host.texts(L"list");
 }
 
-TEST(DeclaredSeparators, NewOptionIsCutAtCommas)
+TEST(DeclaredSeparators, NewOptionIsSplitAtCommas)
 {
     Host host;
     host.addOption(L"list");
@@ -51,7 +51,7 @@ TEST(DeclaredSeparators, SetSeparatorReplacesTheComma)
     EXPECT_EQ(parsed(host, L"--list=a  b c"), (Texts{L"a", L"b", L"c"}));
 }
 
-TEST(DeclaredSeparators, ZeroMeansNotCut)
+TEST(DeclaredSeparators, ZeroMeansNoSeparator)
 {
     Host host;
     host.addOption(L"list").setSeparator(0);

@@ -1,4 +1,4 @@
-// Deprecated values: accepted, replaced, and warned about on standard error.
+// Deprecated values: each is replaced, with a warning on standard error.
 #include <string>
 #include <vector>
 
@@ -131,7 +131,7 @@ TEST(DeprecatedValues, AllowedValueThatIsAlsoDeprecatedIsReplaced)
     EXPECT_EQ(outcomeOf(host, L"--mode=quick"), (Outcome{{L"fast"}, fast_warning}));
 }
 
-TEST(DeprecatedValues, EveryPieceOfAListIsWarnedAbout)
+TEST(DeprecatedValues, EveryDeprecatedPieceOfAListIsWarnedAbout)
 {
     Host host;
     addMode(host)

@@ -1,4 +1,4 @@
-// Who is told of what happens in a parse, in which order, and what the answers do.
+// Registration of event handlers, and the order and the effect of their calls.
 #include <algorithm>
 
 #include "Host.h"
@@ -9,8 +9,8 @@ using namespace toolbox;
 namespace
 {
 
-// Three handlers in one array, so that their addresses ascend; they are registered in another
-// order, so that only the addresses can explain the order of the events.
+// Three handlers in an array have ascending addresses. They are registered in another order, to
+// show that events are sent by address.
 class EventForwarding : public testing::Test
 {
 protected:
@@ -38,7 +38,7 @@ public:
 
 } // namespace
 
-TEST(EventHandlerDefaults, AnswerTrueToEverything)
+TEST(EventHandlerDefaults, ReturnTrueForEveryEvent)
 {
     SilentHandler handler;
     const ValueRecord record{L"name", vexkit2::variant_t(), 0};
@@ -66,7 +66,7 @@ TEST(HandlerRegistration, ANewHandlerIsAccepted)
     EXPECT_TRUE(host.parser().addEventHandler(&handler));
 }
 
-TEST(HandlerRegistration, ASecondTimeIsRefusedAndEveryEventComesOnce)
+TEST(HandlerRegistration, ASecondRegistrationIsRefusedAndEveryEventComesOnce)
 {
     Events events;
     RecordingHandler handler(events);
@@ -98,7 +98,7 @@ TEST(HandlerRegistration, RemovingAnUnknownHandlerChangesNothing)
     EXPECT_EQ(events, (Events{L"unknown x"}));
 }
 
-TEST(HandlerRegistration, ARemovedHandlerHearsNothing)
+TEST(HandlerRegistration, ARemovedHandlerGetsNoEvents)
 {
     Events events;
     RecordingHandler handler(events);
@@ -111,7 +111,7 @@ TEST(HandlerRegistration, ARemovedHandlerHearsNothing)
     EXPECT_FALSE(host.parser().removeEventHandler(&handler));
 }
 
-TEST(HandlerRegistration, ARemovedHandlerMayComeBack)
+TEST(HandlerRegistration, ARemovedHandlerMayBeRegisteredAgain)
 {
     Events events;
     RecordingHandler handler(events);
@@ -123,7 +123,7 @@ TEST(HandlerRegistration, ARemovedHandlerMayComeBack)
     EXPECT_EQ(events, (Events{L"unknown x"}));
 }
 
-TEST(HandlerRegistration, OneHandlerMayServeTwoParsers)
+TEST(HandlerRegistration, OneHandlerMayBeRegisteredWithTwoParsers)
 {
     Events events;
     RecordingHandler handler(events);
@@ -148,7 +148,7 @@ TEST(HandlerRegistration, AParserMayHandleTheEventsOfAnother)
     EXPECT_EQ(events, (Events{L"unknown x"}));
 }
 
-TEST(EventForwardingWithoutHandlers, AnswersTrue)
+TEST(EventForwardingWithoutHandlers, ReturnsTrue)
 {
     Host host;
     const ValueRecord record{L"name", vexkit2::variant_t(), 0};
@@ -175,7 +175,7 @@ TEST_F(EventForwarding, UnknownArgumentsGoToHandlersByAscendingAddress)
     EXPECT_EQ(events, (Events{L"1: unknown x", L"2: unknown x", L"3: unknown x"}));
 }
 
-TEST_F(EventForwarding, AnswersToAnOptionAreIgnored)
+TEST_F(EventForwarding, ResultsOfTheOptionEventAreIgnored)
 {
     handlers[0].answerOption = [](const wchar_t*)
     {
@@ -185,7 +185,7 @@ TEST_F(EventForwarding, AnswersToAnOptionAreIgnored)
     EXPECT_EQ(events, (Events{L"1: option name", L"2: option name", L"3: option name"}));
 }
 
-TEST_F(EventForwarding, ARefusedValueIsNotOfferedToHigherAddresses)
+TEST_F(EventForwarding, ARefusedValueIsNotSentToHigherAddresses)
 {
     handlers[1].answerValue = [](const wchar_t*, const ValueRecord&)
     {
@@ -205,7 +205,7 @@ TEST_F(EventForwarding, TheLastHandlerMayRefuseAValueToo)
     EXPECT_EQ(events.size(), 3U);
 }
 
-TEST_F(EventForwarding, EveryHandlerIsAskedForAnUnknownArgument)
+TEST_F(EventForwarding, EveryHandlerGetsAnUnknownArgument)
 {
     for (std::size_t taker = 0; taker < 3; ++taker)
     {
@@ -221,7 +221,7 @@ TEST_F(EventForwarding, EveryHandlerIsAskedForAnUnknownArgument)
     }
 }
 
-TEST_F(EventForwarding, TheValueRecordIsHandedOnAsItIs)
+TEST_F(EventForwarding, TheValueRecordIsPassedOnUnchanged)
 {
     std::vector<const ValueRecord*> seen;
     for (RecordingHandler& handler : handlers)
@@ -236,7 +236,7 @@ TEST_F(EventForwarding, TheValueRecordIsHandedOnAsItIs)
     EXPECT_EQ(seen, (std::vector<const ValueRecord*>{&record, &record, &record}));
 }
 
-TEST_F(EventForwarding, TextsOutliveTheCallers)
+TEST_F(EventForwarding, TextsOutliveTheArgumentsOfTheCaller)
 {
     std::vector<const wchar_t*> texts;
     const auto keep = [&texts](const wchar_t* text)

@@ -1,4 +1,4 @@
-// The help of a larger declaration, against whole texts kept in files.
+// The help of a larger program, compared with whole texts in files.
 #include <string>
 
 #include "Host.h"
@@ -87,7 +87,7 @@ protected:
 
     IParser& parser() { return *m_parser; }
 
-    // Compares with tests/golden/help/NAME. The files end lines as the checkout does.
+    // Compares a text with tests/golden/help/NAME, whatever line ends the checkout gave the file.
     static void expectFile(const char* name, const wchar_t* text)
     {
         std::string expected = readFile(std::filesystem::path(KEXA_GOLDEN_FOLDER) / "help" / name);

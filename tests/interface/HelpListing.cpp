@@ -1,4 +1,4 @@
-// Which options each help text lists, in what order, under which groups.
+// Options that each help text lists, their order and their groups.
 #include <string>
 
 #include "Host.h"
@@ -52,7 +52,7 @@ TEST(HelpListing, MarkedOptionsAreLeftOut)
     EXPECT_STREQ(parser->showTopicHelp(L"marked", false), L"group\n\n");
 }
 
-TEST(HelpListing, PositionalKeywordDoesNotHideFromATopic)
+TEST(HelpListing, OptionWithThePositionalKeywordIsListedUnderATopic)
 {
     Host host;
     host.parser()

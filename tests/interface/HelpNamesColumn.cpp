@@ -69,7 +69,7 @@ TEST(HelpNamesColumn, BooleanDefaultFollowsItsForm)
     };
     for (const auto& row : rows)
     {
-        // Thirty characters and more stand on a line of their own; there is no text behind it.
+        // A column of thirty characters or more is a line of its own. The description is empty.
         EXPECT_EQ(columnOf(L"v,verbose", value_type_boolean, with(row.value)),
                   row.expected ? on : off)
             << row.value.kind();

@@ -1,4 +1,4 @@
-// The list of topics, and what is said about a topic that is not there.
+// The list of topics, and the message for a topic that does not exist.
 #include <string>
 
 #include "Host.h"
@@ -76,7 +76,7 @@ TEST(TopicList, HiddenTopicsAreListedOnRequestOnly)
     EXPECT_STREQ(parser->getTopicList(true), L"    secret-one   second\n");
 }
 
-TEST(TopicList, GroupNameHidesInFullOnly)
+TEST(TopicList, GroupIsHiddenByItsFullNameOnly)
 {
     const ParserOwner parser = toolbox::createParser();
     parser->addSwitch(L"a", L"first", value_type_boolean, L"kexa_hidden2");
@@ -86,7 +86,7 @@ TEST(TopicList, GroupNameHidesInFullOnly)
     EXPECT_STREQ(parser->getTopicList(true), L"");
 }
 
-TEST(TopicNotAvailable, NameIsToldWithTheListOfTopics)
+TEST(TopicNotAvailable, MessageHoldsTheNameAndTheListOfTopics)
 {
     const ParserOwner parser = toolbox::createParser();
     parser->addSwitch(L"list", L"Lists.", value_type_boolean, L"");
@@ -131,7 +131,7 @@ TEST(TopicNotAvailable, NamesAreLookedUpInFullAndByCase)
     }
 }
 
-TEST(NullTopic, GivesTheTopicList)
+TEST(NullTopic, ReturnsTheTopicList)
 {
     const ParserOwner parser = toolbox::createParser();
     parser->addSwitch(L"list", L"Lists.", value_type_boolean, L"");

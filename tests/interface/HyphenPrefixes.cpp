@@ -1,4 +1,4 @@
-// The hyphen characters in front of an option name: which, how many, in what mix.
+// The hyphens before an option name: which characters, and how many.
 #include <string>
 #include <vector>
 
@@ -15,12 +15,12 @@ using Texts = std::vector<std::wstring>;
 // Hyphen-minus, figure dash, en dash, em dash, horizontal bar, swung dash.
 const Texts hyphens = {L"-", L"\u2012", L"\u2013", L"\u2014", L"\u2015", L"\u2053"};
 
-// Characters that look alike and are none: hyphen, non-breaking hyphen, minus sign, small and
+// Similar characters that begin no option: hyphen, non-breaking hyphen, minus sign, small and
 // fullwidth hyphen-minus, soft hyphen, two-em dash, hyphen bullet, overline, low line, tilde.
 const Texts look_alikes = {L"\u2010", L"\u2011", L"\u2212", L"\uFE63", L"\uFF0D", L"\u00AD",
                            L"\u2E3A", L"\u2043", L"\u203E", L"_",      L"~",      L"/"};
 
-// What a parser that reports unknown arguments makes of one argument: the values of "name", or the
+// Parses one argument, with unknown ones reported as errors. Returns the values of "name" or the
 // message.
 Texts outcomeOf(const std::wstring& argument)
 {
@@ -49,7 +49,7 @@ TEST(HyphenPrefixes, TwoOfTheSixInAnyMixAreOne)
     }
 }
 
-TEST(HyphenPrefixes, ThreeAreTooMany)
+TEST(HyphenPrefixes, ThreeMakeNoOption)
 {
     for (const std::wstring& hyphen : hyphens)
     {
@@ -91,7 +91,7 @@ TEST(HyphenPrefixes, LoneHyphenIsNoOption)
 
 TEST(HyphenPrefixes, HyphensAloneAreAnUnknownOption)
 {
-    // An empty name is a prefix of every name: the argument is claimed, then refused.
+    // An empty name is a prefix of every name: the argument is taken for an option, then refused.
     EXPECT_EQ(outcomeOf(L"-\u2014"), Texts{L"Unknown option '-\u2014'"});
     EXPECT_EQ(outcomeOf(L"\u2014\u2014"), Texts{L"Unknown option '\u2014\u2014'"});
     EXPECT_EQ(outcomeOf(L"\u2053-"), Texts{L"Unknown option '\u2053-'"});
@@ -114,7 +114,7 @@ TEST(HyphenPrefixes, EmptyNameOfASingleOptionIsUnknownToo)
     EXPECT_EQ(host.message(), L"Unknown option '--=5'");
 }
 
-TEST(HyphenPrefixes, EmptyNameWithoutAnyOptionIsLeftToTheParser)
+TEST(HyphenPrefixes, EmptyNameWithoutAnyOptionIsAnUnknownArgument)
 {
     Host host(flag_unknown_is_error);
     EXPECT_EQ(host.parse({L"--=5"}), 2);

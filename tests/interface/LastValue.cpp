@@ -1,4 +1,4 @@
-// getLastValue, and reading through Value.
+// getLastValue and Value::as.
 #include <string>
 #include <vector>
 
@@ -28,7 +28,7 @@ void expectFound(const Value& value, const wchar_t* text, std::int32_t position)
     EXPECT_EQ(value.position, position);
 }
 
-TEST(LastValue, NewValueIsTheNotFoundOne)
+TEST(LastValue, NewValueIsNotFound)
 {
     expectNotFound(Value());
 }
@@ -79,8 +79,8 @@ TEST(LastValue, LastOfAListIsGiven)
     EXPECT_EQ(value.as<double>(), 3.0);
 }
 
-// The first occurrence must lie below the end, but the next-value query, which is asked then, looks
-// at the values alone and includes the end.
+// getFirstValue needs an occurrence below the end of the range. getNextValue, called after it,
+// accepts values up to and at the end.
 TEST(LastValue, ValueAtTheEndOfTheRangeCounts)
 {
     Host host;
@@ -179,7 +179,7 @@ TEST(LastValue, AsReadsTheVariantForOtherTypes)
     }
 }
 
-TEST(LastValue, AsTextGivesTheDataOfAFoundValueOnly)
+TEST(LastValue, AsTextIsNullUnlessAValueWasFound)
 {
     Value value;
     value.data = L"text";

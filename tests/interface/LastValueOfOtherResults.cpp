@@ -1,4 +1,4 @@
-// getLastValue over results that a host wrote itself.
+// getLastValue with a host's own implementation of IParseResult.
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -22,14 +22,14 @@ void expectNothing(const Value& value)
     EXPECT_EQ(value.as<const wchar_t*>(), nullptr);
 }
 
-// A host's own result that answers from a list of codes and notes how it was asked.
+// Returns the codes of a list, one for each query, and records the queries.
 class ScriptedResult : public IParseResult
 {
 public:
     explicit ScriptedResult(std::vector<result_t> codes) : m_codes(std::move(codes)) {}
 
     std::vector<std::wstring> calls;
-    bool setsStatus = true; // whether the record tells the code too
+    bool setsStatus = true; // whether a query also writes its code to the Value
 
     void release() override {}
     std::int32_t isPresent(const wchar_t*, std::int32_t, std::int32_t) override { return 0; }
@@ -73,7 +73,7 @@ private:
     std::vector<result_t> m_codes;
 };
 
-TEST(LastValueOfAHostsResult, AsksOnceForTheFirstValueThenForTheNextUntilThereIsNone)
+TEST(LastValueOfAHostsResult, FirstValueIsQueriedOnceThenTheNextUntilThereIsNone)
 {
     ScriptedResult result({result_success, result_success, result_success, result_nothing});
     const Value value = getLastValue(&result, L"name", -7, 2147483647);
@@ -96,7 +96,7 @@ TEST(LastValueOfAHostsResult, ValueThatOnlyTheNextQueryFindsCounts)
               (std::vector<std::wstring>{L"first name 3 4", L"next name", L"next name"}));
 }
 
-TEST(LastValueOfAHostsResult, IsNotAskedForANullName)
+TEST(LastValueOfAHostsResult, NullNameIsNotQueried)
 {
     ScriptedResult result({result_success});
     const Value value = getLastValue(&result, nullptr, 0, no_position);
@@ -105,7 +105,7 @@ TEST(LastValueOfAHostsResult, IsNotAskedForANullName)
     EXPECT_EQ(result.calls, std::vector<std::wstring>());
 }
 
-TEST(LastValueOfAHostsResult, NothingAnywhereIsNotFound)
+TEST(LastValueOfAHostsResult, ResultWithoutAValueIsNotFound)
 {
     ScriptedResult result({result_nothing, result_nothing});
     const Value value = getLastValue(&result, L"name", 0, 0);
@@ -114,7 +114,7 @@ TEST(LastValueOfAHostsResult, NothingAnywhereIsNotFound)
     EXPECT_EQ(result.calls, (std::vector<std::wstring>{L"first name 0 0", L"next name"}));
 }
 
-TEST(LastValueOfAHostsResult, FailedQueryTellsItsCodeUnlessAValueWasFound)
+TEST(LastValueOfAHostsResult, CodeOfAFailedQueryIsReturnedUnlessAValueWasFound)
 {
     const struct
     {
@@ -142,7 +142,7 @@ TEST(LastValueOfAHostsResult, FailedQueryTellsItsCodeUnlessAValueWasFound)
     }
 }
 
-TEST(LastValueOfAHostsResult, AnswerOfTheQueryDecidesNotWhatTheRecordSays)
+TEST(LastValueOfAHostsResult, CodeOfTheQueryCountsNotTheStatusInTheValue)
 {
     ScriptedResult result({result_success, result_success, result_nothing});
     result.setsStatus = false;
@@ -152,7 +152,7 @@ TEST(LastValueOfAHostsResult, AnswerOfTheQueryDecidesNotWhatTheRecordSays)
     EXPECT_EQ(value.position, 1);
 }
 
-// A host's own result that throws at the given query.
+// Throws at the query with the given number, counted from 0.
 class ThrowingResult : public ScriptedResult
 {
 public:
@@ -192,7 +192,7 @@ private:
     bool m_standard;
 };
 
-TEST(LastValueOfAHostsResult, ExceptionOfAHostsOwnResultDoesNotLeave)
+TEST(LastValueOfAHostsResult, ExceptionOfAHostsOwnResultIsCaught)
 {
     for (const std::size_t failingCall : {0U, 1U, 2U})
     {
@@ -202,6 +202,8 @@ TEST(LastValueOfAHostsResult, ExceptionOfAHostsOwnResultDoesNotLeave)
             Value value;
             EXPECT_NO_THROW(value = getLastValue(&result, L"name", 0, no_position));
             SCOPED_TRACE(std::to_string(failingCall) + (standard ? ", standard" : ", other"));
+            EXPECT_EQ(value.status,
+                      standard ? result_standard_exception : result_unknown_exception);
             expectNothing(value);
         }
     }

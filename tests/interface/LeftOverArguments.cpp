@@ -1,4 +1,4 @@
-// What becomes of the arguments behind the end marker "--".
+// The arguments after the end marker "--".
 #include "Host.h"
 
 using namespace kexa_3_3;
@@ -43,19 +43,19 @@ TEST(LeftOverArguments, WithoutAPositionalOptionAllAreKeptInOrder)
     }
 }
 
-TEST(LeftOverArguments, APositionalOptionTakesThemAsTheFlagsTell)
+TEST(LeftOverArguments, FlagsSelectWhichOnesArePositional)
 {
     const LeftOverCase rows[] = {
         // Flags 0: everything is positional, a second marker included.
         {0, {L"--", L"x", L"-y", L"--", L"--name=a"}, {L"x", L"-y", L"--", L"--name=a"}, {}},
-        // Flag 4 alone has nothing to undo.
+        // Flag 4 alone has no effect: it cancels flag 8.
         {4, {L"--", L"x", L"-y", L"--"}, {L"x", L"-y", L"--"}, {}},
-        // Flag 8: what begins with a hyphen is not positional, and is kept.
+        // Flag 8: arguments that begin with a hyphen are not positional; they are left over.
         {8, {L"--", L"x", L"-y", L"z", L"--", L"-"}, {L"x", L"z"}, {L"-y", L"--", L"-"}},
         {8, {L"--", L"\u2014y"}, {L"\u2014y"}, {}},
-        // Flags 4 and 8: behind the marker, flag 8 does not count.
+        // Flags 4 and 8: flag 8 has no effect after the marker.
         {4 | 8, {L"--", L"x", L"-y", L"--"}, {L"x", L"-y", L"--"}, {}},
-        // Flag 16: the first positional argument takes the rest, whatever it begins with.
+        // Flag 16: after the first positional argument all others are positional.
         {16, {L"--", L"x", L"-y", L"--", L"--name=a"}, {L"x", L"-y", L"--", L"--name=a"}, {}},
         {8 | 16, {L"--", L"-x", L"y", L"-z", L"--"}, {L"y", L"-z", L"--"}, {L"-x"}},
         {8 | 16, {L"--", L"-x", L"--"}, {}, {L"-x", L"--"}},
@@ -63,14 +63,14 @@ TEST(LeftOverArguments, APositionalOptionTakesThemAsTheFlagsTell)
         {4 | 16, {L"--", L"-x", L"y"}, {L"-x", L"y"}, {}},
         {2, {L"--", L"x", L"-y"}, {L"x", L"-y"}, {}},
         {2 | 8, {L"--", L"x", L"-y"}, {L"x"}, {L"-y"}},
-        // Before the marker flag 16 has no regard for the marker.
+        // Flag 16 before the marker: the marker is a positional argument as well.
         {16, {L"x", L"--", L"-y"}, {L"x", L"--", L"-y"}, {}},
         {8 | 16, {L"x", L"--", L"-y"}, {L"x", L"--", L"-y"}, {}},
         {0, {L"x", L"--", L"-y"}, {L"x", L"-y"}, {}},
         {8, {L"x", L"--", L"-y"}, {L"x"}, {L"-y"}},
-        // Flag 4 changes nothing before the marker: "-x" is unknown there, and dropped.
+        // Flag 4 has no effect before the marker: "-x" is unknown and dropped.
         {4 | 8, {L"-x", L"--", L"-y"}, {L"-y"}, {}},
-        // One marker is dropped, and no more.
+        // Only the first marker is dropped.
         {0, {L"--", L"--", L"x"}, {L"--", L"x"}, {}},
         {8, {L"--", L"--", L"x"}, {L"x"}, {L"--"}},
         {0, {L"--"}, {}, {}},
@@ -136,7 +136,7 @@ TEST(LeftOverArguments, ARefusedOneEndsTheParseWithOne)
     EXPECT_EQ(host.texts(L"path"), (Texts{L"x"}));
 }
 
-TEST(LeftOverArguments, AWrongOneEndsTheParseWithItsMessage)
+TEST(LeftOverArguments, AnInvalidOneEndsTheParseWithItsMessage)
 {
     for (const int flags : {0, 16})
     {
@@ -161,7 +161,7 @@ TEST(LeftOverArguments, AnEmptyOneIsAnOccurrenceWithoutAValue)
     EXPECT_TRUE(host.unparsed().empty());
 }
 
-TEST(LeftOverArguments, AListIsCutForThemToo)
+TEST(LeftOverArguments, ListsAreSplitInThemToo)
 {
     Host host;
     host.addPositional(L"path");

@@ -1,4 +1,4 @@
-// Finding an option by its full name or by a prefix that only one name has.
+// Options found by a full name or by a prefix of only one name.
 #include <string>
 #include <vector>
 
@@ -19,7 +19,7 @@ std::wstring ambiguous(const std::wstring& name, const std::wstring& argument,
            candidates;
 }
 
-// The message of one argument, "OK" where it is taken.
+// Parses one argument and returns the error message, or "OK".
 std::wstring outcomeOf(Host& host, const std::wstring& argument)
 {
     host.renewResult();
@@ -166,7 +166,7 @@ TEST(OptionAbbreviations, NamesMayHoldAnyCharacters)
     EXPECT_EQ(host.parse({L"--\u00E9=1", L"--\U0001F600=2"}), 0);
     EXPECT_EQ(host.texts(L"\u00E9t\u00E9"), Texts{L"1"});
     EXPECT_EQ(host.texts(L"\U0001F600\U0001F601"), Texts{L"2"});
-    // A blank or an equals sign ends what is typed, so such a name is found by a prefix only.
+    // A blank or an equals sign ends the typed name: only a prefix finds a name that contains one.
     EXPECT_EQ(host.parse({L"--name with/odd:characters"}), 0);
     EXPECT_EQ(host.texts(L"name with/odd:characters"), Texts{L"with/odd:characters"});
 }

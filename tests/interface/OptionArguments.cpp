@@ -1,4 +1,4 @@
-// Where an option's value comes from: behind "=", behind white space, or the next argument.
+// The value of an option: after "=", after white space, or in the next argument.
 #include <locale>
 #include <stdexcept>
 #include <string>
@@ -14,7 +14,7 @@ using namespace toolbox;
 
 using Texts = std::vector<std::wstring>;
 
-// The values of "name" for the given arguments, or the message.
+// Parses the arguments and returns the values of "name" or the message.
 Texts outcomeOf(std::initializer_list<const wchar_t*> arguments)
 {
     Host host(flag_unknown_is_error);
@@ -57,7 +57,7 @@ TEST(ValueInTheArgument, NothingBehindTheEndOfTheNameIsNoValue)
               Texts{L"Option 'name' requires a value in argument: '--name  '"});
 }
 
-// Takes "_" for white space besides what is.
+// A locale facet in which "_" is white space as well.
 class UnderlineIsSpace : public std::ctype<wchar_t>
 {
 protected:
@@ -68,7 +68,7 @@ protected:
     }
 };
 
-TEST(ValueInTheArgument, WhiteSpaceIsWhatTheGlobalLocaleSays)
+TEST(ValueInTheArgument, WhiteSpaceIsDefinedByTheGlobalLocale)
 {
     const std::locale before =
         std::locale::global(std::locale(std::locale::classic(), new UnderlineIsSpace));
@@ -78,7 +78,7 @@ TEST(ValueInTheArgument, WhiteSpaceIsWhatTheGlobalLocaleSays)
     EXPECT_EQ(outcomeOf({L"--name_v"}), Texts{L"Unknown option: --name_v"});
 }
 
-// Refuses to say what "_" is.
+// A locale facet that throws when it classifies "_".
 class UnderlineIsUnclear : public std::ctype<wchar_t>
 {
 protected:
@@ -106,7 +106,7 @@ TEST(ValueInTheArgument, ExceptionOfTheGlobalLocaleIsReported)
     }
 }
 
-TEST(ValueInTheNextArgument, NextArgumentIsTheValueAsItStands)
+TEST(ValueInTheNextArgument, NextArgumentIsTheValueUnchanged)
 {
     EXPECT_EQ(outcomeOf({L"--name", L"v"}), Texts{L"v"});
     EXPECT_EQ(outcomeOf({L"-n", L" a b=c "}), Texts{L" a b=c "});
@@ -131,7 +131,7 @@ TEST(ValueInTheNextArgument, TypographicHyphensMayBeginAValue)
     }
 }
 
-TEST(ValueInTheNextArgument, HyphenMinusMayNot)
+TEST(ValueInTheNextArgument, HyphenMinusBeginsNoValue)
 {
     for (const wchar_t* value : {L"-5", L"-", L"--", L"--other=1", L"-v", L"-\u2014"})
     {
@@ -143,7 +143,7 @@ TEST(ValueInTheNextArgument, HyphenMinusMayNot)
     }
 }
 
-TEST(ValueInTheNextArgument, LastArgumentHasNone)
+TEST(ValueInTheNextArgument, LastArgumentHasNoValueBehindIt)
 {
     EXPECT_EQ(outcomeOf({L"--name"}),
               Texts{L"Option 'name' requires a value in argument: '--name'"});
@@ -151,7 +151,7 @@ TEST(ValueInTheNextArgument, LastArgumentHasNone)
               Texts{L"Option 'name' requires a value in argument: '\u2014n'"});
 }
 
-TEST(ValueInTheNextArgument, EmptyNextArgumentIsNone)
+TEST(ValueInTheNextArgument, EmptyNextArgumentIsNoValue)
 {
     EXPECT_EQ(outcomeOf({L"--name", L"", L"v"}),
               Texts{L"Option 'name' requires a value in argument: '--name'"});
@@ -159,7 +159,7 @@ TEST(ValueInTheNextArgument, EmptyNextArgumentIsNone)
               Texts{L"Option 'name' requires a value in argument: '--name='"});
 }
 
-TEST(ValueInTheNextArgument, EveryTypeThatTakesAValueLooksThere)
+TEST(ValueInTheNextArgument, EveryTypeThatTakesAValueTakesItFromThere)
 {
     for (const std::int32_t type : {6, 7, 8, 9, 11, 13})
     {
@@ -175,7 +175,7 @@ TEST(ValueInTheNextArgument, EveryTypeThatTakesAValueLooksThere)
     EXPECT_EQ(host.texts(L"name"), Texts{L"5"});
 }
 
-TEST(RefusedArgument, LeavesWhatStandsBehindItUnparsed)
+TEST(RefusedArgument, EndsTheParseBeforeTheNextArgument)
 {
     const struct
     {

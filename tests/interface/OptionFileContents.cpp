@@ -1,4 +1,4 @@
-// What is read from an option file: its lines, its encoding, and where it ends.
+// The contents of an option file: lines, encoding and end.
 #include "Host.h"
 
 using namespace kexa_3_3;
@@ -29,7 +29,7 @@ std::string showBytes(const std::string& bytes)
     return shown;
 }
 
-// A host that shows the arguments of a file: its positional option takes each as one value.
+// Returns the arguments of a file: a positional option takes each as one value.
 class OptionFileContents : public testing::Test
 {
 protected:
@@ -78,7 +78,7 @@ TEST_F(OptionFileContents, OneArgumentInEachLine)
     }
 }
 
-TEST_F(OptionFileContents, CommentsGiveNothing)
+TEST_F(OptionFileContents, CommentsAreSkipped)
 {
     const ContentCase rows[] = {
         {"; only a comment", {}},
@@ -140,10 +140,10 @@ TEST_F(OptionFileContents, SpacesOutsideAsciiBelongToTheArgument)
 TEST_F(OptionFileContents, EachMaximalIllFormedPartBecomesOneReplacementCharacter)
 {
     const ContentCase rows[] = {
-        // A byte that begins nothing, alone and several times.
+        // Bytes that begin no sequence, one and several.
         {"a\x80z", {L"a\uFFFDz"}},
         {"\xFF\xFE", {L"\uFFFD\uFFFD"}},
-        // A sequence cut short, by the end of the file, of the line, or by another character.
+        // A sequence cut short by the end of the file, the end of the line or another character.
         {"\xC3", {L"\uFFFD"}},
         {"\xE2\x82", {L"\uFFFD"}},
         {"\xF0\x9F\x98", {L"\uFFFD"}},
@@ -151,8 +151,8 @@ TEST_F(OptionFileContents, EachMaximalIllFormedPartBecomesOneReplacementCharacte
         {"\xE2\x82z", {L"\uFFFDz"}},
         {"\xE2\xE2\x82\xAC", {L"\uFFFD\u20AC"}},
         {"\xF0\x9F\x98\xF0\x9F\x98\x80", {L"\uFFFD\U0001F600"}},
-        // Overlong forms, surrogates and values beyond Unicode: their first byte pair is already
-        // impossible, so every byte stands for itself.
+        // Overlong forms, surrogates and values above U+10FFFF: already the first two bytes are
+        // ill-formed, so each byte becomes a replacement character.
         {"\xC0\xAF", {L"\uFFFD\uFFFD"}},
         {"\xC1\xBF", {L"\uFFFD\uFFFD"}},
         {"\xE0\x80\x80", {L"\uFFFD\uFFFD\uFFFD"}},

@@ -1,4 +1,4 @@
-// Option files that cannot be read, and option files that are switched off.
+// Errors of option files, and the operation that enables them.
 #include <stdexcept>
 
 #include "Host.h"
@@ -73,7 +73,7 @@ TEST_F(OptionFileFailures, AMissingFileEndsTheWalkOverTheOthers)
     EXPECT_EQ(host.texts(L"name"), (Texts{L"line", L"1"}));
 }
 
-TEST_F(OptionFileFailures, AMissingNestedFileIsTheErrorOfItsOwnName)
+TEST_F(OptionFileFailures, AMissingNestedFileIsReportedUnderItsOwnName)
 {
     const std::wstring missing = folder.name(L"missing");
     const std::wstring outer =
@@ -150,7 +150,7 @@ TEST(OptionFilesSwitch, IsOffInAFreshParser)
     EXPECT_EQ(host.message(), L"Unknown option: --option-file=missing");
 }
 
-TEST(OptionFilesSwitch, OffLeavesAHostsOwnOptionOfThatNameAlone)
+TEST(OptionFilesSwitch, WhileOffAHostsOwnOptionOfThatNameIsAnOrdinaryOne)
 {
     Host host(2);
     host.addOption(L"option-file");
@@ -158,7 +158,7 @@ TEST(OptionFilesSwitch, OffLeavesAHostsOwnOptionOfThatNameAlone)
     EXPECT_EQ(host.texts(L"option-file"), (Texts{L"missing"}));
 }
 
-TEST(OptionFilesSwitch, OnDeclaresTheOption)
+TEST(OptionFilesSwitch, EnablingDeclaresTheOption)
 {
     Host host;
     EXPECT_TRUE(host.parser().enableOptionFiles(L"reads options", L"files:Files"));
@@ -173,7 +173,7 @@ TEST(OptionFilesSwitch, OnDeclaresTheOption)
                  L"\n");
 }
 
-TEST(OptionFilesSwitch, OnASecondTimeAnswersFalseAndStaysOn)
+TEST(OptionFilesSwitch, EnablingTwiceReturnsFalseAndStaysOn)
 {
     Host host(2);
     EXPECT_TRUE(host.parser().enableOptionFiles(L"", L""));
@@ -185,7 +185,7 @@ TEST(OptionFilesSwitch, OnASecondTimeAnswersFalseAndStaysOn)
     EXPECT_EQ(host.message(), L"Error reading option file 'no-such-file': no such file");
 }
 
-TEST(OptionFilesSwitch, OnMakesAHostsOwnOptionOfThatNameNameFiles)
+TEST(OptionFilesSwitch, EnabledLaterAHostsOwnOptionOfThatNameNamesFiles)
 {
     Host host(2);
     host.addOption(L"option-file");
@@ -200,7 +200,7 @@ TEST(OptionFilesSwitch, WithoutAResultNoFileIsNamed)
     EXPECT_EQ(parse(host.parser(), {L"--option-file=no-such-file"}, nullptr), 0);
 }
 
-TEST(OptionFilesSwitch, ADefaultNamesNoFileToRead)
+TEST(OptionFilesSwitch, FileNamedByADefaultIsNotRead)
 {
     Host host(2);
     host.addOption(L"option-file").setDefaultValue(vexkit2::variant_t(L"no-such-file"));

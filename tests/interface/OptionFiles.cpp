@@ -1,4 +1,4 @@
-// Option files: when they are read, in which order, and which of them.
+// Which option files are read, when, and in which order.
 #include "Host.h"
 
 using namespace kexa_3_3;
@@ -19,7 +19,7 @@ protected:
         host.parser().addEventHandler(&handler);
     }
 
-    // Parses with the options given, the last of which names the file.
+    // Parses the arguments and the option that names the file.
     result_t parseFile(const std::wstring& file)
     {
         const std::wstring argument = L"--option-file=" + file;
@@ -106,7 +106,7 @@ TEST_F(OptionFiles, NestedOnesAreReadAfterTheFileThatNamesThem)
     EXPECT_EQ(host.texts(L"option-file"), (Texts{outer, inner}));
 }
 
-TEST_F(OptionFiles, NestedOnesWaitForTheFilesNamedBefore)
+TEST_F(OptionFiles, NestedOnesAreReadAfterTheFilesNamedBefore)
 {
     const std::wstring inner = folder.write(L"inner.txt", "--name=inner");
     const std::wstring first =

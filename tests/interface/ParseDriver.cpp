@@ -1,4 +1,4 @@
-// The walk over an argument vector: what is parsed, what ends it, and where the results go.
+// Parsing an argument vector: order, end marker, first error, and results of other kinds.
 #include "Host.h"
 
 using namespace kexa_3_3;
@@ -27,7 +27,7 @@ protected:
     Host host{2};
 };
 
-// A host's own result: it can be asked, but the library has no way to store into it.
+// A host's own result. The library can query it but not store into it.
 class OwnResult : public IParseResult
 {
 public:
@@ -57,7 +57,7 @@ private:
 
 } // namespace
 
-TEST_F(ParseDriver, FewerThanTwoArgumentsAreNothingToParse)
+TEST_F(ParseDriver, FewerThanTwoArgumentsAreAnEmptyCommandLine)
 {
     const wchar_t* const argv[] = {L"--name=a", L"--name=b"};
     for (const std::int32_t argc : {1, 0, -1, -2147483647 - 1})
@@ -78,7 +78,7 @@ TEST_F(ParseDriver, AnEmptyCommandLinePassesTheActionCheck)
     EXPECT_EQ(host.message(), L"");
 }
 
-TEST_F(ParseDriver, ANullVectorIsNothingToParse)
+TEST_F(ParseDriver, ANullVectorIsAnEmptyCommandLine)
 {
     EXPECT_EQ(parseVector(0, nullptr), 0);
     EXPECT_EQ(parseVector(5, nullptr), 0);
@@ -177,7 +177,7 @@ TEST_F(ParseDriver, TheEndMarkerIsNoValueOfTheOptionBeforeIt)
         L"option. Use '-option=value' declaration form or make sure that value is not missed");
 }
 
-TEST_F(ParseDriver, NothingBehindTheEndMarkerIsFine)
+TEST_F(ParseDriver, TheEndMarkerMayBeTheLastArgument)
 {
     EXPECT_EQ(host.parse({L"--"}), 0);
     EXPECT_TRUE(host.unparsed().empty());
@@ -194,7 +194,7 @@ TEST_F(ParseDriver, OnlyTwoPlainHyphensAreTheEndMarker)
     }
 }
 
-TEST_F(ParseDriver, TheAbbreviationParserBeatsThePositionalParser)
+TEST_F(ParseDriver, TheAbbreviationParserTakesPrecedenceOverThePositionalParser)
 {
     host.addPositional(L"path");
     EXPECT_EQ(host.parse({L"--name=a", L"b"}), 0);
@@ -218,7 +218,7 @@ TEST_F(ParseDriver, AnAmbiguousOptionIsAnErrorEvenWherePositionalArgumentsAreTak
               L"Ambiguous option 'nam' in argument: '--nam=a', could be: 'name', 'names'");
 }
 
-TEST_F(ParseDriver, ANullResultIsParsedIntoNothing)
+TEST_F(ParseDriver, AParseWithoutAResultSendsEventsAndReportsErrors)
 {
     EXPECT_EQ(toolbox::parse(host.parser(), {L"--name=a", L"--", L"x"}, nullptr), 0);
     EXPECT_EQ(events, (Events{L"option name", L"value name 'a'"}));
@@ -229,14 +229,14 @@ TEST_F(ParseDriver, ANullResultIsParsedIntoNothing)
                               L"can not parse 'x' value, requires a type 'integer' here.");
 }
 
-TEST_F(ParseDriver, WithoutAResultThereIsNothingForTheActionCheck)
+TEST_F(ParseDriver, AParseWithoutAResultSkipsTheActionCheck)
 {
     host.addSwitch(L"list");
     host.addSwitch(L"sum");
     EXPECT_EQ(toolbox::parse(host.parser(), {L"--list", L"--sum", L"--name=a"}, nullptr), 0);
 }
 
-TEST_F(ParseDriver, AHostsOwnResultIsLeftAlone)
+TEST_F(ParseDriver, NothingIsStoredIntoAHostsOwnResult)
 {
     OwnResult own;
     EXPECT_EQ(toolbox::parse(host.parser(), {L"--name=a", L"--", L"x"}, &own), 0);

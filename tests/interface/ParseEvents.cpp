@@ -1,4 +1,4 @@
-// The events of a whole parse, and what refusing, taking and throwing do to it.
+// The events of a parse, and handlers that refuse values, take arguments or throw.
 #include <new>
 #include <stdexcept>
 
@@ -150,7 +150,7 @@ TEST_F(ParseEvents, ATakenArgumentIsNoError)
     EXPECT_EQ(host.message(), L"");
 }
 
-TEST_F(ParseEvents, OneTakerAmongSeveralHandlersIsEnough)
+TEST_F(ParseEvents, OneHandlerThatTakesTheArgumentIsEnough)
 {
     Events otherEvents;
     RecordingHandler other(otherEvents);
@@ -164,7 +164,7 @@ TEST_F(ParseEvents, OneTakerAmongSeveralHandlersIsEnough)
     EXPECT_EQ(otherEvents, (Events{L"unknown x"}));
 }
 
-TEST_F(ParseEvents, AnArgumentThatNobodyTakesIsAnError)
+TEST_F(ParseEvents, AnArgumentThatNoHandlerTakesIsAnError)
 {
     EXPECT_EQ(host.parse({L"x", L"y"}), 2);
     EXPECT_EQ(host.message(), L"Unknown option: x");

@@ -1,4 +1,4 @@
-// The parser as an object: how it is made, what its flags word keeps, what it owns.
+// The parser object: creation, flags, ownership, error message.
 #include <limits>
 
 #include "Host.h"
@@ -20,7 +20,7 @@ Host hostWithName(int flags = 0)
 
 } // namespace
 
-TEST(ParserObject, CreateParserAnswersZeroAndStoresTheParser)
+TEST(ParserObject, CreateParserReturnsZeroAndStoresTheParser)
 {
     IParser* parser = nullptr;
     EXPECT_EQ(kexa_3_3::createParser(&parser, 0), 0);
@@ -36,7 +36,7 @@ TEST(ParserObject, EveryCallMakesAnotherParser)
     EXPECT_FALSE(second.parser().hasOption(L"name", false, nullptr));
 }
 
-TEST(ParserObject, WithoutFlagsAListIsCutAtEveryComma)
+TEST(ParserObject, WithoutFlagsAListIsSplitAtEveryComma)
 {
     Host host = hostWithName();
     EXPECT_EQ(host.parse({L"--name=a,b"}), 0);
@@ -91,7 +91,7 @@ TEST(ParserObject, CreateParseResultMakesAnEmptyResult)
     result->release();
 }
 
-TEST(ParserObject, EveryResultIsItsOwn)
+TEST(ParserObject, ResultsOfOneParserAreSeparateObjects)
 {
     Host host = hostWithName();
     const ResultOwner other = toolbox::createResult(host.parser());
@@ -114,7 +114,7 @@ TEST(ParserObject, AResultOutlivesItsParser)
     EXPECT_EQ(readUnparsed(*result), (std::vector<std::wstring>{L"rest"}));
 }
 
-TEST(ParserObject, AHandlerOutlivesTheParserThatKnewIt)
+TEST(ParserObject, AHandlerOutlivesTheParserItIsRegisteredWith)
 {
     Events events;
     RecordingHandler handler(events);

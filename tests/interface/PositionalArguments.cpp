@@ -1,4 +1,4 @@
-// Arguments that no option names, bound to the positional option.
+// Arguments without an option name, and the positional option that takes them.
 #include "Host.h"
 
 using namespace kexa_3_3;
@@ -91,7 +91,7 @@ TEST(PositionalArguments, StandAnywhereAmongTheOptions)
     EXPECT_EQ(host.texts(L"name"), (Texts{L"a", L"b"}));
 }
 
-TEST(PositionalArguments, AreTakenWholeAndUnchanged)
+TEST(PositionalArguments, AreTakenUnchanged)
 {
     for (const wchar_t* argument :
          {L"a=b", L" a b ", L"=", L"\"a\"", L"\U0001F600", L"no-name", L"name", L"a\nb"})
@@ -106,7 +106,7 @@ TEST(PositionalArguments, AreTakenWholeAndUnchanged)
     }
 }
 
-// Flag 8 keeps arguments away that begin with a plain hyphen; the dashes do not count.
+// Flag 8 excludes arguments that begin with a hyphen-minus, not with other dashes.
 TEST(PositionalArguments, Flag8DeclinesALeadingHyphen)
 {
     const PositionalCase rows[] = {
@@ -153,7 +153,7 @@ TEST(PositionalArguments, WithoutFlag16OneIsTakenAtATime)
     EXPECT_EQ(host.texts(L"name"), (Texts{L"a"}));
 }
 
-TEST(PositionalArguments, WithFlag16TheFirstTakesAllBehindIt)
+TEST(PositionalArguments, WithFlag16AllAfterTheFirstArePositional)
 {
     for (const int flags : {2 | 16, 2 | 8 | 16, 2 | 4 | 8 | 16})
     {
@@ -215,7 +215,7 @@ TEST(PositionalArguments, ARefusedOneEndsTheParseWithOne)
     EXPECT_FALSE(host.isPresent(L"path"));
 }
 
-TEST(PositionalArguments, AreCutAtTheSeparatorOfTheOption)
+TEST(PositionalArguments, AreSplitAtTheSeparatorOfTheOption)
 {
     Host host(2);
     host.addPositional(L"path").setSeparator(L':');

@@ -1,5 +1,5 @@
-// What a parse result holds: aliases, defaults, several parses, left-over arguments, and how long
-// its texts live.
+// The contents of a parse result: many options, several parses, left-over arguments, lifetime of
+// texts.
 #include <string>
 #include <vector>
 
@@ -14,32 +14,6 @@ using vexkit2::s32_t;
 using vexkit2::variant_t;
 
 using Texts = std::vector<std::wstring>;
-
-// How often the walk of "mode" gives its default after the query that began it.
-int defaultsAfter(IParseResult& result)
-{
-    int count = 0;
-    Value value;
-    while (result.getNextValue(&value, L"mode") == 0 && count < 10)
-    {
-        EXPECT_STREQ(value.as<const wchar_t*>(), L"fast");
-        EXPECT_EQ(value.position, no_position);
-        ++count;
-    }
-    return count;
-}
-
-class DefaultHost : public Host
-{
-public:
-    DefaultHost() : option(addOption(L"mode,m"))
-    {
-        option.setDefaultValue(variant_t(L"fast"));
-        EXPECT_EQ(parse({}), 0);
-    }
-
-    IOption& option;
-};
 
 TEST(ResultContents, OptionDeclaredAfterManyHasValuesOfItsOwn)
 {
@@ -63,7 +37,7 @@ TEST(ResultContents, OptionDeclaredAfterManyHasValuesOfItsOwn)
     }
 }
 
-// The last one is stored first: what comes then needs the memory behind a table that was too small.
+// The option declared last is stored first, so the table of the result is large from the start.
 TEST(ResultContents, OptionsOfALargeTableAreStoredInAnyOrder)
 {
     constexpr int count = 300;
@@ -91,7 +65,7 @@ TEST(ResultContents, OptionsOfALargeTableAreStoredInAnyOrder)
     }
 }
 
-// As many as no table of a result has room for at first, nor when it has grown once.
+// More names than the table of a result holds at first or after one growth.
 TEST(ResultContents, EachOfManyNamesFindsTheValue)
 {
     constexpr int count = 300;
@@ -110,112 +84,6 @@ TEST(ResultContents, EachOfManyNamesFindsTheValue)
             << number;
     }
     EXPECT_EQ(host.texts(L"other"), Texts{L"another"});
-}
-
-TEST(ResultDefaults, DefaultIsGivenWhateverTheRange)
-{
-    DefaultHost host;
-    for (const std::int32_t from : {-1, 0, 5, 2147483647})
-    {
-        for (const std::int32_t to : {-1, 0, 5, 2147483647})
-        {
-            Value value;
-            EXPECT_EQ(host.result().isPresent(L"mode", from, to), 1) << from << ", " << to;
-            EXPECT_EQ(host.result().getFirstValue(&value, L"m", from, to), 0) << from << ", " << to;
-            EXPECT_EQ(value.status, 0);
-            EXPECT_STREQ(value.as<const wchar_t*>(), L"fast");
-            EXPECT_EQ(value.value.kind(), 13);
-            EXPECT_EQ(value.position, no_position);
-            EXPECT_EQ(host.result().getNextPosition(), no_position);
-        }
-    }
-}
-
-TEST(ResultDefaults, NextValueGivesItOnceMoreForTheHighestBoundsOnly)
-{
-    DefaultHost host;
-    const struct
-    {
-        std::int32_t from;
-        std::int32_t to;
-        int expected;
-    } rows[] = {{0, no_position, 0}, {0, 0, 0}, {no_position, 0, 0}, {no_position, no_position, 1}};
-    for (const auto& row : rows)
-    {
-        host.result().getFirstValue(nullptr, L"mode", row.from, row.to);
-        EXPECT_EQ(defaultsAfter(host.result()), row.expected) << row.from << ", " << row.to;
-    }
-}
-
-TEST(ResultDefaults, PresenceQueryIsFollowedByTheDefaultOnce)
-{
-    DefaultHost host;
-    for (const std::int32_t bound : {0, 5, 2147483647})
-    {
-        EXPECT_EQ(host.result().isPresent(L"mode", bound, bound), 1) << bound;
-        EXPECT_EQ(defaultsAfter(host.result()), 1) << bound;
-    }
-}
-
-TEST(ResultDefaults, OccurrenceHidesTheDefault)
-{
-    DefaultHost host;
-    const std::int32_t base = nextPosition();
-    EXPECT_EQ(host.parse({L"-m=slow"}), 0);
-    EXPECT_EQ(host.values(L"mode"), (std::vector<ReadValue>{{L"slow", 13, base}}));
-    EXPECT_EQ(readValues(host.result(), L"mode", base + 1, no_position), std::vector<ReadValue>());
-    EXPECT_EQ(host.result().isPresent(L"mode", base + 1, no_position), 0);
-}
-
-TEST(ResultDefaults, OccurrenceWithoutAValueHidesTheDefaultToo)
-{
-    Host host;
-    host.addOption(L"flag", value_type_none).setDefaultValue(variant_t(L"default"));
-    EXPECT_EQ(host.parse({}), 0);
-    EXPECT_EQ(host.texts(L"flag"), Texts{L"default"});
-    EXPECT_EQ(host.parse({L"--flag"}), 0);
-    EXPECT_EQ(host.texts(L"flag"), Texts{L""});
-}
-
-TEST(ResultDefaults, DefaultWithoutATextIsNotFound)
-{
-    const std::vector<variant_t> without_text = {variant_t(L""), variant_t(), variant_t(""),
-                                                 variant_t::blob("x", 1)};
-    for (const variant_t& value : without_text)
-    {
-        Host host;
-        host.addOption(L"mode").setDefaultValue(value);
-        EXPECT_EQ(host.parse({}), 0);
-        EXPECT_FALSE(host.isPresent(L"mode")) << value.kind();
-        EXPECT_EQ(host.values(L"mode"), std::vector<ReadValue>()) << value.kind();
-    }
-}
-
-TEST(ResultDefaults, FirstStoredDefaultStays)
-{
-    DefaultHost host;
-    host.option.setDefaultValue(variant_t(L"slow"));
-    EXPECT_EQ(host.parse({}), 0);
-    EXPECT_EQ(host.texts(L"mode"), Texts{L"fast"});
-    host.renewResult();
-    EXPECT_EQ(host.parse({}), 0);
-    EXPECT_EQ(host.texts(L"mode"), Texts{L"slow"});
-}
-
-TEST(ResultDefaults, CommandLineTextHandsNoDefaults)
-{
-    Host host;
-    host.addOption(L"mode").setDefaultValue(variant_t(L"fast"));
-    EXPECT_EQ(host.parseLines(L""), 0);
-    EXPECT_FALSE(host.isPresent(L"mode"));
-}
-
-TEST(ResultDefaults, DefaultIsHandedOverThoughTheParseFails)
-{
-    Host host(flag_unknown_is_error);
-    host.addOption(L"mode").setDefaultValue(variant_t(L"fast"));
-    EXPECT_EQ(host.parse({L"unknown"}), 2);
-    EXPECT_EQ(host.texts(L"mode"), Texts{L"fast"});
 }
 
 TEST(ResultAccumulation, SeveralParsesAppend)
@@ -260,10 +128,11 @@ TEST(ResultUnparsed, LeftOverArgumentsAreWalkedInOrder)
     Host host;
     EXPECT_EQ(host.parse({L"dropped", L"--", L"a", L"-b", L"", L"a", L"--"}), 0);
     EXPECT_EQ(host.unparsed(), (Texts{L"a", L"-b", L"", L"a", L"--"}));
-    EXPECT_EQ(host.unparsed(), (Texts{L"a", L"-b", L"", L"a", L"--"})); // begun again
+    EXPECT_EQ(host.unparsed(),
+              (Texts{L"a", L"-b", L"", L"a", L"--"})); // a new walk starts at the first
 }
 
-TEST(ResultUnparsed, WalkEndsWithOneAndLeavesTheOutAlone)
+TEST(ResultUnparsed, WalkEndsWithOneAndLeavesTheOutputUnchanged)
 {
     Host host;
     EXPECT_EQ(host.parse({L"--", L"a", L"b"}), 0);
@@ -280,7 +149,7 @@ TEST(ResultUnparsed, WalkEndsWithOneAndLeavesTheOutAlone)
     EXPECT_EQ(host.result().getNextUnparsed(nullptr), 1);
 }
 
-TEST(ResultUnparsed, WalkIsApartFromTheValueQueries)
+TEST(ResultUnparsed, WalkIsIndependentOfTheValueQueries)
 {
     Host host;
     host.addOption(L"name");

@@ -1,4 +1,4 @@
-// The entries of a result: one for each name, also where names are added late or shared.
+// Names in a result: added between parses, shared by two options, given twice.
 #include <string>
 #include <vector>
 
@@ -28,7 +28,7 @@ TEST(ResultNames, NameAddedBetweenParsesFindsAllThatIsStored)
     EXPECT_EQ(host.texts(L"alias"), (Texts{L"1", L"2", L"3"}));
 }
 
-TEST(ResultNames, SharedNameBelongsToTheOptionThatIsNewlyStoredAndThenToBoth)
+TEST(ResultNames, SharedNameBelongsToTheOptionFirstStoredLaterAndThenToBoth)
 {
     Host host;
     host.addOption(L"first").addName(L"same");
@@ -53,7 +53,7 @@ TEST(ResultNames, NameListedTwiceIsOneEntry)
     EXPECT_EQ(host.texts(L"name"), (Texts{L"1", L"2"}));
 }
 
-TEST(ResultNames, SeparatorsBetweenNamesAreNoPartOfThem)
+TEST(ResultNames, SeparatorsBetweenNamesAreNotPartOfThem)
 {
     for (const wchar_t* const names :
          {L"name,n", L",name,n", L"name,,n", L"name,n,", L",,name,,,n,,"})
@@ -70,7 +70,7 @@ TEST(ResultNames, SeparatorsBetweenNamesAreNoPartOfThem)
     }
 }
 
-TEST(ResultNames, DefaultIsKnownByEveryName)
+TEST(ResultNames, DefaultIsFoundByEveryName)
 {
     Host host;
     host.addOption(L"name,n").addName(L"third").setDefaultValue(variant_t(L"default"));

@@ -1,4 +1,4 @@
-// Walking the values and positions of one option in a parse result.
+// Queries for the values and positions of one option.
 #include <string>
 #include <vector>
 
@@ -24,7 +24,7 @@ Numbers restOfPositions(IParseResult& result)
     return positions;
 }
 
-// A host with "name" given as 0, 1 and 2,3; `base` is the position of the first.
+// A result with four values of "name", from arguments 0, 1 and 2,3. `base`: position of the first.
 class QueryHost : public Host
 {
 public:
@@ -101,7 +101,7 @@ TEST(ResultQueries, UnknownNameIsNotFound)
     EXPECT_EQ(host.result().getFirstValue(nullptr, nullptr, 0, no_position), 1);
 }
 
-TEST(ResultQueries, UnknownNameEndsTheWalkBefore)
+TEST(ResultQueries, UnknownNameEndsThePreviousWalk)
 {
     QueryHost host;
     EXPECT_EQ(host.result().getFirstValue(nullptr, L"name", 0, no_position), 0);
@@ -136,7 +136,7 @@ TEST(ResultQueries, NullOutIsAllowed)
     EXPECT_EQ(host.result().getFirstValue(nullptr, L"other", 0, no_position), 0);
 }
 
-TEST(ResultQueries, NextValueDoesNotLookAtItsName)
+TEST(ResultQueries, NextValueIgnoresItsName)
 {
     QueryHost host;
     Value value;
@@ -215,7 +215,7 @@ TEST(ResultPositions, WalkGoesFromTheFirstInTheRangeToTheLastOfAll)
     EXPECT_EQ(host.result().getNextPosition(), no_position);
 }
 
-TEST(ResultPositions, ValuesAndPositionsAreWalkedApart)
+TEST(ResultPositions, ValuesAndPositionsAreWalkedIndependently)
 {
     QueryHost host;
     const std::int32_t base = host.base;
@@ -268,7 +268,7 @@ TEST(ResultCursor, EveryQueryReplacesTheOneCursor)
     host.result().getFirstValue(&value, L"first", 0, no_position);
     host.result().isPresent(L"second", 0, no_position);
     host.result().getNextValue(&value, L"first");
-    EXPECT_STREQ(value.as<const wchar_t*>(), L"3"); // isPresent has given none yet
+    EXPECT_STREQ(value.as<const wchar_t*>(), L"3"); // the walk starts again after isPresent
 }
 
 TEST(ResultCursor, LastValueMovesTheCursorToo)

@@ -1,4 +1,4 @@
-// Every trace line of the abbreviation parser and of the storing of values.
+// Trace lines of the abbreviation parser and of stored values.
 #include "TraceLines.h"
 
 using namespace kexa_3_3;
@@ -7,7 +7,7 @@ using namespace toolbox;
 namespace
 {
 
-// The lines up to the recognition of the first argument, which begin every trace of one option.
+// The lines up to the recognition of the argument, which begin the trace of any option.
 Lines recognized(const std::string& argument, const std::string& typed, const std::string& best)
 {
     return {"PositionalOptionsParser: recognizing argument '" + argument + "'",
@@ -85,7 +85,7 @@ TEST_F(TraceOfOptions, AValueFromTheNextArgument)
                       "AbbreviationParser: removing argument: 'a b'"}}));
 }
 
-TEST_F(TraceOfOptions, AnEmptyValueInTheSameArgumentLooksInTheNext)
+TEST_F(TraceOfOptions, AnEmptyValueInTheSameArgumentIsTakenFromTheNext)
 {
     EXPECT_EQ(traceOf(host, {L"--count=", L"5"}),
               joined({recognized("--count=", "count", "count"),

@@ -1,4 +1,4 @@
-// The trace lines of values that are not stored, of positional arguments, and of the driver.
+// Trace lines of refused values, positional, unknown and left-over arguments.
 #include "TraceLines.h"
 
 using namespace kexa_3_3;
@@ -7,7 +7,7 @@ using namespace toolbox;
 namespace
 {
 
-// What comes before the storing of a value that stands in the same argument as its option "name".
+// The lines before the storing of a value given in the same argument as its option "name".
 Lines namedValue(const std::string& argument, const std::string& value)
 {
     return {"PositionalOptionsParser: recognizing argument '" + argument + "'",
@@ -21,7 +21,7 @@ Lines namedValue(const std::string& argument, const std::string& value)
             "AbbreviationParser: adding values to result container:"};
 }
 
-// The storing of one positional value, without the removal of its argument.
+// The lines of storing a positional value, up to the removal of its argument.
 Lines positionalStored(const std::string& option, const std::string& value)
 {
     return {"PositionalOptionsParser: adding values to result container:",
@@ -102,7 +102,7 @@ TEST(TraceOfRejectedValues, AValueThatAHandlerRefuses)
                       "'--name=a' One of the handler signaled the value is not valid."}}));
 }
 
-// The lines of a list are those of the separator that it was begun with.
+// A list is split at the separator that the option had before the first event.
 TEST(TraceOfValues, HandlerThatChangesTheSeparatorChangesNoLineOfTheList)
 {
     const std::string sent = "AbbreviationParser: sent event on value parsed, option: 'name', ";
@@ -260,7 +260,7 @@ TEST(TraceOfLeftOverArguments, AreParsedWhenPositional)
                             "collectNonparsingArguments: parse result: 0, message: "}}));
 }
 
-// Flag 4 takes flag 8 away behind the marker and leaves flag 16 in force.
+// After the marker, flag 4 cancels flag 8 but not flag 16.
 TEST(TraceOfLeftOverArguments, AreParsedInOneGoUnderFlags4And16)
 {
     Host host(4 | 8 | 16);

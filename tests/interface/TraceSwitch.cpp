@@ -1,4 +1,4 @@
-// When the trace is on: the keyword that the host never sees.
+// The argument that switches the trace on, and when the trace is off again.
 #include "TraceLines.h"
 
 using namespace kexa_3_3;
@@ -8,13 +8,6 @@ namespace
 {
 
 using Texts = std::vector<std::wstring>;
-
-// What parsing one argument that nothing takes writes while the trace is on.
-Lines linesOfIgnored(const std::string& argument)
-{
-    return {"PositionalOptionsParser: recognizing argument '" + argument + "'",
-            "AbbreviationParser: recognizing argument '" + argument + "'", "ignoring " + argument};
-}
 
 class TraceSwitch : public testing::Test
 {
@@ -54,7 +47,7 @@ TEST_F(TraceSwitch, TheTraceGoesToStandardOutputOnly)
     EXPECT_EQ(captureError([&] { traceOf(host, {L"--name=a", L"x"}); }), "");
 }
 
-TEST_F(TraceSwitch, TheKeywordIsSeenByNobody)
+TEST_F(TraceSwitch, TheKeywordIsNoArgument)
 {
     host.addPositional(L"path");
     const Lines lines = traceOf(host, {L"--name=a", L"--", L"x"});
@@ -193,7 +186,7 @@ TEST_F(TraceSwitch, OnForAnOptionFileThatBeginsWithTheKeyword)
               expected);
 }
 
-TEST_F(TraceSwitch, TheKeywordOfAFileIsSeenByNobody)
+TEST_F(TraceSwitch, TheKeywordOfAFileIsNoArgument)
 {
     const TemporaryFolder folder;
     host.parser().enableOptionFiles(L"", L"");
@@ -202,114 +195,4 @@ TEST_F(TraceSwitch, TheKeywordOfAFileIsSeenByNobody)
     const std::wstring argument = L"--option-file=" + file;
     captureOutput([&] { EXPECT_EQ(host.parse({argument.c_str()}), 0); });
     EXPECT_EQ(host.texts(L"path"), (Texts{L"x"}));
-}
-
-namespace
-{
-
-class TraceSwitchedByAHandler : public testing::Test
-{
-protected:
-    TraceSwitchedByAHandler()
-    {
-        host.addOption(L"name");
-        host.parser().addEventHandler(&handler);
-    }
-
-    // What a handler does when it is to switch the trace: the keyword given to another parser
-    // switches it on, anything else off.
-    [[nodiscard]] auto parsingElsewhere(const wchar_t* argument)
-    {
-        return [this, argument](const auto&...)
-        {
-            other.parse({argument});
-            return true;
-        };
-    }
-
-    Lines linesWhileParsing(std::initializer_list<const wchar_t*> arguments)
-    {
-        return linesOf(captureOutput([&] { EXPECT_EQ(host.parse(arguments), 0); }));
-    }
-
-    Events events;
-    RecordingHandler handler{events};
-    Host host;
-    Host other;
-};
-
-const Lines lines_behind_the_option = {"AbbreviationParser: sent event on option parsed",
-                                       "AbbreviationParser: adding values to result container:",
-                                       "AbbreviationParser: using tokenizer on char: ','"};
-const Lines lines_behind_the_first_value = {
-    "AbbreviationParser: sent event on value parsed, option: 'name', value: 'a'"};
-const Lines lines_at_the_end = {"AbbreviationParser: stored option to result container.",
-                                "AbbreviationParser: removing argument: '--name'",
-                                "AbbreviationParser: removing argument: 'a,b'"};
-const Lines lines_of_the_second_value = {
-    "AbbreviationParser: value is: 'b'",
-    "AbbreviationParser: sent event on value parsed, option: 'name', value: 'b'"};
-
-} // namespace
-
-// Where a line belongs is decided when it is written.
-TEST_F(TraceSwitchedByAHandler, OnFromTheEventOfAnOption)
-{
-    handler.answerOption = parsingElsewhere(trace_keyword);
-    EXPECT_EQ(linesWhileParsing({L"--name", L"a,b"}),
-              joined({lines_behind_the_option, Lines{"AbbreviationParser: value is: 'a'"},
-                      lines_behind_the_first_value, lines_of_the_second_value, lines_at_the_end}));
-    EXPECT_EQ(host.texts(L"name"), (Texts{L"a", L"b"}));
-}
-
-TEST_F(TraceSwitchedByAHandler, OnFromTheEventOfAValue)
-{
-    handler.answerValue = parsingElsewhere(trace_keyword);
-    EXPECT_EQ(linesWhileParsing({L"--name", L"a,b"}),
-              joined({lines_behind_the_first_value, lines_of_the_second_value, lines_at_the_end}));
-    // The next argument is traced from its beginning.
-    EXPECT_EQ(linesWhileParsing({L"--name=a", L"x"}),
-              joined({lines_behind_the_first_value,
-                      Lines{"AbbreviationParser: stored option to result container.",
-                            "AbbreviationParser: removing argument: '--name=a'"},
-                      linesOfIgnored("x")}));
-}
-
-TEST_F(TraceSwitchedByAHandler, OnFromTheEventOfAnUnknownArgument)
-{
-    handler.answerUnknown = parsingElsewhere(trace_keyword);
-    EXPECT_EQ(linesWhileParsing({L"x", L"y"}), joined({Lines{"ignoring x"}, linesOfIgnored("y")}));
-}
-
-TEST_F(TraceSwitchedByAHandler, OnFromTheEventOfAPositionalArgument)
-{
-    Host positional(flag_positional_takes_rest);
-    positional.addPositional(L"path");
-    positional.parser().addEventHandler(&handler);
-    handler.answerOption = parsingElsewhere(trace_keyword);
-    const Lines stored = {"PositionalOptionsParser: adding values to result container:",
-                          "PositionalOptionsParser: using tokenizer on char: ','",
-                          "PositionalOptionsParser: value is: 'x'",
-                          "PositionalOptionsParser: sent event on value parsed, option: 'path', "
-                          "value: 'x'",
-                          "PositionalOptionsParser: stored option to result container.",
-                          "PositionalOptionsParser: removing argument: 'x'"};
-    EXPECT_EQ(linesOf(captureOutput(
-                  [&] {
-                      EXPECT_EQ(positional.parse({L"x", L"x"}), 0);
-                  })),
-              joined({stored, stored}));
-}
-
-TEST_F(TraceSwitchedByAHandler, OffFromTheEventOfAnOption)
-{
-    handler.answerOption = parsingElsewhere(L"x");
-    const Lines lines = linesWhileParsing({trace_keyword, L"--name=a", L"--name=b"});
-    EXPECT_EQ(lines, (Lines{"PositionalOptionsParser: recognizing argument '--name=a'",
-                            "AbbreviationParser: recognizing argument '--name=a'",
-                            "AbbreviationParser: best match option for 'name' in argument "
-                            "'--name=a' is 'name'",
-                            "AbbreviationParser: parsing argument '--name=a'",
-                            "AbbreviationParser: detected option: 'name'",
-                            "AbbreviationParser: value from the same argument taken: 'a'"}));
 }

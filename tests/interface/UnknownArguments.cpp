@@ -76,13 +76,13 @@ TEST_P(UnknownIsDropped, OnlyUnknownArgumentsEndWithZero)
     EXPECT_TRUE(host.unparsed().empty());
 }
 
-TEST_P(UnknownIsDropped, TheParseGoesOnBehindIt)
+TEST_P(UnknownIsDropped, TheParseContinuesAfterIt)
 {
     EXPECT_EQ(host.parse({L"x", L"--name=a", L"y", L"--name", L"b"}), 0);
     EXPECT_EQ(host.texts(L"name"), (std::vector<std::wstring>{L"a", L"b"}));
 }
 
-TEST_P(UnknownIsDropped, WhateverTheHandlersAnswer)
+TEST_P(UnknownIsDropped, WhateverTheHandlersReturn)
 {
     handler.answerUnknown = [](const wchar_t*)
     {

@@ -1,9 +1,9 @@
-// Values that a host keeps: copies of what a query gave, and variants that it handed in itself.
+// How long the values that a query returns stay valid, and what filling a Value again releases.
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "Host.h"
+#include "FilledHost.h"
 #include "VariantSamples.h"
 
 namespace
@@ -14,54 +14,7 @@ using namespace toolbox;
 using variant_samples::CountedObject;
 using vexkit2::variant_t;
 
-// Of all lengths from a few characters to hundreds.
-std::wstring textOf(std::size_t number)
-{
-    return std::to_wstring(number) + std::wstring(number % 97 == 0 ? 300 : number % 13, L'x');
-}
-
-constexpr std::size_t many = 5000; // texts of several hundred kilobytes
-
-// A host whose option "name" has `count` text values, given one by one.
-class FilledHost : public Host
-{
-public:
-    explicit FilledHost(std::size_t count, const wchar_t* prefix = L"")
-    {
-        addOption(L"name").setSeparator(L'\0');
-        std::vector<std::wstring> texts;
-        for (std::size_t number = 0; number < count; ++number)
-        {
-            texts.push_back(L"--name=" + (prefix + textOf(number)));
-        }
-        std::vector<const wchar_t*> arguments;
-        for (const std::wstring& text : texts)
-        {
-            arguments.push_back(text.c_str());
-        }
-        EXPECT_EQ(toolbox::parse(parser(), arguments, &result()), 0);
-    }
-};
-
-// Everything that a wide text holds.
-std::wstring wholeText(const variant_t& text)
-{
-    EXPECT_EQ(text.kind(), 13);
-    const std::size_t units = text.byte_length() / sizeof(wchar_t);
-    return units == 0 ? L"no terminator" : std::wstring(text.get<const wchar_t*>(), units - 1);
-}
-
-std::vector<variant_t> copyValues(IParseResult& result)
-{
-    std::vector<variant_t> copies;
-    Value value;
-    for (int code = result.getFirstValue(&value, L"name", 0, no_position); code == 0;
-         code = result.getNextValue(&value, L"name"))
-    {
-        copies.push_back(value.value);
-    }
-    return copies;
-}
+constexpr std::size_t many = 5000; // together several hundred kilobytes of text
 
 TEST(ValueLifetimes, CopiesOutliveTheResultAndTheParser)
 {
@@ -75,7 +28,7 @@ TEST(ValueLifetimes, CopiesOutliveTheResultAndTheParser)
     {
         ASSERT_EQ(wholeText(copies[number]), textOf(number));
     }
-    // From both sides to the middle: the pieces of memory end in another order than they began.
+    // From both ends to the middle: memory is released in another order than it was allocated.
     for (std::size_t number = 0; number < many / 2; ++number)
     {
         ASSERT_EQ(wholeText(copies[number]), textOf(number));
@@ -85,7 +38,7 @@ TEST(ValueLifetimes, CopiesOutliveTheResultAndTheParser)
     }
 }
 
-// Copies taken now and then keep the memory of some texts only.
+// Copies of every fiftieth value keep the memory of only some texts alive.
 TEST(ValueLifetimes, FewCopiesOutliveTheResultToo)
 {
     for (const std::size_t step : {1U, 7U, 500U, 4999U})
@@ -134,8 +87,8 @@ TEST(ValueLifetimes, OneValueWalksALargeResult)
     }
 }
 
-// The value holds the only share that is left of a text's memory when it is used again.
-TEST(ValueLifetimes, ValueMayGoFromResultToResult)
+// The Value holds the last reference to a text of the first result when the second one fills it.
+TEST(ValueLifetimes, ValueMayBeFilledByAnotherResult)
 {
     Value value;
     std::optional<FilledHost> first(std::in_place, 100, L"first ");
@@ -157,8 +110,8 @@ TEST(ValueLifetimes, ValueMayGoFromResultToResult)
     EXPECT_EQ(wholeText(last), L"second " + textOf(99));
 }
 
-// One Value that meets the texts of two results in turn, both alive and then not.
-TEST(ValueLifetimes, ValueMayMixTheTextsOfTwoResults)
+// First while both results exist, then after one of them is released.
+TEST(ValueLifetimes, ValueMayBeFilledByTwoResultsInTurn)
 {
     Value value;
     {
@@ -176,7 +129,7 @@ TEST(ValueLifetimes, ValueMayMixTheTextsOfTwoResults)
     EXPECT_EQ(wholeText(value.value), L"first " + textOf(133));
 }
 
-// What the value held before is not the library's.
+// The Value holds a text of the host before a query fills it.
 TEST(ValueLifetimes, ValueMayHoldTheHostsOwnTextBefore)
 {
     FilledHost host(3);
@@ -189,13 +142,6 @@ TEST(ValueLifetimes, ValueMayHoldTheHostsOwnTextBefore)
     value.value = variant_t(2.5);
     ASSERT_EQ(host.result().getNextValue(&value, L"name"), 0);
     EXPECT_EQ(wholeText(value.value), textOf(1));
-}
-
-// Variants of the kinds that share memory, and one that does not.
-std::vector<variant_t> declaredValues()
-{
-    return {variant_t(L"wide"), variant_t("narrow"), variant_t(std::wstring(5000, L'x')),
-            variant_t::reference(L"not owned"), variant_t(25)};
 }
 
 TEST(ValueLifetimes, WhatAValueHeldBeforeIsReleasedOnce)
@@ -223,8 +169,8 @@ TEST(ValueLifetimes, WhatAValueHeldBeforeIsReleasedOnce)
         isReleasedBy([&](Value& value) { result.getFirstValue(&value, L"none", 0, no_position); }));
 }
 
-// The object goes when nothing else is left to do, so what its destructor asks for stays.
-TEST(ValueLifetimes, ObjectInAValueMayAskTheResultAsItGoes)
+// The destructor runs as the last step of a query: what it stores into the Value stays there.
+TEST(ValueLifetimes, DestructorOfAReplacedObjectMayQueryTheResult)
 {
     struct Asking final : vexkit2::polymorphic_t
     {
@@ -245,128 +191,6 @@ TEST(ValueLifetimes, ObjectInAValueMayAskTheResultAsItGoes)
     value.value = variant_t::object(new Asking(host.result(), value));
     EXPECT_EQ(host.result().getFirstValue(&value, L"absent", 0, no_position), 1);
     EXPECT_EQ(value.value.kind(), 17);
-}
-
-TEST(ValueLifetimes, DefaultIsHandedBackAndOutlivesAll)
-{
-    for (const variant_t& declared : declaredValues())
-    {
-        SCOPED_TRACE(declared.kind());
-        variant_t copy;
-        {
-            Host host;
-            {
-                const variant_t own = declared;
-                host.addOption(L"name").setDefaultValue(own);
-            }
-            ASSERT_EQ(host.parse({}), 0);
-            Value value;
-            for (int round = 0; round < 3; ++round)
-            {
-                ASSERT_EQ(host.result().getFirstValue(&value, L"name", 0, no_position), 0);
-                EXPECT_EQ(value.value.kind(), declared.kind());
-                EXPECT_TRUE(value.value == declared);
-            }
-            copy = value.value;
-        }
-        EXPECT_TRUE(copy == declared);
-    }
-}
-
-TEST(ValueLifetimes, DefaultOutlivesTheParserInItsResult)
-{
-    for (const variant_t& declared : declaredValues())
-    {
-        SCOPED_TRACE(declared.kind());
-        ParserOwner parser = createParser();
-        const ResultOwner result = createResult(*parser);
-        // A variant of its own that ends with the parser.
-        parser->addOption(L"name", L"", value_type_string, L"")
-            .option->setDefaultValue(
-                declared.kind() == 13 ? variant_t(declared.get<const wchar_t*>()) : declared);
-        ASSERT_EQ(toolbox::parse(*parser, std::vector<const wchar_t*>(), result.get()), 0);
-        parser.reset();
-        for (int round = 0; round < 3; ++round)
-        {
-            Value value;
-            ASSERT_EQ(result->getFirstValue(&value, L"name", 0, no_position), 0);
-            EXPECT_TRUE(value.value == declared);
-        }
-    }
-}
-
-// Allowed values and replacements of deprecated ones are declared as variants as well.
-TEST(ValueLifetimes, AllowedValueAndReplacementAreHandedBackAndOutliveAll)
-{
-    std::vector<variant_t> copies;
-    {
-        Host host;
-        host.addOption(L"name")
-            .addAllowedValue(variant_t(L"allowed by the host"))
-            .addDeprecatedValue(variant_t(L"former"), variant_t(L"allowed by the host"));
-        const ConsoleCapture warnings(ConsoleCapture::Stream::error);
-        for (int round = 0; round < 300; ++round)
-        {
-            ASSERT_EQ(host.parse({L"--name=allowed", L"--name=allowed by the host",
-                                  L"--name=former", L"--name=form"}),
-                      0);
-        }
-        copies = copyValues(host.result());
-    }
-    ASSERT_EQ(copies.size(), 1200U);
-    for (const variant_t& copy : copies)
-    {
-        ASSERT_EQ(wholeText(copy), L"allowed by the host");
-    }
-}
-
-// A value of a result declared as the default of an option, whose occurrences go into another
-// result, or into the same.
-TEST(ValueLifetimes, ValueOfAResultMayBeDeclared)
-{
-    for (const bool same : {true, false})
-    {
-        SCOPED_TRACE(same);
-        std::optional<FilledHost> source(std::in_place, 500);
-        std::vector<variant_t> values = copyValues(source->result());
-        Host other;
-        Host& host = same ? static_cast<Host&>(*source) : other;
-        host.addOption(L"other").setDefaultValue(values[7]);
-        host.addOption(L"third").addAllowedValue(values[8]).addDeprecatedValue(values[8],
-                                                                               values[9]);
-        values.clear();
-        {
-            const ConsoleCapture warning(ConsoleCapture::Stream::error);
-            ASSERT_EQ(host.parse({(L"--third=" + textOf(8)).c_str()}), 0);
-        }
-        if (!same)
-        {
-            source.reset();
-        }
-        for (int round = 0; round < 3; ++round)
-        {
-            EXPECT_EQ(host.texts(L"other"), std::vector<std::wstring>{textOf(7)});
-            EXPECT_EQ(host.texts(L"third"), std::vector<std::wstring>{textOf(9)});
-        }
-        Value value;
-        ASSERT_EQ(host.result().getFirstValue(&value, L"other", 0, no_position), 0);
-        host.renewResult();
-        EXPECT_EQ(wholeText(value.value), textOf(7));
-    }
-}
-
-TEST(ValueLifetimes, ObjectOfADefaultIsDestroyedWithItsLastShare)
-{
-    int destroyed = 0;
-    {
-        Host host;
-        host.addOption(L"name").setDefaultValue(variant_t::object(new CountedObject(destroyed)));
-        EXPECT_EQ(host.parse({}), 0);
-        EXPECT_EQ(host.parse({L"--name=x"}), 0);
-        EXPECT_EQ(host.texts(L"name"), std::vector<std::wstring>{L"x"});
-        EXPECT_EQ(destroyed, 0);
-    }
-    EXPECT_EQ(destroyed, 1);
 }
 
 } // namespace

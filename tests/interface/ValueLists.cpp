@@ -1,4 +1,4 @@
-// Cutting a value into pieces, and what is stored when a piece is refused.
+// Lists of values in one argument, refused values, and the numbers of values.
 #include <string>
 #include <vector>
 
@@ -156,7 +156,7 @@ TEST(RefusedValues, FailingFirstOccurrenceLeavesTheDefault)
     EXPECT_EQ(host.values(L"number"), (std::vector<ReadValue>{{L"7", 6, no_position}}));
 }
 
-// Each value's record as a handler saw it.
+// The numbers of all values in the order of their events.
 std::vector<std::int32_t> sequenceNumbers(Host& host,
                                           std::initializer_list<const wchar_t*> arguments)
 {
@@ -194,7 +194,7 @@ TEST(SequenceNumbers, EveryValueGetsTheNextAcrossOptionsParsesAndParsers)
               (std::vector<ReadValue>{{L"1", 0, base + 2}, {L"0", 0, base + 6}}));
 }
 
-TEST(SequenceNumbers, ValueThatDoesNotConvertTakesNone)
+TEST(SequenceNumbers, ValueThatDoesNotConvertTakesNoNumber)
 {
     Host host;
     host.addOption(L"number", value_type_integer);
@@ -204,10 +204,10 @@ TEST(SequenceNumbers, ValueThatDoesNotConvertTakesNone)
     host.parse({L"--mode=x"});
     host.parse({L"--mode=,"});
     host.parse({L"--number=1,2,x"});
-    EXPECT_EQ(nextPosition(), base + 3); // two by 1 and 2, one by this very look
+    EXPECT_EQ(nextPosition(), base + 3); // one each for 1, 2 and this query
 }
 
-TEST(SequenceNumbers, RefusedValueHasUsedUpItsNumber)
+TEST(SequenceNumbers, RefusedValueTakesANumber)
 {
     Host host;
     host.addOption(L"list");

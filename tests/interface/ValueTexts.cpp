@@ -1,4 +1,4 @@
-// The text of a value: what defaults read as, in results and in help.
+// The text of a value, as shown by defaults in results and in help.
 #include <limits>
 #include <string>
 #include <vector>
@@ -22,7 +22,8 @@ struct Row
     std::wstring text;
 };
 
-// The value as a default: its text in the result and in the listing, and its kind in the result.
+// Declares the value as a default and checks its text in result and help and its kind in the
+// result.
 void expectText(const Row& row)
 {
     SCOPED_TRACE("kind " + std::to_string(row.value.kind()) + ", '" + toUtf8(row.text) + "'");
@@ -136,7 +137,7 @@ TEST(ValueTexts, BoolIsOneOrZero)
     expectText({variant_t(false), L"0"});
 }
 
-TEST(ValueTexts, WideTextIsAsItIs)
+TEST(ValueTexts, WideTextIsUnchanged)
 {
     expectText({variant_t(L"some text"), L"some text"});
     expectText({variant_t(L" , "), L" , "});
@@ -166,7 +167,7 @@ TEST(ValueTexts, NarrowTextIsReadAsUtf8)
     }
 }
 
-TEST(ValueTexts, NullBlobsAndObjectsHaveNone)
+TEST(ValueTexts, NullBlobsAndObjectsHaveNoText)
 {
     expectText({variant_t(), L""});
     expectText({variant_t::blob("abc", 3), L""});
@@ -175,7 +176,7 @@ TEST(ValueTexts, NullBlobsAndObjectsHaveNone)
     expectText({variant_t(""), L""});
 }
 
-TEST(ValueTexts, TextOfADoubleReadsBackToTheSameDouble)
+TEST(ValueTexts, TextOfADoubleConvertsBackToTheSameDouble)
 {
     Host host;
     host.addOption(L"n", value_type_double);

@@ -1,4 +1,4 @@
-// Occurrences without a value among those with one: an empty positional argument is one.
+// Occurrences without a value, such as an empty positional argument, among occurrences with one.
 #include <string>
 #include <vector>
 
@@ -13,7 +13,7 @@ using namespace toolbox;
 using Positions = std::vector<std::int32_t>;
 using Values = std::vector<ReadValue>;
 
-// All positions from the first one in the range on.
+// Positions from the first one in the range to the last one of all.
 Positions positions(IParseResult& result, std::int32_t from = 0, std::int32_t to = no_position)
 {
     Positions all;
@@ -29,7 +29,7 @@ Positions positions(IParseResult& result, std::int32_t from = 0, std::int32_t to
     return all;
 }
 
-// An occurrence without a value has the number of the value to come.
+// An occurrence without a value has the number that the next value gets.
 TEST(ValuelessOccurrences, AreWalkedByPositionWhileValuesAreWalkedAlone)
 {
     Host host;
@@ -42,7 +42,7 @@ TEST(ValuelessOccurrences, AreWalkedByPositionWhileValuesAreWalkedAlone)
               (Values{{L"a", 13, base}, {L"b", 13, base + 1}, {L"c", 13, base + 2}}));
 }
 
-TEST(ValuelessOccurrences, AreGivenWhereThereAreNoValues)
+TEST(ValuelessOccurrences, AreReturnedWhereThereAreNoValues)
 {
     Host host;
     host.addPositional(L"file");
@@ -72,7 +72,7 @@ TEST(ValuelessOccurrences, MayBeTheOnlyOnesInARange)
     Host host;
     host.addPositional(L"file");
     const std::int32_t base = nextPosition();
-    ASSERT_EQ(host.parse({L"", L"a", L"b", L"", L""}), 0); // at 0, 0, 1, 2, 2
+    ASSERT_EQ(host.parse({L"", L"a", L"b", L"", L""}), 0); // positions 0, 0, 1, 2, 2
     EXPECT_EQ(positions(host.result(), base + 2), (Positions{base + 2, base + 2}));
     EXPECT_EQ(readValues(host.result(), L"file", base + 2), Values());
     EXPECT_EQ(host.result().isPresent(L"file", base + 2, base + 3), 1);
@@ -113,7 +113,7 @@ TEST(ValuelessOccurrences, MayBeAnyAmongThousands)
     std::int32_t next = nextPosition();
     for (int number = 0; number < 6000; ++number)
     {
-        // Stretches of hundreds without a value, of hundreds with one, and both in turn.
+        // Runs of 500 without and with a value, then mixed.
         const bool hasValue = number < 4000 ? number / 500 % 2 == 1 : number % 3 != 0;
         arguments.push_back(hasValue ? L"x" : L"");
         expected.push_back(next);
@@ -128,7 +128,7 @@ TEST(ValuelessOccurrences, MayBeAnyAmongThousands)
     EXPECT_EQ(positions(host.result()), expected);
 }
 
-// Pieces of one argument are values of one occurrence each.
+// Each value of a list is an occurrence.
 TEST(ValuelessOccurrences, StandBetweenTheValuesOfLists)
 {
     Host host;

@@ -36,7 +36,7 @@ void expectRows(const std::vector<Row>& rows)
     }
 }
 
-TEST(WordWrap, EmptyTextGivesNothing)
+TEST(WordWrap, EmptyTextIsLaidOutAsEmptyText)
 {
     EXPECT_EQ(wrap(L"lead", L"", 4, 20), L"");
     EXPECT_EQ(wrap(L"", L"", 4, 20), L"");
@@ -159,7 +159,7 @@ TEST(WordWrap, TextOutsideTheBasicPlaneIsNotBrokenInsideACharacter)
 {
     const std::wstring face = L"\U0001F600";
     const bool pairs = face.size() == 2;
-    // Three units fit on a line: three faces, or one and a half.
+    // A line has room for three units: three faces of one unit, or one face of two.
     EXPECT_EQ(wrap(L"", face + face + face, 2, 6),
               pairs ? L"  " + face + L"\n  " + face + L"\n  " + face + L"\n"
                     : L"  " + face + face + face + L"\n");
@@ -175,11 +175,11 @@ TEST(WordWrap, NoRoomForACharacterIsOutOfRange)
         std::size_t indent;
         std::size_t lineWidth;
     } rows[] = {
-        {L"", L"a", 4, 5}, // room 0 on an indented line
+        {L"", L"a", 4, 5}, // no room after the indentation
         {L"", L"a", 4, 4},
         {L"", L"a", 4, 3},
         {L"", L"a", 4, 0},
-        {L"", L"a", 0, 2}, // one column, taken by the blank
+        {L"", L"a", 0, 2}, // one column, for the leading blank
         {L"", L"a", 0, 1},
         {L"", L"a", 0, 0},
         {L"lead", L"a", 0, 2},

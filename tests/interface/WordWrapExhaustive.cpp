@@ -1,4 +1,4 @@
-// The layout against a naive, step by step second writing of it, over all small inputs.
+// Compares the layout with a naive step-by-step implementation, for all small inputs.
 #include <algorithm>
 #include <optional>
 #include <stdexcept>
@@ -12,7 +12,7 @@ namespace
 
 using namespace toolbox;
 
-// What the loop works on.
+// The variables of the loop.
 struct State
 {
     std::wstring out;
@@ -33,7 +33,7 @@ std::wstring takeChunk(const std::wstring& text, std::size_t room)
     const std::size_t length = chunk.size();
     if (text.size() > length && text.at(length) != L' ')
     {
-        const wchar_t last = chunk.at(length - 1); // out of range where there is no room
+        const wchar_t last = chunk.at(length - 1); // throws where there is no room
         if (last != L' ' && text.at(length) != L'\n')
         {
             const std::size_t blank = text.rfind(L' ', length);
@@ -54,7 +54,7 @@ std::wstring naive(const std::wstring& lead, const std::wstring& text, long inde
     }
     while (!state.text.empty())
     {
-        // A pass that takes nothing from the text and begins with an empty line repeats itself.
+        // A pass that removes nothing from the text, with an empty line, would repeat for ever.
         const std::size_t textBefore = state.text.size();
         const std::size_t lineBefore = state.line.size();
         if (state.text[0] == L' ' || state.text[0] == L'\n')
@@ -100,7 +100,7 @@ std::wstring naive(const std::wstring& lead, const std::wstring& text, long inde
     return state.out;
 }
 
-// None for std::out_of_range.
+// The text, or none for std::out_of_range.
 template <class Layout>
 std::optional<std::wstring> outcome(Layout layout)
 {
@@ -119,7 +119,7 @@ std::string show(const std::optional<std::wstring>& text)
     return text.has_value() ? "'" + toUtf8(*text) + "'" : "out of range";
 }
 
-// Every text over the alphabet with a length from 0 up to a longest.
+// All texts over the alphabet, from the empty one to those of the longest length.
 std::vector<std::wstring> textsUpTo(std::size_t longest, const std::wstring& alphabet)
 {
     std::vector<std::wstring> texts{L""};
@@ -138,7 +138,7 @@ std::vector<std::wstring> textsUpTo(std::size_t longest, const std::wstring& alp
     return texts;
 }
 
-// Compares every combination; answers how many there were.
+// Compares every combination and returns their number.
 std::size_t compareAll(const std::vector<std::wstring>& leads,
                        const std::vector<std::wstring>& texts, long widest)
 {

@@ -11,23 +11,24 @@ namespace faults
 
 using toolbox::liveBlocks;
 
-// How much fails.
+// Which allocations fail.
 enum class Extent
 {
     oneAllocation, // the chosen one only
-    restOfCall     // the chosen one and all behind it, until the library call ends
+    restOfCall     // the chosen one and all later ones of the library call
 };
 
-// Chooses the allocation that fails, counted from 1 over all library calls from now on; 0 for none.
+// Chooses the allocation that fails, counted from 1 over all library calls from now on. 0: none.
 void failAllocation(std::size_t number, Extent extent) noexcept;
 
-// How many allocations library calls have made since then.
+// Allocations attempted by library calls since failAllocation.
 std::size_t allocationsCounted() noexcept;
 
-// Whether an allocation failed inside the library call that ended last.
+// Whether an allocation failed in the last library call.
 bool lastCallFailed() noexcept;
 
-// Allocations count, and may fail, only while one of these lives: the test's own never fail.
+// Allocations are counted and may fail only while an object of this class exists. The test's own
+// allocations never fail.
 class LibraryCall
 {
 public:

@@ -23,7 +23,7 @@ namespace toolbox
 namespace
 {
 
-// The few calls whose names differ between the platforms.
+// Functions with different names on the platforms.
 #ifdef _WIN32
 int openForWriting(const std::filesystem::path& path)
 {
@@ -35,8 +35,7 @@ int duplicate(int descriptor)
     return _dup(descriptor);
 }
 
-// The system's standard handle follows the descriptor: it is what the library asks for, and the
-// handle that was there before is closed by the exchange.
+// Sets the standard handle as well: the library writes to it, and _dup2 closes the former one.
 void exchange(int source, int target)
 {
     _dup2(source, target);

@@ -1,4 +1,4 @@
-// What the library writes to standard output or standard error, byte for byte.
+// Captures the bytes that the library writes to standard output or standard error.
 #ifndef KEXA_TESTS_TOOLBOX_CONSOLE_CAPTURE_H
 #define KEXA_TESTS_TOOLBOX_CONSOLE_CAPTURE_H
 
@@ -10,13 +10,13 @@
 namespace toolbox
 {
 
-// The library writes below the C and C++ streams, so the descriptor itself is turned to a file.
+// Redirects the descriptor to a file, since the library writes below the C and C++ streams.
 class ConsoleCapture
 {
 public:
     enum class Stream
     {
-        output = 1, // the descriptor's number
+        output = 1, // the number of the descriptor
         error = 2
     };
 
@@ -25,10 +25,10 @@ public:
     ConsoleCapture& operator=(const ConsoleCapture&) = delete;
     ~ConsoleCapture();
 
-    // The bytes that have arrived by now, nothing being flushed.
+    // The bytes written so far. Flushes nothing.
     std::string soFar() const;
 
-    // Ends the capture and answers the bytes. Line ends are as they were written. Once only.
+    // Ends the capture and returns all bytes, line ends unchanged. Called at most once.
     std::string finish();
 
 private:
@@ -39,7 +39,7 @@ private:
     int m_saved = -1;
 };
 
-// The bytes that an action writes to one stream.
+// Returns the bytes that an action writes to the stream.
 std::string capture(ConsoleCapture::Stream stream, const std::function<void()>& action);
 std::string captureOutput(const std::function<void()>& action);
 std::string captureError(const std::function<void()>& action);

@@ -1,4 +1,4 @@
-// One text converted to a value type, as an option of that type takes it from the command line.
+// Converts a text to a value type, as a parse does for an option of that type.
 #ifndef KEXA_TESTS_TOOLBOX_CONVERSION_H
 #define KEXA_TESTS_TOOLBOX_CONVERSION_H
 
@@ -15,24 +15,24 @@ namespace toolbox
 struct Converted
 {
     kexa_3_3::result_t code;
-    std::wstring message;     // of the parse
-    vexkit2::variant_t value; // null where nothing was stored
-    bool stored;              // whether the result knows the option
+    std::wstring message;     // error message of the parse
+    vexkit2::variant_t value; // kind 17 (null) if nothing was stored
+    bool stored;              // whether the result holds the option
 };
 
-// Gives "--out=TEXT" to an option "out" of the type, whose values are not cut.
+// Parses "--out=TEXT" for an option "out" of the type, without a separator.
 Converted convert(std::int32_t valueType, const std::wstring& text);
 
-// Gives TEXT as a positional argument to an option "out" of the type. This is how a text reaches
-// types that take none behind "=".
+// Parses TEXT as a positional argument of the option "out". Types that take no value after "=" can
+// be tested only this way.
 Converted convertPositional(std::int32_t valueType, const std::wstring& text);
 
-// The message of a text that does not convert.
-// typeName: the display name of the type. argument: the whole argument that holds the text.
+// The message for a text that does not convert.
+// typeName: display name of the type. argument: the whole argument with the text.
 std::wstring refusal(const std::wstring& typeName, const std::wstring& text,
                      const std::wstring& argument);
 
-// A text and the value that it gives, none where it does not convert.
+// A text and its value, or no value if it does not convert.
 template <class T>
 struct ConversionRow
 {

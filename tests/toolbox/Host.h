@@ -1,4 +1,4 @@
-// The library as a host uses it: owners, one parse with what it answered, and readers of a result.
+// A host of the library: owners of its objects, parses, and functions that read a result.
 #ifndef KEXA_TESTS_TOOLBOX_HOST_H
 #define KEXA_TESTS_TOOLBOX_HOST_H
 
@@ -20,7 +20,7 @@
 namespace toolbox
 {
 
-// What the library makes, it destroys.
+// Deletes an object of the library by its release operation.
 struct Release
 {
     template <class T>
@@ -33,18 +33,17 @@ struct Release
 using ParserOwner = std::unique_ptr<kexa_3_3::IParser, Release>;
 using ResultOwner = std::unique_ptr<kexa_3_3::IParseResult, Release>;
 
-// A new parser, or a new result of a parser. Throws std::runtime_error where the library gives
-// none.
+// Returns a new parser, or a new result. Throws std::runtime_error if the library returns none.
 ParserOwner createParser(int flags = 0);
 ResultOwner createResult(kexa_3_3::IParser& parser);
 
-// Parses the arguments with a program name put in front of them; a null entry stays null.
+// Parses the arguments after a program name. A null entry is passed on as it is.
 kexa_3_3::result_t parse(kexa_3_3::IParser& parser, std::initializer_list<const wchar_t*> arguments,
                          kexa_3_3::IParseResult* result);
 kexa_3_3::result_t parse(kexa_3_3::IParser& parser, const std::vector<const wchar_t*>& arguments,
                          kexa_3_3::IParseResult* result);
 
-// One value as a query gave it. Null data reads as an empty text.
+// A value that a query returned. Null data becomes an empty text.
 struct ReadValue
 {
     std::wstring text;
@@ -56,16 +55,16 @@ struct ReadValue
 
 void PrintTo(const ReadValue& value, std::ostream* out);
 
-// All values of an option by getFirstValue and getNextValue, and the texts alone.
+// All values of an option, or their texts, read with getFirstValue and getNextValue.
 std::vector<ReadValue> readValues(kexa_3_3::IParseResult& result, const wchar_t* name,
                                   std::int32_t from = 0, std::int32_t to = kexa_3_3::no_position);
 std::vector<std::wstring> readTexts(kexa_3_3::IParseResult& result, const wchar_t* name);
 
-// All left-over arguments by getFirstUnparsed and getNextUnparsed.
+// All left-over arguments, read with getFirstUnparsed and getNextUnparsed.
 std::vector<std::wstring> readUnparsed(kexa_3_3::IParseResult& result);
 
-// The position that the next converted value of this process gets. Found by converting one value,
-// so every call moves it on by one.
+// The position that the next value of this process gets. Parses one value to find it, so every call
+// takes a position itself.
 std::int32_t nextPosition();
 
 // A parser and one result of it.
@@ -79,7 +78,7 @@ public:
     kexa_3_3::IParser& parser() { return *m_parser; }
     kexa_3_3::IParseResult& result() { return *m_result; }
 
-    // Declarations; throw std::runtime_error where the parser does not accept the names.
+    // Throw std::runtime_error if the parser refuses the names.
     kexa_3_3::IOption& addOption(const wchar_t* names,
                                  std::int32_t valueType = kexa_3_3::value_type_string);
     kexa_3_3::IOption& addSwitch(const wchar_t* names,
@@ -97,7 +96,7 @@ public:
         return m_parser->parseCommandLine(commandLine, m_result.get());
     }
 
-    // Makes the next parse fill a new, empty result.
+    // Replaces the result by a new, empty one.
     void renewResult() { m_result = createResult(*m_parser); }
 
     std::wstring message() { return m_parser->getErrorMessage(); }

@@ -1,4 +1,4 @@
-// An event handler that writes down what it is told and answers as a test asks it to.
+// An event handler that records its calls and returns what a test chooses.
 #ifndef KEXA_TESTS_TOOLBOX_RECORDING_HANDLER_H
 #define KEXA_TESTS_TOOLBOX_RECORDING_HANDLER_H
 
@@ -13,12 +13,12 @@ namespace toolbox
 
 using Events = std::vector<std::wstring>;
 
-// A value as an event shows it: numbers in decimal, a bool as true or false, a wide text in single
-// quotes, anything else as its kind.
+// A value as text: numbers in decimal, a bool as true or false, a wide text in single quotes,
+// others as "kind KIND".
 std::wstring describe(const vexkit2::variant_t& value);
 
-// Events read "option NAME", "value NAME VALUE" and "unknown ARGUMENT", each with the label in
-// front. Several handlers may write to one list.
+// Appends "option NAME", "value NAME VALUE" or "unknown ARGUMENT" to a list of events, each after
+// the label. Several handlers may share a list.
 class RecordingHandler : public kexa_3_3::EventHandler
 {
 public:
@@ -27,8 +27,8 @@ public:
     RecordingHandler& operator=(const RecordingHandler&) = default;
     virtual ~RecordingHandler() = default;
 
-    // Called after the event is written down; they give the answer, and may throw. Without them
-    // the answer is true.
+    // Called after an event is recorded. The handler returns what they return, or true without
+    // them. They may throw.
     std::function<bool(const wchar_t* name)> answerOption;
     std::function<bool(const wchar_t* name, const kexa_3_3::ValueRecord& value)> answerValue;
     std::function<bool(const wchar_t* argument)> answerUnknown;

@@ -15,8 +15,8 @@ namespace fs = std::filesystem;
 
 TemporaryFolder::TemporaryFolder()
 {
-    // Test programs run side by side, so the name is random; create_directory tells whether it was
-    // free.
+    // A random name, since test programs run at the same time. create_directory returns false for a
+    // name that is taken.
     std::random_device random;
     do
     {

@@ -1,4 +1,4 @@
-// A folder of its own for each test, gone with it.
+// A new folder for a test, removed by the destructor.
 #ifndef KEXA_TESTS_TOOLBOX_TEMPORARY_FOLDER_H
 #define KEXA_TESTS_TOOLBOX_TEMPORARY_FOLDER_H
 
@@ -19,25 +19,24 @@ public:
 
     const std::filesystem::path& path() const { return m_path; }
 
-    // The absolute name of an entry, whether it exists or not.
-    // name: as the library takes it; any Unicode text.
+    // The absolute path of an entry, which need not exist. name: any Unicode text.
     std::wstring name(std::wstring_view name) const;
 
-    // Writes a file with exactly these bytes and answers its absolute name.
+    // Writes a file with exactly these bytes and returns its absolute path.
     std::wstring write(std::wstring_view name, std::string_view bytes) const;
 
 private:
     std::filesystem::path m_path;
 };
 
-// A path from wide text and back, whatever the locale; std::filesystem converts by the locale.
+// Convert between a path and wide text. std::filesystem would convert by the locale.
 std::filesystem::path toPath(std::wstring_view text);
 std::wstring toWide(const std::filesystem::path& path);
 
-// The bytes of a file; throws std::runtime_error when there is none.
+// The bytes of a file. Throws std::runtime_error if there is no such file.
 std::string readFile(const std::filesystem::path& path);
 
-// The current folder while the object lives.
+// Sets the current folder until the object is destroyed.
 class CurrentFolder
 {
 public:

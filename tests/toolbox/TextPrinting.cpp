@@ -21,7 +21,7 @@ bool isLowSurrogate(std::uint32_t unit)
     return unit >= 0xDC00 && unit <= 0xDFFF;
 }
 
-// The character at `index`, which moves past it.
+// Returns the character at `index` and moves `index` past it.
 std::uint32_t takeCharacter(std::wstring_view text, std::size_t& index)
 {
     const auto unit = static_cast<std::uint32_t>(text[index]);

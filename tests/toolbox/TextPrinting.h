@@ -1,5 +1,5 @@
-// Wide texts as UTF-8: for comparing with bytes, and for showing the row of a table that failed.
-// GoogleTest comes with it.
+// Wide texts as UTF-8, to compare with bytes and to print the row of a table that fails. Includes
+// GoogleTest.
 #ifndef KEXA_TESTS_TOOLBOX_TEXT_PRINTING_H
 #define KEXA_TESTS_TOOLBOX_TEXT_PRINTING_H
 
@@ -11,8 +11,8 @@
 namespace toolbox
 {
 
-// UTF-16 or UTF-32, as wide as wchar_t is here, to UTF-8. A lone surrogate or a value beyond
-// Unicode becomes U+FFFD.
+// Converts UTF-16 or UTF-32, by the width of wchar_t, to UTF-8. A lone surrogate or a value above
+// U+10FFFF becomes U+FFFD.
 std::string toUtf8(std::wstring_view text);
 
 } // namespace toolbox

@@ -39,4 +39,10 @@ Lines traceOf(Host& host, std::initializer_list<const wchar_t*> arguments, int c
         captureOutput([&] { EXPECT_EQ(parse(host.parser(), all, &host.result()), code); }));
 }
 
+Lines linesOfIgnored(const std::string& argument)
+{
+    return {"PositionalOptionsParser: recognizing argument '" + argument + "'",
+            "AbbreviationParser: recognizing argument '" + argument + "'", "ignoring " + argument};
+}
+
 } // namespace toolbox

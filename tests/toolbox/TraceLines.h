@@ -1,4 +1,4 @@
-// The trace of one parse, line by line.
+// The trace of a parse as a list of lines.
 #ifndef KEXA_TESTS_TOOLBOX_TRACE_LINES_H
 #define KEXA_TESTS_TOOLBOX_TRACE_LINES_H
 
@@ -15,14 +15,17 @@ inline constexpr const wchar_t* trace_keyword = L"kexaoption=kexalogenable=1";
 
 using Lines = std::vector<std::string>;
 
-// Cuts a text at its line feeds. A last line without one ends in "<no line end>".
+// Splits a text at its line feeds. "<no line end>" is added to a last line that has none.
 Lines linesOf(const std::string& text);
 
 Lines joined(std::initializer_list<Lines> parts);
 
-// What a parse of these arguments writes to standard output with the keyword in front of them.
-// code: the answer that the parse must give.
+// Parses the arguments with the trace keyword before them and returns the lines on standard output.
+// code: the status that the parse has to return.
 Lines traceOf(Host& host, std::initializer_list<const wchar_t*> arguments, int code = 0);
+
+// The lines of an argument that nothing takes, as a parser without a positional option traces it.
+Lines linesOfIgnored(const std::string& argument);
 
 } // namespace toolbox
 

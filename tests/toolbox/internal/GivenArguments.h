@@ -1,4 +1,4 @@
-// Arguments that a test writes down, as a parse meets them.
+// A source of arguments with the shortest lifetime of texts that the contract allows.
 #pragma once
 
 #include <array>
@@ -14,8 +14,8 @@
 namespace unit
 {
 
-// Keeps a text no longer than it must: who reads an older one reads another text, or, under the
-// address sanitizer, is told so.
+// Overwrites and frees a text as soon as the contract allows, so that a late read returns another
+// text or is reported by the address sanitizer.
 class GivenArguments final : public kexa_3_3::ArgumentSource
 {
 public:
@@ -38,17 +38,17 @@ public:
         return true;
     }
 
-    // How many were asked for.
+    // The number of arguments returned so far.
     [[nodiscard]] std::size_t given() const noexcept { return m_next; }
 
 private:
     std::vector<std::wstring> m_texts;
     std::size_t m_next = 0;
     std::size_t m_calls = 0;
-    std::array<std::unique_ptr<std::wstring>, 2> m_given; // the last one, and the one before it
+    std::array<std::unique_ptr<std::wstring>, 2> m_given; // the last two
 };
 
-// Takes all that is left.
+// Removes and returns all arguments.
 inline std::vector<std::wstring> takeAll(kexa_3_3::ArgumentQueue& queue)
 {
     std::vector<std::wstring> texts;

@@ -41,7 +41,7 @@ result_t Collector::storeValue(const OptionDescription& option, ValueEntry& valu
 bool Handler::onOptionParsed(const wchar_t* name)
 {
     events.push_back(std::wstring(L"option ") + name);
-    return false; // which nobody looks at
+    return false; // ignored by the library
 }
 
 bool Handler::onValueParsed(const wchar_t* name, const ValueRecord* value)

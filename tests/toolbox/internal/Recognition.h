@@ -1,4 +1,4 @@
-// What the parts of recognition need around them: a registry, a handler, a collector.
+// Collaborators of the recognition classes in tests: registry, event handler, result collector.
 #pragma once
 
 #include <cstdint>
@@ -25,8 +25,8 @@ namespace unit
 
 using Texts = std::vector<std::wstring>;
 
-// One occurrence stored, written down: "name [position text=value, ...]", the texts being those
-// of the values; without values "name [position]".
+// Records each stored occurrence as "name [position text=value, ...]", or as "name [position]" if
+// it has no values.
 class Collector final : public kexa_3_3::IResultCollector
 {
 public:
@@ -42,7 +42,7 @@ private:
     kexa_3_3::SharedTexts m_texts;
 };
 
-// Writes events down: "option NAME", "value NAME TEXT NUMBER", "unknown ARGUMENT".
+// Records events as "option NAME", "value NAME TEXT NUMBER", "unknown ARGUMENT".
 class Handler final : public kexa_3_3::EventHandler
 {
 public:
@@ -51,11 +51,11 @@ public:
     bool onUnknownArgument(const wchar_t* argument) override;
 
     Texts events;
-    // Called for every value; gives the answer.
+    // Called for every value; its result is returned to the parser.
     std::function<bool(const kexa_3_3::ValueRecord&)> judge;
 };
 
-// Parsers under test share one registry; the sequence counter starts at 0 in every test.
+// A registry of options for the parser under test. The sequence counter starts at 0 in each test.
 class RecognitionTest : public testing::Test
 {
 protected:
@@ -64,14 +64,14 @@ protected:
     kexa_3_3::OptionDescription& add(const wchar_t* names,
                                      std::int32_t valueType = kexa_3_3::value_type_string);
 
-    // What a parser answered to one vector of arguments.
+    // The results of recognizing and parsing an argument vector.
     struct Outcome
     {
         int recognized = 0;
-        int code = -1; // of parse, where recognized
+        int code = -1; // status of parse; -1 if the argument was not recognized
         std::int64_t optionIndex = -2;
         std::wstring message;
-        Texts rest; // the arguments left
+        Texts rest; // the arguments not removed
 
         friend bool operator==(const Outcome&, const Outcome&) = default;
     };

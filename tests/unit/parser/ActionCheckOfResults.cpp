@@ -1,4 +1,4 @@
-// Whether actions and options go together, over results that no command line gives.
+// The action check, over results that no command line produces.
 #include "parser/ActionCheck.h"
 
 #include <algorithm>
@@ -39,7 +39,7 @@ protected:
         options.registerValueOption(names, keywords, L"", 13, L"");
     }
 
-    // Stores something under exactly these names.
+    // Stores an occurrence or a default under exactly these names.
     void store(std::initializer_list<const wchar_t*> names, bool occurrence = true)
     {
         OptionDescription option(no_group, false, pool);
@@ -102,7 +102,7 @@ TEST_F(ActionCheck, UnknownNameCountsOnlyBeforeAConflict)
     EXPECT_EQ(check(), conflict);
     store({L"q"});
     EXPECT_EQ(check(), conflict);
-    store({L"n"}); // between the two
+    store({L"n"}); // sorted between the two
     EXPECT_EQ(check(), unknown);
 }
 
@@ -112,9 +112,10 @@ TEST_F(ActionCheck, UnknownNameComesBeforeWhatIsCheckedAtTheEnd)
     addOption(L"level", L"other");
     store({L"level"});
     store({L"zzz"});
-    EXPECT_EQ(check(), unknown); // and not "No action defined."
+    EXPECT_EQ(check(), unknown); // rather than "No action defined."
     store({L"pack"});
-    EXPECT_EQ(check(), unknown); // and not that the action does not accept the option
+    EXPECT_EQ(check(),
+              unknown); // rather than the message that the action does not accept the option
 }
 
 TEST_F(ActionCheck, DefaultAloneIsNeverGiven)
@@ -215,7 +216,7 @@ TEST_F(ActionCheck, OptionsNeedAnActionWhereThereIsOne)
     EXPECT_EQ(check(), passes);
 }
 
-// The check as a walk over the entries in the order of their names.
+// A naive check: walks over the entries sorted by name.
 std::wstring walk(const std::vector<std::wstring>& entries, const RegisteredOptionStorage& options,
                   const ActionGroups& groups)
 {
@@ -284,7 +285,7 @@ TEST(ActionCheckComparison, EveryResultIsCheckedAsAWalkDoes)
         RegisteredOptionStorage options(pool, L',');
         for (unsigned first = 0; first + 1 < 8; first += 2)
         {
-            // Two names; the primary one is not always the first in the alphabet.
+            // Two names, of which the primary one is not always first in sorted order.
             const bool swapped = below(2) == 0;
             const std::wstring both =
                 names[first + (swapped ? 1 : 0)] + L"," + names[first + (swapped ? 0 : 1)];

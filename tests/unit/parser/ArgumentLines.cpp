@@ -1,4 +1,4 @@
-// One argument from each line.
+// Splitting a text into lines, each of which is an argument.
 #include "parser/ArgumentLines.h"
 
 #include <functional>
@@ -32,7 +32,7 @@ Texts allOf(ArgumentSource& lines)
     {
         texts.emplace_back(argument);
     }
-    EXPECT_FALSE(lines.next(argument)); // the end stays the end
+    EXPECT_FALSE(lines.next(argument)); // also at the end of the text, any number of times
     return texts;
 }
 
@@ -80,7 +80,7 @@ TEST(ArgumentLines, LinesBecomeArguments)
     }
 }
 
-TEST(ArgumentLines, CommentsGiveNothing)
+TEST(ArgumentLines, CommentsAreSkipped)
 {
     const struct
     {
@@ -112,7 +112,7 @@ TEST(WideLines, ArgumentsAreViewsIntoTheText)
     EXPECT_EQ(argument.data(), text.data() + 4);
 }
 
-// The same by a stream, line for line.
+// A naive implementation that reads the lines with std::getline.
 Texts splitByStream(const std::wstring& text)
 {
     Texts arguments;
@@ -134,7 +134,7 @@ Texts splitByStream(const std::wstring& text)
     return arguments;
 }
 
-// Calls the test with every text of up to `longest` letters.
+// Calls the test with every text of up to `longest` letters of the alphabet.
 template <class Text>
 void forEveryText(const std::vector<Text>& alphabet, std::size_t longest,
                   const std::function<void(const Text&)>& test)
@@ -163,8 +163,8 @@ TEST(WideLines, EveryShortTextIsSplitAsAStreamReadsIt)
                                { EXPECT_EQ(linesOf(text), splitByStream(text)) << toUtf8(text); });
 }
 
-// A letter of two bytes, one cut short, one that begins nothing; a blank of another script, whose
-// second byte is a blank in other encodings.
+// The alphabet holds a character of two bytes, its first byte alone, a byte that begins no
+// sequence, and the no-break space, whose second byte alone is a space in Latin-1.
 TEST(Utf8Lines, EveryShortTextGivesTheLinesOfTheDecodedText)
 {
     forEveryText<std::string>({"\n", "\r", " ", ";", "#", "\xC3\xA9", "\xC3", "\xFF", "\xC2\xA0"},
@@ -176,7 +176,7 @@ TEST(Utf8Lines, EveryShortTextGivesTheLinesOfTheDecodedText)
                               });
 }
 
-TEST(Utf8Lines, LineBeforeTheLastOneIsStillThere)
+TEST(Utf8Lines, PreviousLineStaysValid)
 {
     Utf8Lines lines("first\nthe second, which is longer than any room there was\nx\n\nlast");
     std::wstring_view first;
@@ -192,12 +192,12 @@ TEST(Utf8Lines, LineBeforeTheLastOneIsStillThere)
     EXPECT_EQ(first, L"x");
     EXPECT_EQ(second, L"last");
     std::wstring_view none;
-    EXPECT_FALSE(lines.next(none)); // which disturbs neither
+    EXPECT_FALSE(lines.next(none)); // the two texts stay valid at the end
     EXPECT_EQ(first, L"x");
     EXPECT_EQ(second, L"last");
 }
 
-TEST(Utf8Lines, QueueShowsTwoLinesAtOnce)
+TEST(Utf8Lines, QueueHoldsTwoLinesAtOnce)
 {
     std::string bytes;
     Texts expected;

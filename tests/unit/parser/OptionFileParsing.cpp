@@ -29,7 +29,7 @@ class OptionFilesTest : public testing::Test
 protected:
     OptionFilesTest() { option.addName(option_file_name); }
 
-    // Stores a name as a parse does.
+    // Stores the name of a file as a parse does.
     void name(const std::wstring& file)
     {
         OptionResult record;
@@ -117,7 +117,7 @@ TEST_F(OptionFilesTest, FileIsReadOnceWhateverItsName)
     name(folder.name(L".") + L"/file");
     whileParsing = [this, &file](const Texts&)
     {
-        name(file); // itself
+        name(file); // the file names itself
         return result_success;
     };
     EXPECT_EQ(readAll(files), 0);
@@ -190,8 +190,8 @@ TEST_F(OptionFilesTest, TextIsUtf8)
     EXPECT_EQ(parsed, expected);
 }
 
-// Where another option has the name besides its own first one, its first value replaces what the
-// name stood for. There may be fewer values then than were looked at.
+// If another option has "option-file" as a second name, its first value moves the name to its
+// record. That record may have fewer values than were read already.
 TEST_F(OptionFilesTest, NameMayMoveToAShorterRecordMeanwhile)
 {
     OptionDescription other(no_group, false, pool);

@@ -1,5 +1,5 @@
-// The operations that the parser has behind those of its interface, and what a class derived from
-// it sees.
+// The operations that BasicParser adds to its interface, and the calls that a derived class
+// receives.
 #include "parser/BasicParser.h"
 
 #include <memory>
@@ -38,7 +38,7 @@ protected:
         given.emplace(vector);
         arguments.emplace(*given);
     }
-    // What the queue holds, which it holds then as before.
+    // The arguments in the queue, which is left unchanged.
     Texts rest()
     {
         const Texts left = unit::takeAll(*arguments);
@@ -99,7 +99,7 @@ TEST_F(ParserOperations, TraceKeywordIsRemovedFromTheFrontOnly)
     EXPECT_EQ(rest(), (Texts{L"--", L"kexaoption=kexalogenable=1"}));
     EXPECT_EQ(parseVector({L"kexaoption=kexalogenable=1"}), 0);
     EXPECT_EQ(rest(), Texts());
-    EXPECT_EQ(parseVector({}), 0); // which switches the trace off again
+    EXPECT_EQ(parseVector({}), 0); // switches the trace off again
 }
 
 TEST_F(ParserOperations, ResultIsNotNeeded)
@@ -148,7 +148,7 @@ TEST_F(ParserOperations, ActionCheckLooksAtTheResultOnly)
     EXPECT_EQ(message, L"as before");
 }
 
-// Throws from every event.
+// A handler that throws from every event.
 template <class Exception>
 class Thrower final : public EventHandler
 {
@@ -179,7 +179,7 @@ TEST_F(ParserOperations, StandardExceptionPassesThroughAndAnyOtherIsACode)
     EXPECT_THROW(parseVector({L"--name=a"}), OtherException);
 }
 
-// Writes down the virtual calls that reach it.
+// Records the virtual calls that it receives.
 class WatchedParser final : public BasicParser
 {
 public:
@@ -192,7 +192,7 @@ public:
                         std::to_wstring(valueType) + L" " + groupText);
         return refuses ? refused : BasicParser::addOption(names, description, valueType, groupText);
     }
-    // Arguments taken to look at them are passed on in a queue of its own.
+    // The recorded arguments are removed from the queue, so a copy is passed on.
     result_t parseArguments(ArgumentQueue& arguments, IParseResult* result) override
     {
         const Texts taken = unit::takeAll(arguments);
@@ -272,7 +272,7 @@ TEST(DerivedParser, SeesEveryOptionFileAsAVector)
 
 TEST(DerivedParser, IsDestroyedByRelease)
 {
-    // Or a leak checker reports it.
+    // Not deleted here: a leak checker reports it if release() does not destroy it.
     auto parser = std::make_unique<WatchedParser>();
     parser->addOption(L"name", L"", 13, L"");
     parser.release()->release();

@@ -1,4 +1,4 @@
-// What the parser of named options makes of the arguments that it claims.
+// Parsing of arguments that the abbreviation parser recognized.
 #include "recognition/AbbreviationParser.h"
 
 #include <stdexcept>
@@ -21,7 +21,7 @@ protected:
         return run(parser, arguments);
     }
 
-    // A failure with this code and message leaves everything as it was.
+    // Expects a failure with this code and message that removes and stores nothing.
     void expectFailure(const Texts& arguments, int code, std::int64_t optionIndex,
                        const std::wstring& message)
     {
@@ -35,7 +35,7 @@ protected:
         EXPECT_EQ(collector.stored, Texts());
     }
 
-    // A success that stores this and leaves these arguments.
+    // Expects a success that stores this text and leaves these arguments.
     void expectStored(const Texts& arguments, std::int64_t optionIndex, const std::wstring& stored,
                       const Texts& rest)
     {
@@ -193,7 +193,7 @@ TEST_F(AbbreviationParsing, ExceptionOfAHandlerLeavesTheArguments)
     EXPECT_EQ(collector.stored, Texts());
 }
 
-TEST_F(AbbreviationParsing, NothingNeedsToBeStored)
+TEST_F(AbbreviationParsing, CollectorIsOptional)
 {
     add(L"name");
     AbbreviationParser parser(&handler, pool, 0);
@@ -207,7 +207,7 @@ TEST_F(AbbreviationParsing, NothingNeedsToBeStored)
     EXPECT_EQ(handler.events, (Texts{L"option name", L"value name v 0"}));
 }
 
-TEST_F(AbbreviationParsing, NobodyNeedsToListen)
+TEST_F(AbbreviationParsing, HandlerIsOptional)
 {
     add(L"name");
     AbbreviationParser parser(nullptr, pool, 0);

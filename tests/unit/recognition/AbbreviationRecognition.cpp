@@ -1,4 +1,4 @@
-// Which arguments the parser of named options claims.
+// Arguments that the abbreviation parser recognizes.
 #include "recognition/AbbreviationParser.h"
 
 #include <locale>
@@ -83,7 +83,7 @@ TEST_F(AbbreviationRecognition, NameMayBeginWithHyphens)
     EXPECT_EQ(recognize(L"--x"), 1);
 }
 
-TEST_F(AbbreviationRecognition, FormerArgumentIsForgotten)
+TEST_F(AbbreviationRecognition, EarlierArgumentsHaveNoEffect)
 {
     add(L"verbose", value_type_boolean);
     add(L"version");
@@ -101,7 +101,7 @@ TEST_F(AbbreviationRecognition, FormerArgumentIsForgotten)
     EXPECT_EQ(collector.stored, (Texts{L"verbose [0 1=1]"}));
 }
 
-// Calls "_" a space.
+// A locale facet in which "_" is white space.
 class UnderscoreSpace final : public std::ctype<wchar_t>
 {
 protected:

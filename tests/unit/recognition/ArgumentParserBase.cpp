@@ -1,4 +1,4 @@
-// What all argument parsers have in common.
+// The common base of the argument parsers.
 #include "recognition/AbbreviationParser.h"
 #include "recognition/PositionalOptionsParser.h"
 #include "support/Trace.h"
@@ -11,7 +11,7 @@ namespace
 
 using namespace kexa_3_3;
 
-// A kind that has not named itself.
+// A parser that does not override the operation that returns its name.
 class NamelessParser final : public IArgumentParser
 {
 public:

@@ -1,4 +1,4 @@
-// The arguments of a parse run.
+// The queue of arguments of a parse.
 #include "recognition/ArgumentQueue.h"
 
 #include <functional>
@@ -24,7 +24,7 @@ ArgumentQueue queueOf(const Pointers& pointers)
     return ArgumentQueue(std::span(pointers));
 }
 
-// Runs a test on a queue over pointers, then on one over a source.
+// Runs a test with a queue over an array of pointers and with a queue over a source.
 void withBoth(const Texts& texts, const std::function<void(ArgumentQueue&)>& test)
 {
     {
@@ -43,7 +43,7 @@ void withBoth(const Texts& texts, const std::function<void(ArgumentQueue&)>& tes
     test(queue);
 }
 
-TEST(ArgumentQueue, GivesTheArgumentsFromTheFront)
+TEST(ArgumentQueue, ReturnsTheArgumentsFromTheFront)
 {
     withBoth({L"a", L"b", L"c"},
              [](ArgumentQueue& queue)
@@ -60,7 +60,7 @@ TEST(ArgumentQueue, GivesTheArgumentsFromTheFront)
              });
 }
 
-TEST(ArgumentQueue, SecondOneIsSeenWithoutBeingTaken)
+TEST(ArgumentQueue, SecondOneIsReadWithoutBeingRemoved)
 {
     withBoth({L"a", L"b", L"c"},
              [](ArgumentQueue& queue)
@@ -89,8 +89,8 @@ TEST(ArgumentQueue, SecondOneIsSeenWithoutBeingTaken)
              });
 }
 
-// Each bit of the number says whether the second one is asked for before a removal.
-TEST(ArgumentQueue, AskingForTheSecondOneChangesNothing)
+// Bit n of `asked` selects whether the second argument is read before removal n.
+TEST(ArgumentQueue, ReadingTheSecondOneRemovesNothing)
 {
     const Texts texts = {L"a", L"", L"c", L"d", L"e"};
     for (unsigned asked = 0; asked < 32; ++asked)
@@ -161,7 +161,7 @@ TEST(ArgumentQueue, TextsOfPointersAreNotCopied)
     EXPECT_EQ(queue.second().data(), second.data());
 }
 
-TEST(ArgumentQueue, AsksItsSourceForNoMoreThanItNeeds)
+TEST(ArgumentQueue, SourceIsReadNoFurtherThanNeeded)
 {
     GivenArguments given({L"a", L"b", L"c", L"d"});
     ArgumentQueue queue(given);
@@ -178,9 +178,9 @@ TEST(ArgumentQueue, AsksItsSourceForNoMoreThanItNeeds)
     EXPECT_EQ(queue.front(), L"d");
 }
 
-// A value in the next argument is read while its option still is: both live until what follows the
-// second one is asked for.
-TEST(ArgumentQueue, RemovedArgumentLivesUntilTheOneBehindTheNextIsAskedFor)
+// The value of an option may be the next argument: both texts stay valid until the argument after
+// them is read.
+TEST(ArgumentQueue, RemovedArgumentStaysValidUntilTheOneAfterTheNextIsRead)
 {
     GivenArguments given({L"a", L"b", L"c"});
     ArgumentQueue queue(given);

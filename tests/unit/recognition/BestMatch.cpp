@@ -1,4 +1,4 @@
-// Which option a typed name stands for.
+// The option that a typed name or abbreviation selects.
 #include "recognition/BestMatch.h"
 
 #include <string>
@@ -22,7 +22,7 @@ protected:
         return match;
     }
 
-    // The candidate that matches, or "N matches".
+    // The name that matches, or "N matches".
     std::wstring match(const std::wstring& typedName)
     {
         const BestMatch match = find(typedName);
@@ -139,7 +139,7 @@ TEST_F(BestMatchTest, NothingMatchesWithoutOptions)
     EXPECT_EQ(candidates(L"a"), L"");
 }
 
-TEST_F(BestMatchTest, CandidateThatBeginsWithNoIsTold)
+TEST_F(BestMatchTest, NegationAtTheBeginningIsReported)
 {
     add(L"on", value_type_boolean);
     add(L"no-text");

@@ -1,4 +1,4 @@
-// Splitting an argument into name and value, and what counts as a hyphen or as white space.
+// Splitting an argument into name and value; hyphens and white space.
 #include "recognition/OptionArgument.h"
 
 #include <locale>
@@ -136,7 +136,7 @@ TEST(OptionArgument, ZeroCharacterIsACharacter)
                   std::wstring(L"c\0", 2)}});
 }
 
-// Calls "_" a space and " " none.
+// A locale facet in which "_" is white space and " " is not.
 class OddSpaces final : public std::ctype<wchar_t>
 {
 protected:
@@ -173,7 +173,7 @@ TEST(WhiteSpace, IsThatOfTheClassicLocaleAtFirst)
     }
 }
 
-TEST(WhiteSpace, IsThatOfTheGlobalLocaleWhereItIsMade)
+TEST(WhiteSpace, IsThatOfTheGlobalLocaleAtConstruction)
 {
     const WhiteSpace before;
     const OddLocale locale;
@@ -186,7 +186,7 @@ TEST(WhiteSpace, IsThatOfTheGlobalLocaleWhereItIsMade)
     EXPECT_TRUE(before.contains(L' '));
 }
 
-TEST(WhiteSpace, StaysWhenTheLocaleThatGaveItIsGone)
+TEST(WhiteSpace, IsKeptWhenTheLocaleIsDestroyed)
 {
     const WhiteSpace odd = []
     {

@@ -1,4 +1,4 @@
-// The parser of positional arguments.
+// Recognition and parsing of positional arguments.
 #include "recognition/PositionalOptionsParser.h"
 
 #include "Recognition.h"
@@ -73,7 +73,7 @@ TEST_F(PositionalParsing, FirstPositionalOptionOfTheTableGetsTheValue)
     add(L"name");
     OptionDescription& path = add(L"path,p");
     add(L"other").setMarked();
-    path.setMarked(); // later than the other, but before it in the table
+    path.setMarked(); // marked later than the other, but declared before it
     const Outcome outcome = parse({L"--name=a b", L"next"});
     EXPECT_EQ(outcome.recognized, 0);
     EXPECT_EQ(outcome.code, 0);
@@ -84,7 +84,7 @@ TEST_F(PositionalParsing, FirstPositionalOptionOfTheTableGetsTheValue)
     EXPECT_EQ(handler.events, (Texts{L"option path", L"value path --name=a b 0"}));
 }
 
-TEST_F(PositionalParsing, ValueIsCutAtTheSeparator)
+TEST_F(PositionalParsing, ValueIsSplitAtTheSeparator)
 {
     add(L"path").setMarked();
     EXPECT_EQ(parse({L",a,,b", L"next"}).rest, (Texts{L"next"}));
@@ -113,7 +113,7 @@ TEST_F(PositionalParsing, FlagSixteenTakesAllArguments)
     EXPECT_EQ(handler.events.size(), 10U);
 }
 
-TEST_F(PositionalParsing, FlagEightDoesNotStopATakingOfTheRest)
+TEST_F(PositionalParsing, FlagEightDoesNotLimitFlagSixteen)
 {
     add(L"path").setMarked();
     EXPECT_EQ(parse({L"a", L"-b"}, 8 | 16).rest, Texts());

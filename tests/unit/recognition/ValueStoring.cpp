@@ -1,4 +1,4 @@
-// Cutting, converting, offering, numbering and storing a value.
+// Storing a value: splitting, conversion, events, sequence numbers.
 #include "recognition/ValueStoring.h"
 
 #include <limits>
@@ -16,7 +16,7 @@ using toolbox::toUtf8;
 using unit::Texts;
 using vexkit2::variant_t;
 
-// As the program was loaded, before any test.
+// Taken during static initialization, before any test runs.
 const std::int32_t first_sequence_number = nextSequenceNumber();
 
 class ValueStoringTest : public unit::RecognitionTest
@@ -80,7 +80,7 @@ TEST_F(ValueStoringTest, SeparatorsOnlyAreAnError)
     EXPECT_EQ(nextSequenceNumber(), 0);
 }
 
-TEST_F(ValueStoringTest, EmptyValuePeeksAtTheCounter)
+TEST_F(ValueStoringTest, EmptyValueHasTheNextNumberWithoutTakingIt)
 {
     const OptionDescription& option = add(L"o");
     setNextSequenceNumber(7);
@@ -107,7 +107,7 @@ TEST_F(ValueStoringTest, CounterWrapsBeforeTheMarkForNoPosition)
     EXPECT_EQ(nextSequenceNumber(), 0);
 }
 
-TEST_F(ValueStoringTest, RefusedValueHasUsedUpItsNumberAndOneThatDoesNotConvertHasNot)
+TEST_F(ValueStoringTest, RefusedValueTakesANumberAndOneThatDoesNotConvertTakesNone)
 {
     const OptionDescription& option = add(L"o", value_type_integer);
     EXPECT_EQ(store(option, L"1,x,3"), 2);
