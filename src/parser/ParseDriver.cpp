@@ -8,6 +8,7 @@
 #include "options/ValueText.h"
 #include "parser/ArgumentLines.h"
 #include "parser/BasicParser.h"
+#include "parser/CopiedArguments.h"
 #include "parser/OptionFiles.h"
 #include "recognition/AbbreviationParser.h"
 #include "recognition/ArgumentQueue.h"
@@ -85,6 +86,8 @@ std::optional<int> parseFront(ArgumentQueue& arguments, typename Run::Collector*
 
 } // namespace
 
+// Only event handlers could see whether the host's arguments are copied or not: without any, no
+// code of the host runs during a parse. So the copy is made only for them.
 result_t BasicParser::parse(std::int32_t argc, const wchar_t* const* argv, IParseResult* result)
 {
     try
@@ -93,9 +96,18 @@ result_t BasicParser::parse(std::int32_t argc, const wchar_t* const* argv, IPars
         {
             storeDefaults(*result);
         }
-        const bool hasArguments = argv != nullptr && argc > 1;
-        const std::size_t count = hasArguments ? static_cast<std::size_t>(argc) - 1 : 0;
-        ArgumentQueue arguments(std::span(hasArguments ? argv + 1 : nullptr, count));
+        std::span<const wchar_t* const> given;
+        if (argv != nullptr && argc > 1)
+        {
+            given = std::span(argv + 1, static_cast<std::size_t>(argc) - 1);
+        }
+        if (m_events.empty())
+        {
+            ArgumentQueue arguments(given);
+            return parseArguments(arguments, result);
+        }
+        const CopiedArguments copied(given);
+        ArgumentQueue arguments(copied.pointers());
         return parseArguments(arguments, result);
     }
     catch (const std::exception&)
@@ -108,7 +120,14 @@ result_t BasicParser::parseCommandLine(const wchar_t* commandLine, IParseResult*
 {
     try
     {
-        WideLines lines(viewOf(commandLine));
+        std::wstring_view text = viewOf(commandLine);
+        std::wstring copied;
+        if (!m_events.empty())
+        {
+            copied = text;
+            text = copied;
+        }
+        WideLines lines(text);
         ArgumentQueue arguments(lines);
         return parseArguments(arguments, result);
     }
