@@ -58,6 +58,8 @@ public:
     void addCompatibleActions(const std::set<std::wstring>& actions) override;
     ~BasicParser() override;
 
+    // The operations below take null or a result that this library made.
+
     // Parses arguments without a program name: the arguments, what is left of them, the option
     // files, and the action check. Standard exceptions are passed on, any other becomes code 4.
     virtual result_t parseArguments(ArgumentQueue& arguments, IParseResult* result);
@@ -72,15 +74,14 @@ public:
 
 private:
     [[nodiscard]] result_t parseAll(ArgumentQueue& arguments, IParseResult* result);
-    [[nodiscard]] result_t parseOnce(ArgumentQueue& arguments, IParseResult* result,
-                                     ParseResult* filled);
+    [[nodiscard]] result_t parseOnce(ArgumentQueue& arguments, ParseResult* filled);
     [[nodiscard]] result_t collectNonparsingArguments(std::wstring_view endMarker,
                                                       ArgumentQueue& arguments, ParseResult* filled,
                                                       std::wstring& message);
     [[nodiscard]] EventHandler* listeners() noexcept;
     [[nodiscard]] bool takesUnknown(std::wstring_view argument);
     [[nodiscard]] const wchar_t* textForHandlers(std::wstring_view text);
-    void storeDefaults(IParseResult& result) const;
+    void storeDefaults(ParseResult& result) const;
 
     template <class MakeHelp>
     const wchar_t* help(MakeHelp makeHelp);

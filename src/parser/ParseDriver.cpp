@@ -1,15 +1,16 @@
 // BasicParser's way through the arguments of a parse.
 
+#include <cassert>
 #include <exception>
 #include <optional>
 #include <span>
-#include <typeinfo>
 
 #include "options/ValueText.h"
 #include "parser/ArgumentLines.h"
 #include "parser/BasicParser.h"
 #include "parser/CopiedArguments.h"
 #include "parser/OptionFiles.h"
+#include "parser/OwnResult.h"
 #include "recognition/AbbreviationParser.h"
 #include "recognition/ArgumentQueue.h"
 #include "recognition/PositionalOptionsParser.h"
@@ -27,15 +28,11 @@ namespace
 constexpr std::wstring_view end_marker = L"--";
 constexpr std::wstring_view trace_keyword = L"kexaoption=kexalogenable=1";
 
-// A result made by this library, or null: nothing else can be filled.
-ParseResult* fillable(IParseResult* result)
+// The result of a step of a parse: whose it is was found out when the parse began.
+ParseResult* filledBy(IParseResult* result)
 {
-    // ParseResult has no derived classes, so its type is all there is to ask for.
-    if (result == nullptr || typeid(*result) != typeid(ParseResult))
-    {
-        return nullptr;
-    }
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-static-cast-downcast): asked for above.
+    assert(ownResult(result) == result);
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-static-cast-downcast): asserted above.
     return static_cast<ParseResult*>(result);
 }
 
@@ -92,9 +89,10 @@ result_t BasicParser::parse(std::int32_t argc, const wchar_t* const* argv, IPars
 {
     try
     {
-        if (result != nullptr)
+        ParseResult* const filled = ownResult(result);
+        if (filled != nullptr)
         {
-            storeDefaults(*result);
+            storeDefaults(*filled);
         }
         std::span<const wchar_t* const> given;
         if (argv != nullptr && argc > 1)
@@ -104,11 +102,11 @@ result_t BasicParser::parse(std::int32_t argc, const wchar_t* const* argv, IPars
         if (m_events.empty())
         {
             ArgumentQueue arguments(given);
-            return parseArguments(arguments, result);
+            return parseArguments(arguments, filled);
         }
         const CopiedArguments copied(given);
         ArgumentQueue arguments(copied.pointers());
-        return parseArguments(arguments, result);
+        return parseArguments(arguments, filled);
     }
     catch (const std::exception&)
     {
@@ -129,7 +127,7 @@ result_t BasicParser::parseCommandLine(const wchar_t* commandLine, IParseResult*
         }
         WideLines lines(text);
         ArgumentQueue arguments(lines);
-        return parseArguments(arguments, result);
+        return parseArguments(arguments, ownResult(result));
     }
     catch (const std::exception&)
     {
@@ -156,14 +154,14 @@ result_t BasicParser::parseArguments(ArgumentQueue& arguments, IParseResult* res
 
 result_t BasicParser::parseAll(ArgumentQueue& arguments, IParseResult* result)
 {
-    ParseResult* const filled = fillable(result);
+    ParseResult* const filled = filledBy(result);
     if (filled == nullptr)
     {
-        const result_t code = parseOnce(arguments, result, nullptr);
+        const result_t code = parseOnce(arguments, nullptr);
         return code != result_success ? code : checkActions(arguments, result, m_errorMessage);
     }
     OptionFiles files(filled->options());
-    result_t code = parseOnce(arguments, result, filled);
+    result_t code = parseOnce(arguments, filled);
     // Asked now: a handler may have enabled them meanwhile.
     if (code == result_success && m_optionFilesEnabled)
     {
@@ -171,7 +169,7 @@ result_t BasicParser::parseAll(ArgumentQueue& arguments, IParseResult* result)
             [&](ArgumentSource& lines)
             {
                 ArgumentQueue fileArguments(lines);
-                return parseOnce(fileArguments, result, filled);
+                return parseOnce(fileArguments, filled);
             },
             m_errorMessage);
     }
@@ -179,11 +177,9 @@ result_t BasicParser::parseAll(ArgumentQueue& arguments, IParseResult* result)
 }
 
 // The arguments of the command line, or of one option file.
-//
-// filled: the result where this library can fill it, otherwise null.
-result_t BasicParser::parseOnce(ArgumentQueue& arguments, IParseResult* result, ParseResult* filled)
+result_t BasicParser::parseOnce(ArgumentQueue& arguments, ParseResult* filled)
 {
-    const result_t code = parseVector(end_marker, arguments, result, m_errorMessage);
+    const result_t code = parseVector(end_marker, arguments, filled, m_errorMessage);
     if (code != result_success || arguments.empty())
     {
         return code;
@@ -198,7 +194,7 @@ result_t BasicParser::parseVector(std::wstring_view endMarker, ArgumentQueue& ar
     const auto flags = static_cast<std::uint32_t>(m_flags);
     PositionalOptionsParser positional(listeners(), m_strings, flags);
     AbbreviationParser abbreviation(listeners(), m_strings, flags);
-    ParseResult* const collector = fillable(result);
+    ParseResult* const collector = filledBy(result);
 
     while (!arguments.empty() && arguments.front() != endMarker)
     {
@@ -291,23 +287,18 @@ result_t BasicParser::collectNonparsingArguments(std::wstring_view endMarker,
 result_t BasicParser::checkActions(const ArgumentQueue& /*arguments*/, IParseResult* result,
                                    std::wstring& message)
 {
-    ParseResult* const filled = fillable(result);
+    ParseResult* const filled = filledBy(result);
     return filled == nullptr
                ? result_success
                : kexa_3_3::checkActions(filled->options(), m_options, m_compatibleActions, message);
 }
 
 // Hands the result the default of every option that has one.
-void BasicParser::storeDefaults(IParseResult& result) const
+void BasicParser::storeDefaults(ParseResult& result) const
 {
     if (!m_options.index().holdsValues())
     {
         return; // no option has a default
-    }
-    ParseResult* const filled = fillable(&result);
-    if (filled == nullptr)
-    {
-        return;
     }
     for (std::size_t index = 0; index < m_options.size(); ++index)
     {
@@ -321,7 +312,7 @@ void BasicParser::storeDefaults(IParseResult& result) const
         record.defaultText = text;
         record.defaultValue = option.defaultValue;
         record.defaultPosition = no_position;
-        static_cast<void>(filled->storeOption(option, record));
+        static_cast<void>(result.storeOption(option, record));
     }
 }
 
