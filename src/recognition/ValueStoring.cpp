@@ -1,6 +1,7 @@
 #include "recognition/ValueStoring.h"
 
-#include <limits>
+#include <atomic>
+#include <cassert>
 #include <utility>
 
 #include "kexa/event_handler.h"
@@ -27,16 +28,21 @@ constexpr int stored = 0;
 constexpr int refused = 1;
 constexpr int invalid = 2;
 
-// One for the whole process: positions rise from parse to parse, whichever parser gives them.
+// One for the whole process: positions rise from parse to parse, whichever parser gives them. It
+// counts on where the numbers begin at 0 again. Relaxed, as a number guards no other memory: the
+// numbers of one thread rise nevertheless.
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables)
-std::int32_t sequence_counter = 0;
+std::atomic<std::uint64_t> sequence_counter{0};
+
+std::int32_t sequenceNumber(std::uint64_t count) noexcept
+{
+    constexpr std::uint64_t numbers = no_position; // the mark for "no position" is not one of them
+    return static_cast<std::int32_t>(count % numbers);
+}
 
 std::int32_t takeSequenceNumber() noexcept
 {
-    const std::int32_t number = sequence_counter;
-    // 2147483647 marks "no position", so the numbers end before it.
-    sequence_counter = number == std::numeric_limits<std::int32_t>::max() - 1 ? 0 : number + 1;
-    return number;
+    return sequenceNumber(sequence_counter.fetch_add(1, std::memory_order_relaxed));
 }
 
 std::wstring noValueMessage(std::wstring_view value, const OptionDescription& option)
@@ -73,12 +79,13 @@ void storeWithoutValue(const GivenValue& given, Collector* collector)
 
 std::int32_t nextSequenceNumber() noexcept
 {
-    return sequence_counter;
+    return sequenceNumber(sequence_counter.load(std::memory_order_relaxed));
 }
 
 void setNextSequenceNumber(std::int32_t number) noexcept
 {
-    sequence_counter = number;
+    assert(number >= 0 && number < no_position);
+    sequence_counter.store(static_cast<std::uint64_t>(number), std::memory_order_relaxed);
 }
 
 int ValueStoring::store(const GivenValue& given, IResultCollector* collector, std::wstring& error)

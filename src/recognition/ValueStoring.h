@@ -17,8 +17,9 @@ class OptionDescription;
 class SharedTexts;
 enum class ValueVerdict : std::uint8_t;
 
-// The number that the next converted value will get. One counter for the whole process, unguarded:
-// it orders the values of all parsers by the time of their conversion.
+// Returns the number that the next converted value will get. One counter for the whole process
+// numbers the values of all parsers: the numbers rise in each thread, and none is given twice
+// before they begin at 0 again, which is before 2147483647.
 [[nodiscard]] std::int32_t nextSequenceNumber() noexcept;
 
 // Lets the counter go on from a number, so that its wrap can be reached.
