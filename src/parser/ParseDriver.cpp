@@ -160,7 +160,7 @@ result_t BasicParser::parseAll(ArgumentQueue& arguments, IParseResult* result)
         const result_t code = parseOnce(arguments, nullptr);
         return code != result_success ? code : checkActions(arguments, result, m_errorMessage);
     }
-    OptionFiles files(filled->options());
+    OptionFiles files(*filled);
     result_t code = parseOnce(arguments, filled);
     // Asked now: a handler may have enabled them meanwhile.
     if (code == result_success && m_optionFilesEnabled)
