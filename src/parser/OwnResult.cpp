@@ -3,8 +3,6 @@
 #include <cstring>
 #include <type_traits>
 
-#include "result/ParseResult.h"
-
 namespace kexa_3_3
 {
 

@@ -1,6 +1,5 @@
-// BasicParser's way through the arguments of a parse.
+// The steps of a parse by BasicParser.
 
-#include <cassert>
 #include <exception>
 #include <optional>
 #include <span>
@@ -11,13 +10,9 @@
 #include "parser/CopiedArguments.h"
 #include "parser/OptionFiles.h"
 #include "parser/OwnResult.h"
-#include "recognition/AbbreviationParser.h"
 #include "recognition/ArgumentQueue.h"
-#include "recognition/PositionalOptionsParser.h"
-#include "recognition/Runs.h"
 #include "result/ParseResult.h"
 #include "support/Text.h"
-#include "support/Trace.h"
 
 namespace kexa_3_3
 {
@@ -26,65 +21,21 @@ namespace
 {
 
 constexpr std::wstring_view end_marker = L"--";
-constexpr std::wstring_view trace_keyword = L"kexaoption=kexalogenable=1";
 
-// The result of a step of a parse: whose it is was found out when the parse began.
-ParseResult* filledBy(IParseResult* result)
+// Returns a host's argument vector without the program's name.
+std::span<const wchar_t* const> withoutProgramName(std::int32_t argc, const wchar_t* const* argv)
 {
-    assert(ownResult(result) == result);
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-static-cast-downcast): asserted above.
-    return static_cast<ParseResult*>(result);
-}
-
-// The keyword counts as the first argument only, and is never parsed.
-void switchTraceBy(ArgumentQueue& arguments)
-{
-    switchTrace(false);
-    if (!arguments.empty() && arguments.front() == trace_keyword)
+    if (argv == nullptr || argc < 2)
     {
-        switchTrace(true);
-        arguments.removeFront();
+        return {};
     }
-}
-
-// Lets the parser with the highest priority among those that claim the front argument parse it.
-// They are asked in the order given. Answers the code, or nothing where none claims the argument.
-template <class Run, class... Parsers>
-std::optional<int> parseFront(ArgumentQueue& arguments, typename Run::Collector* collector,
-                              const RegisteredOptionStorage& options, std::wstring& message,
-                              Parsers&... chain)
-{
-    const IArgumentParser* best = nullptr;
-    std::int32_t bestPriority = -99999999;
-    const auto ask = [&](auto& parser) // by its own type, which spares virtual calls
-    {
-        const int answer = parser.template recognizeIn<Run>(arguments, options, message);
-        if (answer == IArgumentParser::claimed && parser.priority() > bestPriority)
-        {
-            best = &parser;
-            bestPriority = parser.priority();
-        }
-    };
-    (ask(chain), ...);
-
-    std::optional<int> code;
-    const auto parseIfBest = [&](auto& parser)
-    {
-        if (&parser == best)
-        {
-            std::int64_t optionIndex = -1;
-            code =
-                parser.template parseIn<Run>(arguments, collector, options, optionIndex, message);
-        }
-    };
-    (parseIfBest(chain), ...);
-    return code;
+    return std::span(argv, static_cast<std::size_t>(argc)).subspan(1);
 }
 
 } // namespace
 
-// Only event handlers could see whether the host's arguments are copied or not: without any, no
-// code of the host runs during a parse. So the copy is made only for them.
+// Event handlers are the only code of the host that runs during a parse, so that only they could
+// see whether the host's arguments are copied: without handlers nothing is.
 result_t BasicParser::parse(std::int32_t argc, const wchar_t* const* argv, IParseResult* result)
 {
     try
@@ -94,11 +45,7 @@ result_t BasicParser::parse(std::int32_t argc, const wchar_t* const* argv, IPars
         {
             storeDefaults(*filled);
         }
-        std::span<const wchar_t* const> given;
-        if (argv != nullptr && argc > 1)
-        {
-            given = std::span(argv + 1, static_cast<std::size_t>(argc) - 1);
-        }
+        const std::span<const wchar_t* const> given = withoutProgramName(argc, argv);
         if (m_events.empty())
         {
             ArgumentQueue arguments(given);
@@ -114,6 +61,7 @@ result_t BasicParser::parse(std::int32_t argc, const wchar_t* const* argv, IPars
     }
 }
 
+// Copies for handlers as parse does.
 result_t BasicParser::parseCommandLine(const wchar_t* commandLine, IParseResult* result)
 {
     try
@@ -139,7 +87,7 @@ result_t BasicParser::parseArguments(ArgumentQueue& arguments, IParseResult* res
 {
     try
     {
-        return parseAll(arguments, result);
+        return runSteps(arguments, filledBy(result));
     }
     catch (const std::exception&)
     {
@@ -152,136 +100,37 @@ result_t BasicParser::parseArguments(ArgumentQueue& arguments, IParseResult* res
     }
 }
 
-result_t BasicParser::parseAll(ArgumentQueue& arguments, IParseResult* result)
+// Each step ends the parse with its code when that is not success.
+result_t BasicParser::runSteps(ArgumentQueue& arguments, ParseResult* result)
 {
-    ParseResult* const filled = filledBy(result);
-    if (filled == nullptr)
+    std::optional<OptionFiles> files;
+    if (result != nullptr)
     {
-        const result_t code = parseOnce(arguments, nullptr);
-        return code != result_success ? code : checkActions(arguments, result, m_errorMessage);
+        files.emplace(*result);
     }
-    OptionFiles files(*filled);
-    result_t code = parseOnce(arguments, filled);
-    // Asked now: a handler may have enabled them meanwhile.
-    if (code == result_success && m_optionFilesEnabled)
+    result_t code = parseAndCollect(arguments, result);
+    // Looked up now: a handler may have enabled option files meanwhile.
+    if (code == result_success && m_optionFilesEnabled && files.has_value())
     {
-        code = files.readAll(
-            [&](ArgumentSource& lines)
-            {
-                ArgumentQueue fileArguments(lines);
-                return parseOnce(fileArguments, filled);
-            },
-            m_errorMessage);
+        const auto parseFile = [this, result](ArgumentSource& lines)
+        {
+            ArgumentQueue fileArguments(lines);
+            return parseAndCollect(fileArguments, result);
+        };
+        code = files->readAll(parseFile, m_errorMessage);
     }
-    return code != result_success ? code : checkActions(arguments, result, m_errorMessage);
+    return code == result_success ? checkActions(arguments, result, m_errorMessage) : code;
 }
 
-// The arguments of the command line, or of one option file.
-result_t BasicParser::parseOnce(ArgumentQueue& arguments, ParseResult* filled)
+// Parses the arguments of the command line or of one option file, those behind the end marker too.
+result_t BasicParser::parseAndCollect(ArgumentQueue& arguments, ParseResult* result)
 {
-    const result_t code = parseVector(end_marker, arguments, filled, m_errorMessage);
+    const result_t code = parseVector(end_marker, arguments, result, m_errorMessage);
     if (code != result_success || arguments.empty())
     {
         return code;
     }
-    return collectNonparsingArguments(end_marker, arguments, filled, m_errorMessage);
-}
-
-result_t BasicParser::parseVector(std::wstring_view endMarker, ArgumentQueue& arguments,
-                                  IParseResult* result, std::wstring& message)
-{
-    switchTraceBy(arguments);
-    const auto flags = static_cast<std::uint32_t>(m_flags);
-    PositionalOptionsParser positional(listeners(), m_strings, flags);
-    AbbreviationParser abbreviation(listeners(), m_strings, flags);
-    ParseResult* const collector = filledBy(result);
-
-    while (!arguments.empty() && arguments.front() != endMarker)
-    {
-        // Asked for each argument: a handler may switch it.
-        const std::optional<int> code =
-            traceIsOn() ? parseFront<AnyRun>(arguments, collector, m_options, message, positional,
-                                             abbreviation)
-                        : parseFront<UsualRun>(arguments, collector, m_options, message, positional,
-                                               abbreviation);
-        if (code.has_value())
-        {
-            if (*code != 0)
-            {
-                return static_cast<result_t>(*code);
-            }
-            continue;
-        }
-        const std::wstring_view argument = arguments.front();
-        if (takesUnknown(argument))
-        {
-            traceLine(L"ignoring ", argument);
-            arguments.removeFront();
-            continue;
-        }
-        message = concatenate({L"Unknown option: ", argument});
-        return result_invalid_arguments;
-    }
-    return result_success;
-}
-
-// Who hears of events during a parse, or null. Nobody starts to listen in the middle of one: only a
-// handler could add another.
-EventHandler* BasicParser::listeners() noexcept
-{
-    return m_events.empty() ? nullptr : &m_events;
-}
-
-// Offers an unknown argument to the handlers. Answers whether it may be dropped.
-bool BasicParser::takesUnknown(std::wstring_view argument)
-{
-    const bool isError = (m_flags & flag_unknown_is_error) != 0;
-    // An argument is terminated only where the host's is: the handlers get a text of the pool.
-    const bool unknown = m_events.empty() || m_events.onUnknownArgument(textForHandlers(argument));
-    return !(isError && unknown);
-}
-
-// Takes the arguments behind the marker: positional ones are parsed, the others kept as left over.
-result_t BasicParser::collectNonparsingArguments(std::wstring_view endMarker,
-                                                 ArgumentQueue& arguments, ParseResult* filled,
-                                                 std::wstring& message)
-{
-    constexpr std::wstring_view prefix = L"collectNonparsingArguments: ";
-    auto flags = static_cast<std::uint32_t>(m_flags);
-    if ((m_flags & flag_any_positional_after_marker) != 0)
-    {
-        flags &= ~static_cast<std::uint32_t>(flag_no_hyphen_positional);
-    }
-    PositionalOptionsParser positional(listeners(), m_strings, flags);
-
-    if (!arguments.empty() && arguments.front() == endMarker)
-    {
-        arguments.removeFront();
-    }
-    while (!arguments.empty())
-    {
-        const int recognized = positional.recognize(arguments, m_options, message);
-        traceLine(prefix, L"recognize result: ", recognized, L", message: ", viewOf(message));
-        if (recognized != IArgumentParser::claimed)
-        {
-            const std::wstring_view argument = arguments.front();
-            if (filled != nullptr)
-            {
-                filled->addUnparsed(argument);
-            }
-            traceLine(prefix, L"stored argument: '", argument, L"'");
-            arguments.removeFront();
-            continue;
-        }
-        std::int64_t optionIndex = -1;
-        const int code = positional.parse(arguments, filled, m_options, optionIndex, message);
-        traceLine(prefix, L"parse result: ", code, L", message: ", viewOf(message));
-        if (code != 0)
-        {
-            return static_cast<result_t>(code);
-        }
-    }
-    return result_success;
+    return collectNonparsingArguments(end_marker, arguments, result, m_errorMessage);
 }
 
 result_t BasicParser::checkActions(const ArgumentQueue& /*arguments*/, IParseResult* result,
@@ -293,7 +142,7 @@ result_t BasicParser::checkActions(const ArgumentQueue& /*arguments*/, IParseRes
                : kexa_3_3::checkActions(filled->options(), m_options, m_compatibleActions, message);
 }
 
-// Hands the result the default of every option that has one.
+// Stores the default of every option that has one.
 void BasicParser::storeDefaults(ParseResult& result) const
 {
     if (!m_options.index().holdsValues())
