@@ -40,11 +40,11 @@ struct ArgumentParsers
 };
 
 // Offers the front argument to both parsers and lets one that claims it parse it: the one with the
-// higher priority when both do. Returns its code, or nothing when none claims the argument.
+// higher priority when both do. Returns its status, or nothing when none claims the argument.
 template <class Run>
-std::optional<int> parseFront(ArgumentParsers& parsers, ArgumentQueue& arguments,
-                              ParseResult* result, const RegisteredOptionStorage& options,
-                              std::wstring& message)
+std::optional<ParseStatus> parseFront(ArgumentParsers& parsers, ArgumentQueue& arguments,
+                                      ParseResult* result, const RegisteredOptionStorage& options,
+                                      std::wstring& message)
 {
     constexpr int claimed = IArgumentParser::claimed;
     auto& [positional, abbreviation] = parsers;
@@ -76,19 +76,19 @@ result_t BasicParser::parseVector(std::wstring_view endMarker, ArgumentQueue& ar
     while (!arguments.empty() && arguments.front() != endMarker)
     {
         // Looked up for each argument: a handler may switch the trace.
-        const std::optional<int> code =
+        const std::optional<ParseStatus> status =
             traceIsOn() ? parseFront<AnyRun>(parsers, arguments, filled, m_options, message)
                         : parseFront<UsualRun>(parsers, arguments, filled, m_options, message);
-        if (!code.has_value())
+        if (!status.has_value())
         {
             if (!dropUnknown(arguments, message))
             {
                 return result_invalid_arguments;
             }
         }
-        else if (*code != 0)
+        else if (*status != ParseStatus::parsed)
         {
-            return static_cast<result_t>(*code);
+            return resultOf(*status);
         }
     }
     return result_success;
@@ -154,11 +154,12 @@ result_t BasicParser::collectNonparsingArguments(std::wstring_view endMarker,
             continue;
         }
         std::int64_t optionIndex = OptionIndex::none;
-        const int code = positional.parse(arguments, result, m_options, optionIndex, message);
+        const result_t code =
+            resultOf(positional.parse(arguments, result, m_options, optionIndex, message));
         traceLine(prefix, L"parse result: ", code, L", message: ", viewOf(message));
-        if (code != 0)
+        if (code != result_success)
         {
-            return static_cast<result_t>(code);
+            return code;
         }
     }
     return result_success;

@@ -11,6 +11,7 @@
 
 #include "options/OptionDescription.h"
 #include "recognition/ArgumentQueue.h"
+#include "recognition/ParseStatus.h"
 #include "support/Trace.h"
 
 namespace kexa_3_3
@@ -40,11 +41,11 @@ public:
     // optionIndex: receives the index of the option parsed.
     // error:       receives the message of a failure.
     //
-    // Answers 0, the arguments used having been removed from the front; 2 with a message, the
-    // failing argument and those behind it being unchanged; or another code from storing the value.
-    virtual int parse(ArgumentQueue& arguments, IResultCollector* collector,
-                      const RegisteredOptionStorage& options, std::int64_t& optionIndex,
-                      std::wstring& error) = 0;
+    // Returns `parsed`, the used arguments being removed from the front; otherwise, with a message,
+    // the failing argument and those behind it are still there.
+    virtual ParseStatus parse(ArgumentQueue& arguments, IResultCollector* collector,
+                              const RegisteredOptionStorage& options, std::int64_t& optionIndex,
+                              std::wstring& error) = 0;
 
     // What messages about one argument end with.
     [[nodiscard]] virtual std::wstring formatArgumentContext(std::wstring_view argument) const;

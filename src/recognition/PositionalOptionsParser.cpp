@@ -28,9 +28,9 @@ int PositionalOptionsParser::recognize(const ArgumentQueue& arguments,
     return recognizeIn<AnyRun>(arguments, options, message);
 }
 
-int PositionalOptionsParser::parse(ArgumentQueue& arguments, IResultCollector* collector,
-                                   const RegisteredOptionStorage& options,
-                                   std::int64_t& optionIndex, std::wstring& error)
+ParseStatus PositionalOptionsParser::parse(ArgumentQueue& arguments, IResultCollector* collector,
+                                           const RegisteredOptionStorage& options,
+                                           std::int64_t& optionIndex, std::wstring& error)
 {
     return parseIn<AnyRun>(arguments, collector, options, optionIndex, error);
 }
@@ -50,9 +50,10 @@ int PositionalOptionsParser::recognizeIn(const ArgumentQueue& arguments,
 }
 
 template <class Run>
-int PositionalOptionsParser::parseIn(ArgumentQueue& arguments, typename Run::Collector* collector,
-                                     const RegisteredOptionStorage& options,
-                                     std::int64_t& optionIndex, std::wstring& error)
+ParseStatus PositionalOptionsParser::parseIn(ArgumentQueue& arguments,
+                                             typename Run::Collector* collector,
+                                             const RegisteredOptionStorage& options,
+                                             std::int64_t& optionIndex, std::wstring& error)
 {
     trace<Run>(L": parsing argument '", arguments.front(), L"'");
     optionIndex = options.index().firstPositional();
@@ -62,51 +63,51 @@ int PositionalOptionsParser::parseIn(ArgumentQueue& arguments, typename Run::Col
     {
         const std::wstring_view argument = arguments.front();
         const GivenValue given = {option, argument, argument};
-        int code = 0;
+        ParseStatus status = ParseStatus::parsed;
         if (owner() == nullptr) [[likely]]
         {
-            code = storeAndRemove<Run>(given, collector, arguments, error);
+            status = storeAndRemove<Run>(given, collector, arguments, error);
         }
         else
         {
             reportOption(option);
             // From here on a handler may have switched the trace on.
             using Watched = WatchedRun<typename Run::Collector>;
-            code = storeAndRemove<Watched>(given, collector, arguments, error);
+            status = storeAndRemove<Watched>(given, collector, arguments, error);
         }
-        if (code != 0)
+        if (status != ParseStatus::parsed)
         {
-            return code;
+            return status;
         }
     } while (!arguments.empty() && hasFlag(flag_positional_takes_rest));
-    return 0;
+    return ParseStatus::parsed;
 }
 
 template <class Run>
-int PositionalOptionsParser::storeAndRemove(const GivenValue& given,
-                                            typename Run::Collector* collector,
-                                            ArgumentQueue& arguments, std::wstring& error)
+ParseStatus PositionalOptionsParser::storeAndRemove(const GivenValue& given,
+                                                    typename Run::Collector* collector,
+                                                    ArgumentQueue& arguments, std::wstring& error)
 {
-    const int code = m_storing.storeIn<Run>(given, collector, error);
-    if (code == 0)
+    const ParseStatus status = m_storing.storeIn<Run>(given, collector, error);
+    if (status == ParseStatus::parsed)
     {
         trace<Run>(L": removing argument: '", given.argument, L"'");
         arguments.removeFront();
     }
-    return code;
+    return status;
 }
 
 template int PositionalOptionsParser::recognizeIn<AnyRun>(const ArgumentQueue&,
                                                           const RegisteredOptionStorage&,
                                                           std::wstring&);
-template int PositionalOptionsParser::parseIn<AnyRun>(ArgumentQueue&, IResultCollector*,
-                                                      const RegisteredOptionStorage&, std::int64_t&,
-                                                      std::wstring&);
+template ParseStatus PositionalOptionsParser::parseIn<AnyRun>(ArgumentQueue&, IResultCollector*,
+                                                              const RegisteredOptionStorage&,
+                                                              std::int64_t&, std::wstring&);
 template int PositionalOptionsParser::recognizeIn<UsualRun>(const ArgumentQueue&,
                                                             const RegisteredOptionStorage&,
                                                             std::wstring&);
-template int PositionalOptionsParser::parseIn<UsualRun>(ArgumentQueue&, ParseResult*,
-                                                        const RegisteredOptionStorage&,
-                                                        std::int64_t&, std::wstring&);
+template ParseStatus PositionalOptionsParser::parseIn<UsualRun>(ArgumentQueue&, ParseResult*,
+                                                                const RegisteredOptionStorage&,
+                                                                std::int64_t&, std::wstring&);
 
 } // namespace kexa_3_3

@@ -18,25 +18,26 @@ public:
 
     int recognize(const ArgumentQueue& arguments, const RegisteredOptionStorage& options,
                   std::wstring& message) override;
-    int parse(ArgumentQueue& arguments, IResultCollector* collector,
-              const RegisteredOptionStorage& options, std::int64_t& optionIndex,
-              std::wstring& error) override;
+    ParseStatus parse(ArgumentQueue& arguments, IResultCollector* collector,
+                      const RegisteredOptionStorage& options, std::int64_t& optionIndex,
+                      std::wstring& error) override;
 
     // Both in a run of one kind (Runs.h), without virtual calls.
     template <class Run>
     int recognizeIn(const ArgumentQueue& arguments, const RegisteredOptionStorage& options,
                     std::wstring& message);
     template <class Run>
-    int parseIn(ArgumentQueue& arguments, typename Run::Collector* collector,
-                const RegisteredOptionStorage& options, std::int64_t& optionIndex,
-                std::wstring& error);
+    ParseStatus parseIn(ArgumentQueue& arguments, typename Run::Collector* collector,
+                        const RegisteredOptionStorage& options, std::int64_t& optionIndex,
+                        std::wstring& error);
 
     [[nodiscard]] std::int32_t priority() const noexcept override { return -100; }
 
 private:
     template <class Run>
-    [[nodiscard]] int storeAndRemove(const GivenValue& given, typename Run::Collector* collector,
-                                     ArgumentQueue& arguments, std::wstring& error);
+    [[nodiscard]] ParseStatus storeAndRemove(const GivenValue& given,
+                                             typename Run::Collector* collector,
+                                             ArgumentQueue& arguments, std::wstring& error);
 
     ValueStoring m_storing;
 };

@@ -24,10 +24,6 @@ namespace kexa_3_3
 namespace
 {
 
-constexpr int stored = 0;
-constexpr int refused = 1;
-constexpr int invalid = 2;
-
 // One for the whole process: positions rise from parse to parse, whichever parser gives them. It
 // counts on where the numbers begin at 0 again. Relaxed, as a number guards no other memory: the
 // numbers of one thread rise nevertheless.
@@ -88,7 +84,8 @@ void setNextSequenceNumber(std::int32_t number) noexcept
     sequence_counter.store(static_cast<std::uint64_t>(number), std::memory_order_relaxed);
 }
 
-int ValueStoring::store(const GivenValue& given, IResultCollector* collector, std::wstring& error)
+ParseStatus ValueStoring::store(const GivenValue& given, IResultCollector* collector,
+                                std::wstring& error)
 {
     return storeIn<AnyRun>(given, collector, error);
 }
@@ -100,28 +97,28 @@ void ValueStoring::trace(Pieces... pieces) const
 }
 
 template <class Run>
-int ValueStoring::storeIn(const GivenValue& given, typename Run::Collector* collector,
-                          std::wstring& error)
+ParseStatus ValueStoring::storeIn(const GivenValue& given, typename Run::Collector* collector,
+                                  std::wstring& error)
 {
-    int code = stored;
+    ParseStatus status = ParseStatus::parsed;
     if (given.value.empty())
     {
         storeWithoutValue(given, collector);
     }
     else
     {
-        code = storeValue<Run>(given, collector, error);
+        status = storeValue<Run>(given, collector, error);
     }
-    if (code == stored)
+    if (status == ParseStatus::parsed)
     {
         trace<Run>(L": stored option to result container.");
     }
-    return code;
+    return status;
 }
 
 template <class Run>
-int ValueStoring::storeValue(const GivenValue& given, typename Run::Collector* collector,
-                             std::wstring& error)
+ParseStatus ValueStoring::storeValue(const GivenValue& given, typename Run::Collector* collector,
+                                     std::wstring& error)
 {
     const wchar_t separator = given.option.separator; // which handlers may change later
     trace<Run>(L": adding values to result container:");
@@ -140,28 +137,29 @@ int ValueStoring::storeValue(const GivenValue& given, typename Run::Collector* c
     }
     SharedTexts* const texts = textsOf(collector);
     ValueEntry entry = {given.value, convertValue(given.option.valueType, given.value, texts)};
-    if (const int code = accept<Run>(given, separator != 0, texts, entry, error); code != stored)
+    if (const ParseStatus status = accept<Run>(given, separator != 0, texts, entry, error);
+        status != ParseStatus::parsed)
     {
-        return code;
+        return status;
     }
     if (collector != nullptr)
     {
         static_cast<void>(collector->storeValue(given.option, entry));
     }
-    return stored;
+    return ParseStatus::parsed;
 }
 
 template <class Run>
-int ValueStoring::storePieces(const GivenValue& given, wchar_t separator,
-                              typename Run::Collector* collector, std::wstring& error)
+ParseStatus ValueStoring::storePieces(const GivenValue& given, wchar_t separator,
+                                      typename Run::Collector* collector, std::wstring& error)
 {
     SharedTexts* const texts = textsOf(collector);
     OptionResult record;
-    int code = stored;
+    ParseStatus status = ParseStatus::parsed;
     forEachPiece(given.value, separator,
                  [&](std::wstring_view piece)
                  {
-                     if (code == stored)
+                     if (status == ParseStatus::parsed)
                      {
                          trace<Run>(L": value is: '", piece, L"'");
                          // Room first: behind a failure with a message nothing may throw.
@@ -169,7 +167,7 @@ int ValueStoring::storePieces(const GivenValue& given, wchar_t separator,
                          ValueEntry& entry = record.values.emplace_back();
                          entry.value = convertValue(given.option.valueType, piece, texts);
                          entry.text = piece;
-                         code = accept<Run>(given, true, texts, entry, error);
+                         status = accept<Run>(given, true, texts, entry, error);
                          record.positions.back() = entry.position;
                      }
                  });
@@ -177,13 +175,13 @@ int ValueStoring::storePieces(const GivenValue& given, wchar_t separator,
     {
         error = noValueMessage(given.value, given.option);
         trace<Run>(L": ", viewOf(error));
-        return invalid;
+        return ParseStatus::invalid;
     }
-    if (code == stored && collector != nullptr)
+    if (status == ParseStatus::parsed && collector != nullptr)
     {
         static_cast<void>(collector->storeOption(given.option, record));
     }
-    return code;
+    return status;
 }
 
 // Checks a converted piece of the value, numbers it and offers it to the event handlers.
@@ -192,8 +190,8 @@ int ValueStoring::storePieces(const GivenValue& given, wchar_t separator,
 //        its number, and completed or replaced where the check says so. Where a handler throws it
 //        has lost its value.
 template <class Run>
-inline int ValueStoring::accept(const GivenValue& given, [[maybe_unused]] bool isCut,
-                                SharedTexts* texts, ValueEntry& entry, std::wstring& error)
+inline ParseStatus ValueStoring::accept(const GivenValue& given, [[maybe_unused]] bool isCut,
+                                        SharedTexts* texts, ValueEntry& entry, std::wstring& error)
 {
     const ValueVerdict verdict = checkValue(given.option, entry.text, entry.value, texts);
     if (isRejected(verdict)) [[unlikely]]
@@ -217,7 +215,7 @@ inline int ValueStoring::accept(const GivenValue& given, [[maybe_unused]] bool i
     {
         entry.text = finalText(given.option, entry.value);
     }
-    return stored;
+    return ParseStatus::parsed;
 }
 
 // Lets the event handlers, which there must be, see a value. Answers whether they accept it.
@@ -237,27 +235,29 @@ void ValueStoring::traceOffer(const GivenValue& given, std::wstring_view piece) 
 }
 
 // Says that a piece of the value is none for the option.
-int ValueStoring::reject(ValueVerdict verdict, std::wstring_view piece, const GivenValue& given,
-                         std::wstring& error) const
+ParseStatus ValueStoring::reject(ValueVerdict verdict, std::wstring_view piece,
+                                 const GivenValue& given, std::wstring& error) const
 {
     error = concatenate({L"Value validation problem in argument '", given.argument, L"': ",
                          rejectionMessage(verdict, given.option, piece)});
     trace<AnyRun>(L": ", viewOf(error));
-    return invalid;
+    return ParseStatus::invalid;
 }
 
 // Says that a handler refused a value.
-int ValueStoring::refuse(const GivenValue& given, std::wstring& error) const
+ParseStatus ValueStoring::refuse(const GivenValue& given, std::wstring& error) const
 {
     error = concatenate({L"Value '", given.value, L"' is not valid for option '",
                          given.option.primaryName(), L"' in argument '", given.argument, L"'"});
     trace<AnyRun>(viewOf(error), L" One of the handler signaled the value is not valid.");
-    return refused;
+    return ParseStatus::refused;
 }
 
-template int ValueStoring::storeIn<AnyRun>(const GivenValue&, IResultCollector*, std::wstring&);
-template int ValueStoring::storeIn<WatchedRun<ParseResult>>(const GivenValue&, ParseResult*,
-                                                            std::wstring&);
-template int ValueStoring::storeIn<UsualRun>(const GivenValue&, ParseResult*, std::wstring&);
+template ParseStatus ValueStoring::storeIn<AnyRun>(const GivenValue&, IResultCollector*,
+                                                   std::wstring&);
+template ParseStatus ValueStoring::storeIn<WatchedRun<ParseResult>>(const GivenValue&, ParseResult*,
+                                                                    std::wstring&);
+template ParseStatus ValueStoring::storeIn<UsualRun>(const GivenValue&, ParseResult*,
+                                                     std::wstring&);
 
 } // namespace kexa_3_3
