@@ -82,7 +82,7 @@ bool AbbreviationParser::findMatch(std::wstring_view argument, const OptionIndex
         return false;
     }
     splitOptionArgument(argument, m_whiteSpace, m_split);
-    findBestMatch(m_match, index, m_split.name);
+    m_match = findBestMatch(index, m_split.name);
     if (m_match.count > 1) [[unlikely]]
     {
         m_candidateList = listCandidates(index, m_split.name);

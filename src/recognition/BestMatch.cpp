@@ -5,8 +5,13 @@
 namespace kexa_3_3
 {
 
-BestMatch matchBeginning(const OptionIndex& index, std::wstring_view typedName)
+BestMatch findBestMatch(const OptionIndex& index, const HashedText& typedName)
 {
+    const std::int64_t exact = index.findAnswering(typedName);
+    if (exact != OptionIndex::none)
+    {
+        return {1, exact, typedName, false};
+    }
     const OptionIndex::PrefixMatches matches = index.matchPrefix(typedName);
     return {matches.count, matches.option, matches.name, matches.negated};
 }

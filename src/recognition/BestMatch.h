@@ -1,4 +1,4 @@
-// Which option a typed name stands for.
+// Finds the option that a typed name stands for.
 #pragma once
 
 #include <cstddef>
@@ -12,18 +12,19 @@
 namespace kexa_3_3
 {
 
+// The candidates are the names of all options and, for boolean options, each name with "no-" in
+// front.
 struct BestMatch
 {
-    // How many candidates match: 0 unknown, 1 found, more: ambiguous. The candidates are the names
-    // of all options and, for boolean ones, "no-" before them.
+    // How many candidates match. 0: the name is unknown; more than 1: it is ambiguous.
     std::size_t count = 0;
 
-    // Where count is 1: the option's index, and the matching candidate, `prefix` (empty or "no-")
-    // and `name` one after the other.
+    // Set when count is 1: the option's index, and the candidate as `prefix` followed by `name`.
     std::int64_t option = OptionIndex::none;
     std::wstring_view name;
     bool negated = false;
 
+    // Empty or "no-".
     [[nodiscard]] std::wstring_view prefix() const noexcept
     {
         return negated ? negation : std::wstring_view();
@@ -34,30 +35,14 @@ struct BestMatch
     }
 };
 
-// What a name stands for that equals no candidate.
-[[nodiscard]] BestMatch matchBeginning(const OptionIndex& index, std::wstring_view typedName);
+// Returns the candidate that equals the typed name, even when it also begins others; otherwise the
+// candidates that begin with the typed name. Case counts.
+//
+// typedName: must live as long as the result is used.
+[[nodiscard]] BestMatch findBestMatch(const OptionIndex& index, const HashedText& typedName);
 
-// A name that equals a candidate stands for it alone, even where it begins others; otherwise the
-// candidates that begin with it match. Case counts. The texts of the answer are those given.
-inline void findBestMatch(BestMatch& match, const OptionIndex& index, const HashedText& typedName)
-{
-    const std::int64_t exact = index.findAnswering(typedName);
-    if (exact != OptionIndex::none)
-    {
-        // In words: where what was just written in words is read in larger pieces, the processor
-        // waits.
-        match.count = 1;
-        match.option = exact;
-        match.name = std::wstring_view(typedName.data(), typedName.size());
-        match.negated = false;
-    }
-    else
-    {
-        match = matchBeginning(index, typedName);
-    }
-}
-
-// All candidates that begin with the name, in table order, each in quotes, separated by ", ".
+// Returns all candidates that begin with the name, in table order, each in quotes, separated by
+// ", ".
 [[nodiscard]] std::wstring listCandidates(const OptionIndex& index, std::wstring_view typedName);
 
 } // namespace kexa_3_3
