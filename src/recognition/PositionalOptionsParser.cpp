@@ -1,5 +1,6 @@
 #include "recognition/PositionalOptionsParser.h"
 
+#include <cassert>
 #include <string_view>
 
 #include "kexa/parser.h"
@@ -40,6 +41,7 @@ int PositionalOptionsParser::recognizeIn(const ArgumentQueue& arguments,
                                          const RegisteredOptionStorage& options,
                                          std::wstring& /*message*/)
 {
+    assert(!arguments.empty());
     const std::wstring_view argument = arguments.front();
     trace<Run>(L": recognizing argument '", argument, L"'");
     if (hasFlag(flag_no_hyphen_positional) && !argument.empty() && argument.front() == L'-')
@@ -55,8 +57,10 @@ ParseStatus PositionalOptionsParser::parseIn(ArgumentQueue& arguments,
                                              const RegisteredOptionStorage& options,
                                              std::int64_t& optionIndex, std::wstring& error)
 {
+    assert(!arguments.empty());
     trace<Run>(L": parsing argument '", arguments.front(), L"'");
     optionIndex = options.index().firstPositional();
+    assert(optionIndex != OptionIndex::none);
     const OptionDescription& option = options[static_cast<std::size_t>(optionIndex)];
     trace<Run>(L": option is '", option.primaryName(), L"'");
     do
@@ -71,7 +75,7 @@ ParseStatus PositionalOptionsParser::parseIn(ArgumentQueue& arguments,
         else
         {
             reportOption(option);
-            // From here on a handler may have switched the trace on.
+            // A handler may have switched the trace on.
             using Watched = WatchedRun<typename Run::Collector>;
             status = storeAndRemove<Watched>(given, collector, arguments, error);
         }

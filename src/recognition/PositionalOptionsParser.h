@@ -1,4 +1,4 @@
-// Arguments that no option names, bound to the positional option.
+// Recognises arguments that are values of the positional option.
 #pragma once
 
 #include <cstdint>
@@ -10,7 +10,7 @@
 namespace kexa_3_3
 {
 
-// Everything goes to the first positional option of the table; further ones never get a value here.
+// Values go to the first positional option of the table; the others never get one here.
 class PositionalOptionsParser final : public IArgumentParser
 {
 public:
@@ -22,7 +22,7 @@ public:
                       const RegisteredOptionStorage& options, std::int64_t& optionIndex,
                       std::wstring& error) override;
 
-    // Both in a run of one kind (Runs.h), without virtual calls.
+    // recognize and parse in a run of one kind (Runs.h), without virtual calls.
     template <class Run>
     int recognizeIn(const ArgumentQueue& arguments, const RegisteredOptionStorage& options,
                     std::wstring& message);

@@ -12,7 +12,7 @@ namespace kexa_3_3
 namespace internal
 {
 
-// Discards what is written to it: without storage, every write fails.
+// Discards what is written to it: it has no storage, so every write fails.
 class basic_nullbuf final : public std::wstreambuf
 {
 public:
@@ -29,7 +29,7 @@ extern std::atomic<bool> trace_switch;
 
 } // namespace internal
 
-// Standard output while the trace switch is on, else a stream that discards everything.
+// Returns standard output while the trace switch is on, else a stream that discards everything.
 std::wostream& traceStream();
 
 inline void switchTrace(bool on) noexcept
