@@ -1,6 +1,7 @@
 #include "options/AllowedValueIndex.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 
 #include "kexa/option.h"
@@ -13,14 +14,14 @@ namespace kexa_3_3
 namespace
 {
 
-using vexkit2::variant_t;
+constexpr std::size_t none = ~std::size_t{0}; // above the index of every candidate
 
-[[nodiscard]] bool isInteger(const variant_t& value) noexcept
+[[nodiscard]] bool isInteger(const vexkit2::variant_t& value) noexcept
 {
     return value.kind() >= vexkit2::kind_s32 && value.kind() <= vexkit2::kind_u64;
 }
 
-[[nodiscard]] bool isFloating(const variant_t& value) noexcept
+[[nodiscard]] bool isFloating(const vexkit2::variant_t& value) noexcept
 {
     return value.kind() == vexkit2::kind_float || value.kind() == vexkit2::kind_double;
 }
@@ -30,6 +31,7 @@ using vexkit2::variant_t;
 AllowedValueIndex::AllowedValueIndex(std::int32_t valueType,
                                      const std::vector<variant_t>& allowedValues,
                                      const std::map<variant_t, variant_t>& deprecatedValues)
+    : m_valueType(valueType)
 {
     m_candidates.reserve(allowedValues.size() + deprecatedValues.size());
     for (const variant_t& value : allowedValues)
@@ -40,118 +42,115 @@ AllowedValueIndex::AllowedValueIndex(std::int32_t valueType,
     {
         m_candidates.push_back(&oldValue);
     }
-    if (valueType == value_type_string)
+    for (std::size_t number = 0; number < m_candidates.size(); ++number)
     {
-        indexTexts();
+        valueType == value_type_string ? indexText(number) : indexNumber(number);
     }
-    else if (valueType != value_type_boolean)
-    {
-        indexNumbers(valueType);
-    }
+    std::sort(m_texts.begin(), m_texts.end());
+    std::sort(m_integers.begin(), m_integers.end());
+    std::sort(m_doubles.begin(), m_doubles.end());
 }
 
-void AllowedValueIndex::indexTexts()
+void AllowedValueIndex::indexText(std::size_t number)
 {
-    m_method = Method::texts;
-    m_texts.reserve(m_candidates.size());
-    for (std::size_t order = 0; order < m_candidates.size(); ++order)
-    {
-        const variant_t& candidate = *m_candidates[order];
-        const bool wide = candidate.can_get<const wchar_t*>();
-        m_texts.push_back({wide ? std::wstring_view(candidate.get<const wchar_t*>())
+    const variant_t& candidate = *m_candidates[number];
+    const bool isWide = candidate.can_get<const wchar_t*>();
+    m_texts.emplace_back(isWide ? std::wstring_view(candidate.get<const wchar_t*>())
                                 : m_ownTexts.emplace_back(valueText(candidate)),
-                           order});
-    }
-    std::sort(m_texts.begin(), m_texts.end(),
-              [](const TextCandidate& left, const TextCandidate& right)
-              {
-                  const int order = left.text.compare(right.text);
-                  return order != 0 ? order < 0 : left.order < right.order;
-              });
+                         number);
 }
 
-// Sorting finds what equality finds only where both agree: among integers, and among doubles and
-// integers that a double holds exactly.
-void AllowedValueIndex::indexNumbers(std::int32_t valueType)
+// Two integers are equal when their values are; any other two numbers when they are as doubles, to
+// which large integers are rounded. So a candidate is sorted in the way in which the values of the
+// option are compared with it. A NaN equals nothing and would spoil the order.
+void AllowedValueIndex::indexNumber(std::size_t number)
 {
-    constexpr double exact = 9007199254740992.0; // 2 to the 53rd
-    const bool doubles = valueType == value_type_double;
-    const bool agree = std::all_of(m_candidates.begin(), m_candidates.end(),
-                                   [doubles](const variant_t* candidate)
-                                   {
-                                       if (doubles)
-                                       {
-                                           return !isInteger(*candidate) ||
-                                                  std::abs(candidate->get<double>()) <= exact;
-                                       }
-                                       return !isFloating(*candidate);
-                                   });
-    if (!agree)
+    const variant_t& candidate = *m_candidates[number];
+    if (isInteger(candidate) && m_valueType != value_type_double)
     {
-        return;
+        m_integers.emplace_back(integerKey(candidate), number);
     }
-    m_method = Method::numbers;
-    m_numbers = m_candidates;
-    std::stable_sort(m_numbers.begin(), m_numbers.end(),
-                     [](const variant_t* left, const variant_t* right) { return *left < *right; });
+    else if (isInteger(candidate) ||
+             (isFloating(candidate) && !std::isnan(candidate.get<double>())))
+    {
+        m_doubles.emplace_back(candidate.get<double>(), number);
+    }
 }
 
-const variant_t* AllowedValueIndex::findEqual(const variant_t& value) const
+AllowedValueIndex::IntegerKey AllowedValueIndex::integerKey(const variant_t& value)
 {
-    switch (m_method)
+    if (!value.can_get<vexkit2::s64_t>())
     {
-    case Method::texts:
-        return findText(value.get<const wchar_t*>());
-    case Method::numbers:
-        return findNumber(value);
-    case Method::walk:
-        break;
+        return {true, value.get<vexkit2::u64_t>()};
     }
+    const auto number = value.get<vexkit2::s64_t>();
+    return {number >= 0, static_cast<std::uint64_t>(number)};
+}
+
+// Returns the index of the first candidate under the key that equals the value. A candidate whose
+// text is the key need not equal a text: it may be a number that reads so.
+template <class Key>
+std::size_t AllowedValueIndex::findIn(const Sorted<Key>& sorted, const Key& key,
+                                      const variant_t& value) const
+{
+    auto found = std::lower_bound(sorted.begin(), sorted.end(), std::pair(key, std::size_t{0}));
+    for (; found != sorted.end() && !(key < found->first); ++found)
+    {
+        if (value == *m_candidates[found->second])
+        {
+            return found->second;
+        }
+    }
+    return none;
+}
+
+std::size_t AllowedValueIndex::findByWalk(const variant_t& value) const
+{
     const auto found =
         std::find_if(m_candidates.begin(), m_candidates.end(),
                      [&value](const variant_t* candidate) { return value == *candidate; });
-    return found == m_candidates.end() ? nullptr : *found;
+    return found == m_candidates.end() ? none
+                                       : static_cast<std::size_t>(found - m_candidates.begin());
 }
 
-const variant_t* AllowedValueIndex::findText(std::wstring_view text) const
+const vexkit2::variant_t* AllowedValueIndex::findEqual(const variant_t& value) const
 {
-    auto found = std::lower_bound(m_texts.begin(), m_texts.end(), text,
-                                  [](const TextCandidate& candidate, std::wstring_view wanted)
-                                  { return candidate.text < wanted; });
-    for (; found != m_texts.end() && found->text == text; ++found)
+    std::size_t number = none;
+    if (m_valueType == value_type_string)
     {
-        // Only a wide text equals a wide text; a number that reads alike does not.
-        if (m_candidates[found->order]->can_get<const wchar_t*>())
-        {
-            return m_candidates[found->order];
-        }
+        number = findIn(m_texts, std::wstring_view(value.get<const wchar_t*>()), value);
     }
-    return nullptr;
-}
-
-const variant_t* AllowedValueIndex::findNumber(const variant_t& value) const
-{
-    const auto found = std::lower_bound(m_numbers.begin(), m_numbers.end(), &value,
-                                        [](const variant_t* left, const variant_t* right)
-                                        { return *left < *right; });
-    return found != m_numbers.end() && value == **found ? *found : nullptr;
+    else if (isInteger(value))
+    {
+        number = std::min(findIn(m_integers, integerKey(value), value),
+                          findIn(m_doubles, value.get<double>(), value));
+    }
+    else if (isFloating(value))
+    {
+        number = findIn(m_doubles, value.get<double>(), value);
+    }
+    else
+    {
+        number = findByWalk(value);
+    }
+    return number == none ? nullptr : m_candidates[number];
 }
 
 AllowedValueIndex::TextMatches AllowedValueIndex::matchText(std::wstring_view beginning) const
 {
-    const auto first = std::lower_bound(m_texts.begin(), m_texts.end(), beginning,
-                                        [](const TextCandidate& candidate, std::wstring_view text)
-                                        { return candidate.text < text; });
+    assert(m_valueType == value_type_string);
+    const auto first =
+        std::lower_bound(m_texts.begin(), m_texts.end(), std::pair(beginning, std::size_t{0}));
     const auto last =
         std::partition_point(first, m_texts.end(),
-                             [beginning](const TextCandidate& candidate)
-                             { return candidate.text.substr(0, beginning.size()) == beginning; });
+                             [beginning](const auto& entry)
+                             { return entry.first.substr(0, beginning.size()) == beginning; });
     TextMatches matches;
     matches.count = static_cast<std::size_t>(last - first);
     if (matches.count == 1)
     {
-        matches.candidate = m_candidates[first->order];
-        matches.text = first->text;
+        matches.text = first->first;
+        matches.candidate = m_candidates[first->second];
     }
     return matches;
 }

@@ -1,6 +1,6 @@
 #include "options/ValueCheck.h"
 
-#include <utility>
+#include <cassert>
 
 #include "kexa/option.h"
 
@@ -47,7 +47,7 @@ std::wstring refusalMessage(const OptionDescription& option, std::wstring_view t
                         L"'. ", possibleValues(option)});
 }
 
-// Written past the stream: parsers in several threads may warn at the same time.
+// Not written through the stream: parsers in several threads may warn at the same time.
 void warnOfDeprecation(const OptionDescription& option, const variant_t& oldValue,
                        const variant_t& replacement)
 {
@@ -62,6 +62,8 @@ void warnOfDeprecation(const OptionDescription& option, const variant_t& oldValu
 ValueVerdict checkAllowedValue(const OptionDescription& option, std::wstring_view text,
                                variant_t& value, SharedTexts* texts)
 {
+    assert(!option.allowedValues().empty());
+    assert(value.kind() != vexkit2::kind_null);
     const AllowedValueIndex& candidates = option.allowedValueIndex();
     ValueVerdict verdict = ValueVerdict::accepted;
     const variant_t* match = candidates.findEqual(value);
@@ -98,6 +100,7 @@ ValueVerdict checkAllowedValue(const OptionDescription& option, std::wstring_vie
 std::wstring rejectionMessage(ValueVerdict verdict, const OptionDescription& option,
                               std::wstring_view text)
 {
+    assert(isRejected(verdict));
     switch (verdict)
     {
     case ValueVerdict::unreadable:

@@ -19,9 +19,9 @@ enum class ValueVerdict : std::uint8_t
     accepted,
     changed, // accepted, and the final value is not the one written: completed or replaced
     // Rejected:
-    unreadable, // not a value of the option's type
-    ambiguous,  // begins several allowed values
-    refused     // not among the allowed values
+    unreadable, // the text is not a value of the option's type
+    ambiguous,  // the text begins several candidates
+    refused     // the value is not a candidate, and the text begins none
 };
 
 [[nodiscard]] constexpr bool isRejected(ValueVerdict verdict) noexcept
@@ -29,16 +29,20 @@ enum class ValueVerdict : std::uint8_t
     return verdict >= ValueVerdict::unreadable;
 }
 
-// What checkValue does for an option with allowed values, where the text is readable.
+// Does what checkValue does.
+//
+// Preconditions: the option has allowed values, and the value is not null.
 [[nodiscard]] ValueVerdict checkAllowedValue(const OptionDescription& option,
                                              std::wstring_view text, vexkit2::variant_t& value,
                                              SharedTexts* texts);
 
-// text:  what was given for the option.
-// value: what the text was converted to, null where it is unreadable. Receives the final value;
-//        where the text is rejected it may hold anything.
-// texts: where string values are made; null for blocks of their own.
-// The replacement of a deprecated value is announced on standard error.
+// Checks a value that was given for an option. An abbreviation of a string is completed, a
+// deprecated value is replaced, with a warning on standard error.
+//
+// text:  the value as it was written.
+// value: the text after conversion, null when it did not convert. Receives the final value; when
+//        the text is rejected it is unspecified.
+// texts: receives string values; null for blocks of their own.
 [[nodiscard]] inline ValueVerdict checkValue(const OptionDescription& option,
                                              std::wstring_view text, vexkit2::variant_t& value,
                                              SharedTexts* texts)
@@ -51,7 +55,9 @@ enum class ValueVerdict : std::uint8_t
                                           : checkAllowedValue(option, text, value, texts);
 }
 
-// The message that says why a text was rejected.
+// Returns the message for a rejected text.
+//
+// Precondition: isRejected(verdict).
 [[nodiscard]] std::wstring rejectionMessage(ValueVerdict verdict, const OptionDescription& option,
                                             std::wstring_view text);
 

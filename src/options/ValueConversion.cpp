@@ -1,10 +1,11 @@
 #include "options/ValueConversion.h"
 
 #include <algorithm>
-#include <array>
+#include <cassert>
 #include <charconv>
 #include <cstddef>
 #include <limits>
+#include <optional>
 #include <string>
 #include <system_error>
 #include <type_traits>
@@ -36,7 +37,7 @@ using vexkit2::variant_t;
     return text;
 }
 
-// Removes a sign from the front of the text. Answers whether it was a minus.
+// Removes a sign from the front of the text. Returns whether it was a minus.
 [[nodiscard]] bool takeSign(std::wstring_view& text) noexcept
 {
     const bool negative = !text.empty() && text.front() == L'-';
@@ -47,67 +48,53 @@ using vexkit2::variant_t;
     return negative;
 }
 
-// The value of a digit in the base, 10 or 16. For any other character a number that is not below
-// the base.
-template <unsigned base>
+constexpr unsigned no_digit = 16; // not below any base
+
 [[nodiscard]] constexpr unsigned digitValue(wchar_t character) noexcept
 {
-    const auto decimal = static_cast<unsigned>(character) - static_cast<unsigned>(L'0');
-    if constexpr (base == 10)
+    if (character >= L'0' && character <= L'9')
     {
-        return decimal;
+        return static_cast<unsigned>(character - L'0');
     }
-    else
+    if (character >= L'a' && character <= L'f')
     {
-        const unsigned lowerCase = static_cast<unsigned>(character) | 0x20U;
-        const unsigned letter = lowerCase - static_cast<unsigned>(L'a');
-        const unsigned high = letter < 6 ? letter + 10 : base;
-        return decimal < 10 ? decimal : high;
+        return static_cast<unsigned>(character - L'a') + 10;
     }
+    if (character >= L'A' && character <= L'F')
+    {
+        return static_cast<unsigned>(character - L'A') + 10;
+    }
+    return no_digit;
 }
 
-// What digits say. Not a std::optional: GCC puts its two words together in memory, byte by word,
-// and reads them back in words, for which the processor waits.
-struct Number
-{
-    u64_t value;
-    bool isValid;
-};
-
-// One or more digits and nothing else, up to and including `highest`.
+// Returns the number that one or more digits give, or nothing for any other text and for a number
+// above `highest`.
+//
+// base: 10 or 16; a template argument, since dividing by a constant is cheaper.
 template <unsigned base>
-[[nodiscard]] Number readDigits(std::wstring_view digits, u64_t highest) noexcept
+[[nodiscard]] std::optional<u64_t> readDigits(std::wstring_view digits, u64_t highest) noexcept
 {
-    // So many digits fit whatever they are; only behind them it takes a division to see.
-    using Limits = std::numeric_limits<u64_t>;
-    constexpr std::size_t always_fit = base == 10 ? Limits::digits10 : Limits::digits / 4;
     static_assert(base == 10 || base == 16);
-
-    constexpr Number none = {0, false};
+    assert(highest >= base);
+    if (digits.empty())
+    {
+        return std::nullopt;
+    }
     u64_t number = 0;
-    for (const wchar_t character : digits.substr(0, always_fit))
+    for (const wchar_t character : digits)
     {
-        const unsigned digit = digitValue<base>(character);
-        if (digit >= base)
+        const unsigned digit = digitValue(character);
+        if (digit >= base || number > (highest - digit) / base)
         {
-            return none;
+            return std::nullopt;
         }
         number = number * base + digit;
     }
-    for (std::size_t index = always_fit; index < digits.size(); ++index)
-    {
-        const unsigned digit = digitValue<base>(digits[index]);
-        if (digit >= base || number > (Limits::max() - digit) / base)
-        {
-            return none;
-        }
-        number = number * base + digit;
-    }
-    return digits.empty() || number > highest ? none : Number{number, true};
+    return number;
 }
 
 template <class Integer>
-[[nodiscard]] variant_t convertDecimal(std::wstring_view text, SharedTexts* /*texts*/)
+[[nodiscard]] variant_t convertDecimal(std::wstring_view text)
 {
     constexpr auto highest = static_cast<u64_t>(std::numeric_limits<Integer>::max());
     text = trim(text);
@@ -116,46 +103,54 @@ template <class Integer>
     {
         return variant_t();
     }
-    const Number number = readDigits<10>(text, negative ? highest + 1 : highest);
-    if (!number.isValid)
+    const std::optional<u64_t> number = readDigits<10>(text, negative ? highest + 1 : highest);
+    if (!number.has_value())
     {
         return variant_t();
     }
-    return variant_t(static_cast<Integer>(negative ? u64_t{0} - number.value : number.value));
+    return variant_t(static_cast<Integer>(negative ? u64_t{0} - *number : *number));
 }
 
-[[nodiscard]] variant_t convertUnsigned64(std::wstring_view text, SharedTexts* texts)
+[[nodiscard]] bool isHexadecimal(std::wstring_view digits) noexcept
 {
-    constexpr u64_t highest = std::numeric_limits<u64_t>::max();
-    const auto isHexadecimal = [](std::wstring_view digits)
-    {
-        return digits.find_first_not_of(L"1234567890ABCDEFabcdef") == std::wstring_view::npos;
-    };
-    std::wstring_view digits;
+    return std::all_of(digits.begin(), digits.end(),
+                       [](wchar_t character) { return digitValue(character) != no_digit; });
+}
+
+// Returns the digits of a text that is marked as hexadecimal, by "0x" in front or "h" behind them,
+// or nothing.
+[[nodiscard]] std::optional<std::wstring_view> hexadecimalDigits(std::wstring_view text) noexcept
+{
     if (text.size() >= 2 && text[0] == L'0' && (text[1] == L'x' || text[1] == L'X') &&
         isHexadecimal(text.substr(2)))
     {
-        digits = text.substr(2);
+        return text.substr(2);
     }
-    else if (!text.empty() && (text.back() == L'h' || text.back() == L'H') &&
-             isHexadecimal(text.substr(0, text.size() - 1)))
+    if (!text.empty() && (text.back() == L'h' || text.back() == L'H') &&
+        isHexadecimal(text.substr(0, text.size() - 1)))
     {
-        digits = text.substr(0, text.size() - 1);
+        return text.substr(0, text.size() - 1);
     }
-    else
-    {
-        return convertDecimal<u64_t>(text, texts);
-    }
-    const Number number = readDigits<16>(digits, highest);
-    return number.isValid ? variant_t(number.value) : variant_t();
+    return std::nullopt;
 }
 
-// Whether a well-formed decimal number, of which `std::from_chars` said that a double cannot hold
-// it, is too small rather than too large.
+[[nodiscard]] variant_t convertUnsigned64(std::wstring_view text)
+{
+    const std::optional<std::wstring_view> digits = hexadecimalDigits(text);
+    if (!digits.has_value())
+    {
+        return convertDecimal<u64_t>(text);
+    }
+    const auto number = readDigits<16>(*digits, std::numeric_limits<u64_t>::max());
+    return number.has_value() ? variant_t(*number) : variant_t();
+}
+
+// Returns whether a well-formed decimal number that is out of the range of double is too small, not
+// too large: std::from_chars reports both alike.
 [[nodiscard]] bool isTiny(std::string_view number) noexcept
 {
-    // The exponent counts from the first digit that is not 0; it decides, since the number is far
-    // away from 1. Digits are counted and not collected, so that no length overflows.
+    // The power of ten of the first digit that is not 0 decides, since the number is far away from
+    // 1. Digits are counted and not collected, so that no length overflows.
     const std::size_t exponentMark = number.find_first_of("eE");
     const std::string_view mantissa = number.substr(0, exponentMark);
     const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
@@ -171,12 +166,13 @@ template <class Integer>
         return magnitude < 0;
     }
     std::string_view digits = number.substr(exponentMark + 1);
+    assert(!digits.empty());
     const bool negative = digits.front() == '-';
     if (negative || digits.front() == '+')
     {
         digits.remove_prefix(1);
     }
-    constexpr long long far = 1LL << 40; // beyond what the length of any text makes up for
+    constexpr long long far = 1LL << 40; // more than the digits of any text could make up for
     long long exponent = 0;
     for (const char digit : digits)
     {
@@ -186,7 +182,7 @@ template <class Integer>
     return magnitude < 0;
 }
 
-[[nodiscard]] variant_t convertDouble(std::wstring_view text, SharedTexts* /*texts*/)
+[[nodiscard]] variant_t convertDouble(std::wstring_view text)
 {
     text = trim(text);
     const bool negative = takeSign(text);
@@ -220,44 +216,16 @@ template <class Integer>
     }
     else if (number > std::numeric_limits<double>::max())
     {
-        return variant_t(); // GCOVR_EXCL_LINE: some libraries answer infinity without an error
+        return variant_t(); // GCOVR_EXCL_LINE: some libraries return infinity without an error
     }
     return variant_t(negative ? -number : number);
 }
 
-[[nodiscard]] variant_t convertBoolean(std::wstring_view text, SharedTexts* /*texts*/)
+[[nodiscard]] variant_t convertBoolean(std::wstring_view text)
 {
-    using namespace std::string_view_literals;
-    if (text.size() == 1 && (text.front() == L'1' || text.front() == L'0'))
-    {
-        return variant_t(text.front() == L'1');
-    }
-    const bool isTrue = text == L"true"sv;
-    return isTrue || text == L"false"sv ? variant_t(isTrue) : variant_t();
+    const bool isTrue = text == L"1" || text == L"true";
+    return isTrue || text == L"0" || text == L"false" ? variant_t(isTrue) : variant_t();
 }
-
-[[nodiscard]] variant_t convertNothing(std::wstring_view /*text*/, SharedTexts* /*texts*/)
-{
-    return variant_t();
-}
-
-// By value type. A table instead of a switch, in which the compiler would let the shortest of them
-// prepare and clear away what the longest needs.
-using Conversion = variant_t (*)(std::wstring_view text, SharedTexts* texts);
-constexpr std::size_t value_type_count = value_type_string + 1;
-constexpr auto conversions = []
-{
-    std::array<Conversion, value_type_count> table = {};
-    table.fill(convertNothing);
-    table[value_type_boolean] = convertBoolean;
-    table[value_type_integer] = convertDecimal<vexkit2::s32_t>;
-    table[value_type_unsigned] = convertDecimal<vexkit2::u32_t>;
-    table[value_type_integer64] = convertDecimal<vexkit2::s64_t>;
-    table[value_type_unsigned64] = convertUnsigned64;
-    table[value_type_double] = convertDouble;
-    table[value_type_string] = makeText;
-    return table;
-}();
 
 } // namespace
 
@@ -268,8 +236,25 @@ variant_t makeText(std::wstring_view text, SharedTexts* texts)
 
 variant_t convertValue(std::int32_t valueType, std::wstring_view text, SharedTexts* texts)
 {
-    const auto type = static_cast<std::uint32_t>(valueType); // a negative one is beyond all
-    return type < conversions.size() ? conversions[type](text, texts) : variant_t();
+    switch (valueType)
+    {
+    case value_type_boolean:
+        return convertBoolean(text);
+    case value_type_integer:
+        return convertDecimal<vexkit2::s32_t>(text);
+    case value_type_unsigned:
+        return convertDecimal<vexkit2::u32_t>(text);
+    case value_type_integer64:
+        return convertDecimal<vexkit2::s64_t>(text);
+    case value_type_unsigned64:
+        return convertUnsigned64(text);
+    case value_type_double:
+        return convertDouble(text);
+    case value_type_string:
+        return makeText(text, texts);
+    default:
+        return variant_t(); // no value has another type
+    }
 }
 
 } // namespace kexa_3_3

@@ -11,17 +11,18 @@ namespace kexa_3_3
 
 class SharedTexts;
 
-// A string value.
+// Returns a string value with a copy of the text. Throws std::bad_alloc.
 //
-// texts: where the text is copied to; null for a block of its own. Throws std::bad_alloc.
+// texts: receives the copy; null for a block of its own.
 [[nodiscard]] vexkit2::variant_t makeText(std::wstring_view text, SharedTexts* texts);
 
-// The value of the given type that the text stands for, or the null variant where it stands for
-// none. It does not depend on any locale.
+// Returns the text as a value of the given type, or the null variant when it does not convert. No
+// locale matters. Throws std::bad_alloc.
 //
-// Numbers may have white space before and after them, a sign (unsigned types: only "+"), and are
-// decimal. An unsigned 64-bit value may also be written 0x1F or 1Fh, without white space and sign.
-// A double may have a fraction and an exponent; one too small becomes the nearest double. A number
+// Numbers are decimal, may have white space before and behind them, and a sign (unsigned types:
+// only
+// "+"). An unsigned 64-bit number may also be written 0x1F or 1Fh, without white space and sign. A
+// double may have a fraction and an exponent; one too small becomes the nearest double. A number
 // that its type cannot hold does not convert. A boolean is exactly "1", "true", "0" or "false".
 //
 // texts: as for makeText.

@@ -1,4 +1,4 @@
-// The text of a typed value, as messages and help show it.
+// Texts of typed values, as messages and help show them.
 #pragma once
 
 #include <string>
@@ -8,9 +8,9 @@
 namespace kexa_3_3
 {
 
-// Integers in decimal; doubles in the fewest digits that read back to the same value, scientific
-// below 1e-5 and from 1e16 on; booleans "1" or "0"; wide text as it is; narrow text read as UTF-8;
-// nothing for null, blobs and objects. It does not depend on any locale.
+// Returns integers in decimal; doubles in the fewest digits that read back to the same value,
+// scientific below 1e-5 and from 1e16 on; booleans "1" or "0"; wide text as it is; narrow text read
+// as UTF-8; an empty text for null, blobs and objects. No locale matters.
 [[nodiscard]] std::wstring valueText(const vexkit2::variant_t& value);
 
 } // namespace kexa_3_3

@@ -1,6 +1,7 @@
 #include "parser/ActionCheck.h"
 
 #include <algorithm>
+#include <cassert>
 #include <optional>
 #include <string_view>
 
@@ -15,7 +16,7 @@ namespace kexa_3_3
 namespace
 {
 
-// A name under which the result holds an occurrence, and the option that it names.
+// A name under which the result holds an occurrence, and the option that has the name.
 struct Given
 {
     std::wstring_view name;
@@ -64,7 +65,7 @@ Overview survey(const OptionResultTable& result, const RegisteredOptionStorage& 
     return overview;
 }
 
-// Whether one group contains all the names.
+// Returns whether one group contains all the names.
 bool areCompatible(const std::vector<std::wstring>& names, const ActionGroups& groups)
 {
     return std::any_of(groups.begin(), groups.end(),
@@ -76,7 +77,7 @@ bool areCompatible(const std::vector<std::wstring>& names, const ActionGroups& g
                        });
 }
 
-// The first action, in the order of names, that may not be combined with those before it.
+// Returns the first action, by name, that may not be combined with those before it, or null.
 const Given* findConflict(const std::vector<Given>& actions, const ActionGroups& groups)
 {
     std::vector<std::wstring> names;
@@ -96,7 +97,7 @@ const Given* findConflict(const std::vector<Given>& actions, const ActionGroups&
     return nullptr;
 }
 
-// The first option, in the order of names, that the action does not accept.
+// Returns the first option, by name, that the action does not accept, or null.
 const Given* findUnaccepted(const std::vector<Given>& restricted, const OptionDescription& action)
 {
     const Given* first = nullptr;
@@ -130,7 +131,7 @@ result_t checkActions(const OptionResultTable& result, const RegisteredOptionSto
 {
     if (!options.hasActions() && result.isFilledFrom(options.index().identity()))
     {
-        return result_success; // nothing to combine, and no unknown name
+        return result_success; // there is nothing to combine, and no unknown name
     }
     const Overview overview = survey(result, options);
     const Given* const conflict = findConflict(overview.actions, compatible);
@@ -140,6 +141,7 @@ result_t checkActions(const OptionResultTable& result, const RegisteredOptionSto
     }
     if (conflict != nullptr)
     {
+        assert(overview.actions.front().option != conflict->option);
         message = conflictMessage(*conflict->option, *overview.actions.front().option);
         return result_invalid_arguments;
     }

@@ -1,4 +1,4 @@
-// Whether the actions and options of a command line go together.
+// Checks that the actions and options of a command line go together.
 #pragma once
 
 #include <set>
@@ -15,12 +15,12 @@ class RegisteredOptionStorage;
 
 using ActionGroups = std::vector<std::set<std::wstring>>;
 
-// Looks at every name under which the result holds an occurrence; defaults alone do not count. The
-// names count in alphabetical order where the order decides which of two is reported.
+// Visits every name under which the result holds an occurrence; a default is not one. When several
+// names are wrong the first in alphabetical order is reported.
 //
 // compatible: groups of actions that may be given together.
-// message:    receives what is wrong where the answer is 2.
-// Answers 0; 2; or 1 where the result holds a name that the registry does not know.
+// message:    receives what is wrong when 2 is returned.
+// Returns 0; 2; or 1 when the result holds a name that the registry does not know.
 [[nodiscard]] result_t checkActions(const OptionResultTable& result,
                                     const RegisteredOptionStorage& options,
                                     const ActionGroups& compatible, std::wstring& message);

@@ -11,8 +11,8 @@ namespace kexa_3_3
 namespace
 {
 
-// Takes lines off the front of the text up to one that holds an argument. Answers whether there is
-// one. All characters that matter are of one unit in any encoding.
+// Removes lines from the front of the text up to one that holds an argument. Returns whether there
+// is one. Works for every encoding: the characters looked for have one unit in each.
 template <class Character>
 bool takeArgument(std::basic_string_view<Character>& text,
                   std::basic_string_view<Character>& argument)
@@ -53,8 +53,8 @@ bool Utf8Lines::next(std::wstring_view& argument)
     {
         return false;
     }
-    m_turn = 1 - m_turn;
-    argument = wideFromUtf8(line, m_decoded[m_turn]);
+    m_latest = 1 - m_latest;
+    argument = wideFromUtf8(line, m_decoded[m_latest]);
     return true;
 }
 

@@ -18,7 +18,7 @@ result_t createParser(IParser** out, int flags)
         *out = new (std::nothrow) BasicParser(flags);
         return result_success;
     }
-    // Some standard libraries allocate when a container is made; where the tests are counted, none.
+    // Some standard libraries allocate when a container is made. That of the coverage run does not.
     catch (const std::exception&) // GCOVR_EXCL_LINE
     {
         return result_standard_exception; // GCOVR_EXCL_LINE
@@ -69,8 +69,8 @@ bool BasicParser::onUnknownArgument(const wchar_t* argument)
     return m_events.empty() || m_events.onUnknownArgument(textForHandlers(viewOf(argument)));
 }
 
-// A copy of the text that lives as long as the parser, the same for equal texts. Of an option's
-// name that is the one declared, which a parse hands on as it is.
+// Returns a copy of the text that lives as long as the parser, one for all equal texts. For the
+// primary name of an option it is the declared name itself, as in the events of a parse.
 const wchar_t* BasicParser::textForHandlers(std::wstring_view text)
 {
     const OptionDescription* const option = m_options.find(text);
@@ -136,23 +136,23 @@ bool BasicParser::enableOptionFiles(const wchar_t* description, const wchar_t* g
 
 void BasicParser::addCompatibleActions(const std::set<std::wstring>& actions)
 {
-    // A copy first: the set may be one of those that are about to move.
+    // Copied first: the set may be one of those that move when the vector grows.
     std::set<std::wstring> group(actions);
     m_compatibleActions.push_back(std::move(group));
 }
 
 const wchar_t* BasicParser::getErrorMessage()
 {
-    return help([this] { return m_errorMessage; });
+    return handOut([this] { return m_errorMessage; });
 }
 
-// Hands a text out; the empty one where there is no memory for it.
-template <class MakeHelp>
-const wchar_t* BasicParser::help(MakeHelp makeHelp)
+// Returns the text that makeText returns, kept in the pool; an empty one when there is no memory.
+template <class MakeText>
+const wchar_t* BasicParser::handOut(MakeText makeText)
 {
     try
     {
-        return m_strings.internText(makeHelp()).data();
+        return m_strings.internText(makeText()).data();
     }
     catch (const std::exception&)
     {
@@ -162,22 +162,22 @@ const wchar_t* BasicParser::help(MakeHelp makeHelp)
 
 const wchar_t* BasicParser::showTopicHelp(const wchar_t* topic, bool hidden)
 {
-    return help([&] { return formatTopicHelp(m_options, topic, hidden); });
+    return handOut([&] { return formatTopicHelp(m_options, topic, hidden); });
 }
 
 const wchar_t* BasicParser::getTopicList(bool hidden)
 {
-    return help([&] { return formatTopicList(m_options, hidden); });
+    return handOut([&] { return formatTopicList(m_options, hidden); });
 }
 
 const wchar_t* BasicParser::showRelatedHelp(const wchar_t* topic, bool hidden)
 {
-    return help([&] { return formatRelatedHelp(m_options, topic, hidden); });
+    return handOut([&] { return formatRelatedHelp(m_options, topic, hidden); });
 }
 
 const wchar_t* BasicParser::showFullHelp(bool hidden)
 {
-    return help([&] { return formatFullHelp(m_options, hidden); });
+    return handOut([&] { return formatFullHelp(m_options, hidden); });
 }
 
 } // namespace kexa_3_3

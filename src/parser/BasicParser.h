@@ -21,7 +21,7 @@ namespace kexa_3_3
 class ArgumentQueue;
 class ParseResult;
 
-// See IParser for its operations; the three of its own come behind those in the slot order.
+// See IParser for its operations; three more follow them in the order of slots.
 class BasicParser : public IParser
 {
 public:
@@ -29,8 +29,8 @@ public:
     BasicParser(const BasicParser&) = delete;
     BasicParser& operator=(const BasicParser&) = delete;
 
-    // Forwarded to the registered handlers, the texts being copied first: these are told by others
-    // than the parse, such as a parser of which this one is a handler.
+    // Forward to the registered handlers a copy of the text, which is not of a parse of this
+    // parser: the host calls these, or another parser that has this one as a handler.
     bool onOptionParsed(const wchar_t* name) override;
     bool onValueParsed(const wchar_t* name, const ValueRecord* value) override;
     bool onUnknownArgument(const wchar_t* argument) override;
@@ -58,39 +58,41 @@ public:
     void addCompatibleActions(const std::set<std::wstring>& actions) override;
     ~BasicParser() override;
 
-    // Parses arguments without a program name: the arguments, what is left of them, the option
-    // files, and the action check. Standard exceptions are passed on, any other becomes code 4.
+    // The result of the operations below is null or was made by this library.
+
+    // Parses arguments without a program name in all steps: the arguments up to the end marker,
+    // those behind it, the option files, and the action check. Passes on standard exceptions; any
+    // other becomes code 4.
     virtual result_t parseArguments(ArgumentQueue& arguments, IParseResult* result);
 
-    // Parses up to the end marker, which stays in front of the arguments left.
+    // Parses up to the end marker, which stays in front of the remaining arguments.
     virtual result_t parseVector(std::wstring_view endMarker, ArgumentQueue& arguments,
                                  IParseResult* result, std::wstring& message);
 
-    // The action check over what the result holds; the arguments are not looked at.
+    // Checks the actions among what the result holds; the arguments are not looked at.
     virtual result_t checkActions(const ArgumentQueue& arguments, IParseResult* result,
                                   std::wstring& message);
 
 private:
-    [[nodiscard]] result_t parseAll(ArgumentQueue& arguments, IParseResult* result);
-    [[nodiscard]] result_t parseOnce(ArgumentQueue& arguments, IParseResult* result,
-                                     ParseResult* filled);
+    [[nodiscard]] result_t runSteps(ArgumentQueue& arguments, ParseResult* result);
+    [[nodiscard]] result_t parseAndCollect(ArgumentQueue& arguments, ParseResult* result);
     [[nodiscard]] result_t collectNonparsingArguments(std::wstring_view endMarker,
-                                                      ArgumentQueue& arguments, ParseResult* filled,
+                                                      ArgumentQueue& arguments, ParseResult* result,
                                                       std::wstring& message);
-    [[nodiscard]] EventHandler* listeners() noexcept;
-    [[nodiscard]] bool takesUnknown(std::wstring_view argument);
+    [[nodiscard]] EventHandler* eventReceiver() noexcept;
+    [[nodiscard]] bool dropUnknown(ArgumentQueue& arguments, std::wstring& message);
     [[nodiscard]] const wchar_t* textForHandlers(std::wstring_view text);
-    void storeDefaults(IParseResult& result) const;
+    void storeDefaults(ParseResult& result) const;
 
-    template <class MakeHelp>
-    const wchar_t* help(MakeHelp makeHelp);
+    template <class MakeText>
+    const wchar_t* handOut(MakeText makeText);
 
     InlineBlock<24576> m_firstBlock; // holds the declarations of a usual program
     Garbage m_strings;               // before the options, which keep their texts in it
     RegisteredOptionStorage m_options;
     std::wstring m_errorMessage;
     std::int32_t m_flags;
-    EventForwarding m_events; // told of a parse; its texts lie in m_strings already
+    EventForwarding m_events; // receives the events of a parse, whose texts live long enough
     bool m_optionFilesEnabled = false;
     ActionGroups m_compatibleActions;
 };

@@ -15,20 +15,17 @@ bool EventForwarding::add(EventHandler* handler)
         return false;
     }
     m_handlers.insert(place, handler);
-    ++m_changes;
     return true;
 }
 
 bool EventForwarding::remove(EventHandler* handler)
 {
-    const bool removed = std::erase(m_handlers, handler) != 0;
-    m_changes += removed ? 1 : 0;
-    return removed;
+    return std::erase(m_handlers, handler) != 0;
 }
 
 bool EventForwarding::onOptionParsed(const wchar_t* name)
 {
-    return tellInTurn(
+    return callEach(
         [name](EventHandler& handler)
         {
             static_cast<void>(handler.onOptionParsed(name));
@@ -38,51 +35,45 @@ bool EventForwarding::onOptionParsed(const wchar_t* name)
 
 bool EventForwarding::onValueParsed(const wchar_t* name, const ValueRecord* value)
 {
-    return tellInTurn([=](EventHandler& handler) { return handler.onValueParsed(name, value); });
+    return callEach([=](EventHandler& handler) { return handler.onValueParsed(name, value); });
 }
 
 bool EventForwarding::onUnknownArgument(const wchar_t* argument)
 {
-    bool unknown = true;
-    static_cast<void>(tellInTurn(
+    bool isUnknown = true;
+    static_cast<void>(callEach(
         [&](EventHandler& handler)
         {
-            unknown = handler.onUnknownArgument(argument) && unknown;
+            isUnknown = handler.onUnknownArgument(argument) && isUnknown;
             return true;
         }));
-    return unknown;
+    return isUnknown;
 }
 
-template <class Tell>
-bool EventForwarding::tellInTurn(Tell tell) const
+// Calls `call` with each handler as long as it returns true. Returns whether it always did.
+template <class Call>
+bool EventForwarding::callEach(Call call) const
 {
-    EventHandler* const* next = m_handlers.data();
-    EventHandler* const* end = next + m_handlers.size();
-    std::uint64_t changes = m_changes;
-    while (next != end)
+    EventHandler* handler = m_handlers.empty() ? nullptr : m_handlers.front();
+    while (handler != nullptr)
     {
-        EventHandler* const handler = *next++;
-        if (!tell(*handler))
+        if (!call(*handler))
         {
             return false;
         }
-        if (changes != m_changes) [[unlikely]]
-        {
-            // Some were added or removed meanwhile, this one perhaps, which then may be gone.
-            changes = m_changes;
-            next = firstAbove(handler);
-            end = m_handlers.data() + m_handlers.size();
-        }
+        // Searched for anew, as the vector may be another by now. The handler itself may be gone:
+        // only its address is used.
+        handler = nextAbove(handler);
     }
     return true;
 }
 
-// The first handler with a higher address.
-EventHandler* const* EventForwarding::firstAbove(EventHandler* handler) const
+// Returns the first handler with a higher address, or null.
+EventHandler* EventForwarding::nextAbove(EventHandler* handler) const
 {
     const auto next =
         std::upper_bound(m_handlers.begin(), m_handlers.end(), handler, std::less<>());
-    return m_handlers.data() + (next - m_handlers.begin());
+    return next == m_handlers.end() ? nullptr : *next;
 }
 
 } // namespace kexa_3_3

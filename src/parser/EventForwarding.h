@@ -1,8 +1,6 @@
-// The host's event handlers, and how they hear of events.
+// The host's event handlers.
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
 #include <vector>
 
 #include "kexa/event_handler.h"
@@ -10,41 +8,39 @@
 namespace kexa_3_3
 {
 
-// Tells every registered handler, by ascending address, whatever it is told itself. Names and
-// arguments are handed on as they are, so they have to live as long as handlers are promised.
+// Forwards each event to all registered handlers, by ascending address. Names and arguments are
+// forwarded as they are, so they must live as long as is promised to handlers.
 //
 // Handlers may be added and removed during an event: one that is removed before its turn is not
-// called, one that is added is called where its address is higher than that of the handler at work.
+// called; one that is added is called if its address is higher than that of the running handler.
 class EventForwarding final : public EventHandler
 {
 public:
-    // Answers false, changing nothing, for null and for a handler that is registered. Throws
+    // Returns false, changing nothing, for null and for a handler that is registered. Throws
     // std::bad_alloc, changing nothing.
     [[nodiscard]] bool add(EventHandler* handler);
 
-    // Answers false for one that is not registered.
+    // Returns false for a handler that is not registered.
     [[nodiscard]] bool remove(EventHandler* handler);
 
     [[nodiscard]] bool empty() const noexcept { return m_handlers.empty(); }
 
-    // Answers true, whatever the handlers do.
+    // Returns true, whatever the handlers return.
     bool onOptionParsed(const wchar_t* name) override;
 
-    // Answers whether no handler refused the value; the first that does is the last one asked.
+    // Returns whether every handler accepted the value. No handler is called after one that
+    // refused.
     bool onValueParsed(const wchar_t* name, const ValueRecord* value) override;
 
-    // Answers whether no handler took the argument; all of them are asked.
+    // Returns whether no handler took the argument. All of them are called.
     bool onUnknownArgument(const wchar_t* argument) override;
 
 private:
-    // Hands the handlers to `tell`, one after the other, as long as that answers to go on. Answers
-    // whether it always did.
-    template <class Tell>
-    [[nodiscard]] bool tellInTurn(Tell tell) const;
-    [[nodiscard]] EventHandler* const* firstAbove(EventHandler* handler) const;
+    template <class Call>
+    [[nodiscard]] bool callEach(Call call) const;
+    [[nodiscard]] EventHandler* nextAbove(EventHandler* handler) const;
 
     std::vector<EventHandler*> m_handlers; // by ascending address; not owned
-    std::uint64_t m_changes = 0;           // how often they were changed
 };
 
 } // namespace kexa_3_3

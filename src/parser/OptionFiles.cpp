@@ -1,6 +1,11 @@
 #include "parser/OptionFiles.h"
 
+#include <algorithm>
+#include <cassert>
+#include <string_view>
+
 #include "parser/ArgumentLines.h"
+#include "result/ParseResult.h"
 #include "support/FileLoading.h"
 #include "support/text/Text.h"
 
@@ -27,18 +32,14 @@ std::wstring_view reasonOf(FileProblem problem) noexcept
     }
 }
 
-// The whole text of a value, zero characters included: a name that holds one names no file.
+// Returns the whole text of a value, zero characters included: a name with one of those must not
+// name the file of the text before it.
 std::wstring wholeText(const Occurrence& stored)
 {
     const std::size_t units = stored.value.kind() == vexkit2::kind_wide_text
                                   ? stored.value.byte_length() / sizeof(wchar_t)
                                   : 0;
     return units == 0 ? std::wstring(stored.text) : std::wstring(stored.text, units - 1);
-}
-
-const StoredOption* resultOf(const OptionResultTable& options) noexcept
-{
-    return options.find(std::wstring_view(option_file_name));
 }
 
 result_t readFile(const std::wstring& name, const OptionFiles::ParseFile& parseFile,
@@ -63,39 +64,78 @@ result_t readFile(const std::wstring& name, const OptionFiles::ParseFile& parseF
 
 } // namespace
 
-OptionFiles::OptionFiles(const OptionResultTable& options)
-    : m_options(options), m_record(resultOf(options)), m_next(0)
+OptionFiles::OptionFiles(ParseResult& result)
+    : m_result(result), m_outer(result.openFiles()), m_next(occurrenceCount()), m_record(record()),
+      m_placeIndex(m_next)
 {
     if (m_record != nullptr)
     {
         m_place = m_record->occurrences.end();
-        m_next = m_record->occurrences.size();
     }
+    if (m_outer != nullptr)
+    {
+        m_outer->m_inner.push_back({m_next, m_next});
+    }
+    m_result.setOpenFiles(this);
+}
+
+OptionFiles::~OptionFiles()
+{
+    assert(m_result.openFiles() == this);
+    m_result.setOpenFiles(m_outer);
+    if (m_outer != nullptr)
+    {
+        m_outer->m_inner.back().end = occurrenceCount();
+    }
+}
+
+// Looked up each time: a parse may store the first value, or make the name that of another record.
+const StoredOption* OptionFiles::record() const noexcept
+{
+    return m_result.options().find(std::wstring_view(option_file_name));
+}
+
+std::size_t OptionFiles::occurrenceCount() const noexcept
+{
+    const StoredOption* const stored = record();
+    return stored == nullptr ? 0 : stored->occurrences.size();
+}
+
+// Returns the next occurrence that this parse stored, or null.
+const Occurrence* OptionFiles::nextOccurrence()
+{
+    for (; m_passed < m_inner.size() && m_inner[m_passed].begin <= m_next; ++m_passed)
+    {
+        m_next = std::max(m_next, m_inner[m_passed].end);
+    }
+    if (m_next >= occurrenceCount())
+    {
+        return nullptr;
+    }
+    if (record() != m_record)
+    {
+        m_record = record();
+        m_place = m_record->occurrences.begin();
+        m_placeIndex = 0;
+    }
+    for (; m_placeIndex < m_next; ++m_placeIndex)
+    {
+        static_cast<void>(m_record->occurrences.next(m_place));
+    }
+    ++m_next;
+    ++m_placeIndex;
+    return m_record->occurrences.next(m_place);
 }
 
 result_t OptionFiles::readAll(const ParseFile& parseFile, std::wstring& message)
 {
-    // The record is looked up each time: a file may bring the first value, more of them, or another
-    // record, where an option has the name besides others.
-    for (;;)
+    while (const Occurrence* const occurrence = nextOccurrence())
     {
-        const StoredOption* const record = resultOf(m_options);
-        if (record == nullptr || m_next >= record->occurrences.size())
-        {
-            return result_success;
-        }
-        if (record != m_record)
-        {
-            m_record = record;
-            m_place = record->occurrences.placeBehind(m_next);
-        }
-        const Occurrence& occurrence = *record->occurrences.next(m_place);
-        ++m_next;
-        if (!occurrence.isValue)
+        if (!occurrence->isValue)
         {
             continue;
         }
-        const std::wstring name = wholeText(occurrence);
+        const std::wstring name = wholeText(*occurrence);
         if (!m_read.insert(canonicalPath(name)).second)
         {
             continue;
@@ -106,6 +146,7 @@ result_t OptionFiles::readAll(const ParseFile& parseFile, std::wstring& message)
             return code;
         }
     }
+    return result_success;
 }
 
 } // namespace kexa_3_3

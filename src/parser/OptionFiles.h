@@ -1,42 +1,70 @@
 // The option files that one parse reads.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <set>
 #include <string>
-#include <string_view>
+#include <vector>
 
 #include "kexa/result.h"
 
 #include "recognition/ArgumentQueue.h"
-#include "result/OptionResultTable.h"
+#include "result/StoredOption.h"
 
 namespace kexa_3_3
 {
 
+class ParseResult;
+
 // The option whose values name the files.
 inline constexpr const wchar_t* option_file_name = L"option-file";
 
-// Reads the files that a parse stores as values of the option, in order, those that a file names
-// included. A file is read once in a parse, so that files naming each other come to an end.
+// Reads the files that one parse stores as values of the option, in order, including those that a
+// file names. Each file is read once in a parse, so files that name each other come to an end.
+//
+// Values that the result held before, or that a parse inside an event stores meanwhile, belong to
+// other parses and are passed over.
 class OptionFiles
 {
 public:
     // Parses the arguments of one file, which may store names of further files.
     using ParseFile = std::function<result_t(ArgumentSource&)>;
 
-    // Made before a parse stores anything: what the result holds then was read by earlier parses.
-    explicit OptionFiles(const OptionResultTable& options);
+    // Precondition: the parse has stored nothing yet. Of several objects for one result, the one
+    // made last is destroyed first.
+    //
+    // result: filled by the parse; outlives this.
+    explicit OptionFiles(ParseResult& result);
+    ~OptionFiles();
+    OptionFiles(const OptionFiles&) = delete;
+    OptionFiles& operator=(const OptionFiles&) = delete;
 
-    // Answers 0; 6 with a message where a file cannot be read; or the first non-zero code that
-    // parsing a file answered.
+    // Returns 0; 6 with a message when a file cannot be read; or the first non-zero code that
+    // parsing a file returned.
     [[nodiscard]] result_t readAll(const ParseFile& parseFile, std::wstring& message);
 
 private:
-    const OptionResultTable& m_options;
-    const StoredOption* m_record; // the one that was looked at last, or null
-    Occurrences::Place m_place;   // of the first occurrence in it not looked at
-    std::size_t m_next;           // the same as an index
+    // Occurrences by their index in the record of the option, `end` excluded.
+    struct Range
+    {
+        std::size_t begin;
+        std::size_t end;
+    };
+
+    [[nodiscard]] const StoredOption* record() const noexcept;
+    [[nodiscard]] std::size_t occurrenceCount() const noexcept;
+    [[nodiscard]] const Occurrence* nextOccurrence();
+
+    ParseResult& m_result;
+    OptionFiles* m_outer;       // of the parse during which this one began, or null
+    std::vector<Range> m_inner; // what parses inside this one stored, in order
+    std::size_t m_passed = 0;   // how many of those lie before m_next
+    std::size_t m_next;         // the first occurrence that was not looked at
+
+    const StoredOption* m_record; // the one that was walked last, or null
+    Occurrences::Place m_place;   // in it, behind so many occurrences:
+    std::size_t m_placeIndex;
     std::set<std::wstring> m_read;
 };
 

@@ -18,8 +18,6 @@ using namespace std::string_view_literals;
 namespace
 {
 
-constexpr int parsed = 0;
-constexpr int invalid = 2;
 constexpr std::size_t shortest_option = 2; // a hyphen and a character
 
 // Says that what should be the value seems to be an option.
@@ -45,9 +43,9 @@ int AbbreviationParser::recognize(const ArgumentQueue& arguments,
     return recognizeIn<AnyRun>(arguments, options, message);
 }
 
-int AbbreviationParser::parse(ArgumentQueue& arguments, IResultCollector* collector,
-                              const RegisteredOptionStorage& options, std::int64_t& optionIndex,
-                              std::wstring& error)
+ParseStatus AbbreviationParser::parse(ArgumentQueue& arguments, IResultCollector* collector,
+                                      const RegisteredOptionStorage& options,
+                                      std::int64_t& optionIndex, std::wstring& error)
 {
     return parseIn<AnyRun>(arguments, collector, options, optionIndex, error);
 }
@@ -93,9 +91,10 @@ bool AbbreviationParser::findMatch(std::wstring_view argument, const OptionIndex
 }
 
 template <class Run>
-int AbbreviationParser::parseIn(ArgumentQueue& arguments, typename Run::Collector* collector,
-                                const RegisteredOptionStorage& options, std::int64_t& optionIndex,
-                                std::wstring& error)
+ParseStatus AbbreviationParser::parseIn(ArgumentQueue& arguments,
+                                        typename Run::Collector* collector,
+                                        const RegisteredOptionStorage& options,
+                                        std::int64_t& optionIndex, std::wstring& error)
 {
     const std::wstring_view argument = arguments.front();
     optionIndex = static_cast<std::int64_t>(m_match.option);
@@ -103,13 +102,13 @@ int AbbreviationParser::parseIn(ArgumentQueue& arguments, typename Run::Collecto
     if (typedName().empty() || typedName().front() == L'-') [[unlikely]]
     {
         error = concatenate({L"Unknown option '", argument, L"'"});
-        return invalid;
+        return ParseStatus::invalid;
     }
     if (m_match.count > 1) [[unlikely]]
     {
         error = concatenate({L"Ambiguous option '", typedName(), L"'",
                              formatArgumentContext(argument), L", could be: ", m_candidateList});
-        return invalid;
+        return ParseStatus::invalid;
     }
 
     const OptionDescription& option = options[m_match.option];
@@ -123,7 +122,7 @@ int AbbreviationParser::parseIn(ArgumentQueue& arguments, typename Run::Collecto
     if (!takeValue<Run>(given, takesNext, arguments, error)) [[unlikely]]
     {
         trace<Run>(L": ", viewOf(error));
-        return invalid;
+        return ParseStatus::invalid;
     }
     if (owner() == nullptr) [[likely]]
     {
@@ -138,12 +137,12 @@ int AbbreviationParser::parseIn(ArgumentQueue& arguments, typename Run::Collecto
 }
 
 template <class Run>
-int AbbreviationParser::storeAndRemove(const GivenValue& given, typename Run::Collector* collector,
-                                       bool takesNext, ArgumentQueue& arguments,
-                                       std::wstring& error)
+ParseStatus AbbreviationParser::storeAndRemove(const GivenValue& given,
+                                               typename Run::Collector* collector, bool takesNext,
+                                               ArgumentQueue& arguments, std::wstring& error)
 {
-    const int code = m_storing.storeIn<Run>(given, collector, error);
-    if (code == parsed)
+    const ParseStatus status = m_storing.storeIn<Run>(given, collector, error);
+    if (status == ParseStatus::parsed)
     {
         remove<Run>(arguments);
         if (takesNext)
@@ -151,7 +150,7 @@ int AbbreviationParser::storeAndRemove(const GivenValue& given, typename Run::Co
             remove<Run>(arguments);
         }
     }
-    return code;
+    return status;
 }
 
 template <class Run>
@@ -226,14 +225,14 @@ std::wstring AbbreviationParser::valueMissing(const GivenValue& given) const
 
 template int AbbreviationParser::recognizeIn<AnyRun>(const ArgumentQueue&,
                                                      const RegisteredOptionStorage&, std::wstring&);
-template int AbbreviationParser::parseIn<AnyRun>(ArgumentQueue&, IResultCollector*,
-                                                 const RegisteredOptionStorage&, std::int64_t&,
-                                                 std::wstring&);
+template ParseStatus AbbreviationParser::parseIn<AnyRun>(ArgumentQueue&, IResultCollector*,
+                                                         const RegisteredOptionStorage&,
+                                                         std::int64_t&, std::wstring&);
 template int AbbreviationParser::recognizeIn<UsualRun>(const ArgumentQueue&,
                                                        const RegisteredOptionStorage&,
                                                        std::wstring&);
-template int AbbreviationParser::parseIn<UsualRun>(ArgumentQueue&, ParseResult*,
-                                                   const RegisteredOptionStorage&, std::int64_t&,
-                                                   std::wstring&);
+template ParseStatus AbbreviationParser::parseIn<UsualRun>(ArgumentQueue&, ParseResult*,
+                                                           const RegisteredOptionStorage&,
+                                                           std::int64_t&, std::wstring&);
 
 } // namespace kexa_3_3

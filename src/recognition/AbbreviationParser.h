@@ -22,18 +22,18 @@ public:
 
     int recognize(const ArgumentQueue& arguments, const RegisteredOptionStorage& options,
                   std::wstring& message) override;
-    int parse(ArgumentQueue& arguments, IResultCollector* collector,
-              const RegisteredOptionStorage& options, std::int64_t& optionIndex,
-              std::wstring& error) override;
+    ParseStatus parse(ArgumentQueue& arguments, IResultCollector* collector,
+                      const RegisteredOptionStorage& options, std::int64_t& optionIndex,
+                      std::wstring& error) override;
 
     // Both in a run of one kind (Runs.h), without virtual calls.
     template <class Run>
     int recognizeIn(const ArgumentQueue& arguments, const RegisteredOptionStorage& options,
                     std::wstring& message);
     template <class Run>
-    int parseIn(ArgumentQueue& arguments, typename Run::Collector* collector,
-                const RegisteredOptionStorage& options, std::int64_t& optionIndex,
-                std::wstring& error);
+    ParseStatus parseIn(ArgumentQueue& arguments, typename Run::Collector* collector,
+                        const RegisteredOptionStorage& options, std::int64_t& optionIndex,
+                        std::wstring& error);
 
     [[nodiscard]] std::int32_t priority() const noexcept override { return -10; }
 
@@ -50,8 +50,9 @@ private:
     [[nodiscard]] bool takeNextArgument(GivenValue& given, ArgumentQueue& arguments,
                                         std::wstring& error) const;
     template <class Run>
-    [[nodiscard]] int storeAndRemove(const GivenValue& given, typename Run::Collector* collector,
-                                     bool takesNext, ArgumentQueue& arguments, std::wstring& error);
+    [[nodiscard]] ParseStatus storeAndRemove(const GivenValue& given,
+                                             typename Run::Collector* collector, bool takesNext,
+                                             ArgumentQueue& arguments, std::wstring& error);
     template <class Run>
     void remove(ArgumentQueue& arguments) const;
     [[nodiscard]] std::wstring superfluousValue(const GivenValue& given) const;

@@ -1,4 +1,4 @@
-// Which option a typed name stands for.
+// Finds the option that a typed name stands for.
 #pragma once
 
 #include <cstddef>
@@ -12,6 +12,8 @@
 namespace kexa_3_3
 {
 
+// The candidates are the names of all options and, for boolean options, each name with "no-" in
+// front.
 struct BestMatch
 {
     // How many candidates match: 0 unknown, 1 found, more: ambiguous.
@@ -28,8 +30,10 @@ struct BestMatch
     }
 };
 
-// A name that equals a candidate matches it alone, even where it begins others; otherwise it matches
-// the candidates that begin with it. Case counts.
+// Returns the candidate that equals the typed name, even when it also begins others; otherwise the
+// candidates that begin with the typed name. Case counts.
+//
+// typedName: outlives the result.
 [[nodiscard]] inline BestMatch findBestMatch(const OptionIndex& index, const HashedText& typedName)
 {
     if (const std::optional<std::size_t> exact = index.findCandidate(typedName))

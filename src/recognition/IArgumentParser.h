@@ -11,6 +11,7 @@
 
 #include "options/OptionDescription.h"
 #include "recognition/ArgumentQueue.h"
+#include "recognition/ParseStatus.h"
 #include "support/Trace.h"
 
 namespace kexa_3_3
@@ -20,7 +21,8 @@ class Garbage;
 class IResultCollector;
 class RegisteredOptionStorage;
 
-// Made for one parse run. Whatever an operation is given lives longer than the run.
+// Made for one run: the arguments of a command line or of an option file. What an operation is
+// given outlives the run.
 class IArgumentParser
 {
 public:
@@ -29,34 +31,38 @@ public:
 
     virtual ~IArgumentParser() = default;
 
-    // Whether this parser claims the front argument: `claimed` or `declined`. Reports no error:
-    // what is wrong with a claimed argument is said by `parse`.
+    // Returns whether this parser claims the front argument: `claimed` or `declined`. An error in a
+    // claimed argument is left to `parse`.
+    //
+    // Precondition: there is an argument.
     virtual int recognize(const ArgumentQueue& arguments, const RegisteredOptionStorage& options,
                           std::wstring& message) = 0;
 
-    // Parses the front argument, which the last `recognize` claimed.
+    // Parses the front argument.
+    //
+    // Precondition: `recognize` was called last for this argument, and claimed it.
     //
     // collector:   what to store into; may be null.
     // optionIndex: receives the index of the option parsed.
     // error:       receives the message of a failure.
     //
-    // Answers 0, the arguments used having been removed from the front; 2 with a message, the
-    // failing argument and those behind it being unchanged; or another code from storing the value.
-    virtual int parse(ArgumentQueue& arguments, IResultCollector* collector,
-                      const RegisteredOptionStorage& options, std::int64_t& optionIndex,
-                      std::wstring& error) = 0;
+    // Returns `parsed`, the used arguments being removed from the front; otherwise, with a message,
+    // the failing argument and those behind it are still there.
+    virtual ParseStatus parse(ArgumentQueue& arguments, IResultCollector* collector,
+                              const RegisteredOptionStorage& options, std::int64_t& optionIndex,
+                              std::wstring& error) = 0;
 
-    // What messages about one argument end with.
+    // Returns the end of messages about one argument.
     [[nodiscard]] virtual std::wstring formatArgumentContext(std::wstring_view argument) const;
 
-    // Of several parsers that claim an argument the one with the highest priority parses it.
+    // When several parsers claim an argument, the one with the highest priority parses it.
     [[nodiscard]] virtual std::int32_t priority() const noexcept = 0;
 
-    // What the storing of values needs to know of the parser that runs it.
+    // For the storing of values.
     [[nodiscard]] EventHandler* owner() const noexcept { return m_owner; }
     [[nodiscard]] std::wstring_view name() const noexcept { return m_name; }
 
-    // Writes a trace line that begins with the parser's name, where the run writes any.
+    // Writes a trace line that begins with the parser's name, in a run that may be traced.
     template <class Run, class... Pieces>
     void trace([[maybe_unused]] Pieces... pieces) const
     {
@@ -67,7 +73,7 @@ public:
     }
 
 protected:
-    // owner:    receives the events; null where nobody listens.
+    // owner:    receives the events; null when no handler is registered.
     // settings: the parser's texts.
     // flags:    the creation flags.
     IArgumentParser(EventHandler* owner, Garbage& settings, std::uint32_t flags) noexcept
@@ -91,7 +97,7 @@ protected:
 private:
     static constexpr std::wstring_view nameless = L"UndefinedParser";
 
-    // Looked up only when it is written.
+    // Stands for the name in a trace line, so that it is read only when the line is written.
     struct Name
     {
         const IArgumentParser* parser;
@@ -102,7 +108,7 @@ private:
     };
 
     EventHandler* m_owner;
-    std::wstring_view m_name = nameless; // begins every trace line; a literal
+    std::wstring_view m_name = nameless; // of a literal
     Garbage* m_settings;
     std::uint32_t m_flags;
 };

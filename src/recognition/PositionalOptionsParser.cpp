@@ -1,5 +1,6 @@
 #include "recognition/PositionalOptionsParser.h"
 
+#include <cassert>
 #include <string_view>
 
 #include "kexa/parser.h"
@@ -28,9 +29,9 @@ int PositionalOptionsParser::recognize(const ArgumentQueue& arguments,
     return recognizeIn<AnyRun>(arguments, options, message);
 }
 
-int PositionalOptionsParser::parse(ArgumentQueue& arguments, IResultCollector* collector,
-                                   const RegisteredOptionStorage& options,
-                                   std::int64_t& optionIndex, std::wstring& error)
+ParseStatus PositionalOptionsParser::parse(ArgumentQueue& arguments, IResultCollector* collector,
+                                           const RegisteredOptionStorage& options,
+                                           std::int64_t& optionIndex, std::wstring& error)
 {
     return parseIn<AnyRun>(arguments, collector, options, optionIndex, error);
 }
@@ -40,6 +41,7 @@ int PositionalOptionsParser::recognizeIn(const ArgumentQueue& arguments,
                                          const RegisteredOptionStorage& options,
                                          std::wstring& /*message*/)
 {
+    assert(!arguments.empty());
     const std::wstring_view argument = arguments.front();
     trace<Run>(L": recognizing argument '", argument, L"'");
     if (hasFlag(flag_no_hyphen_positional) && !argument.empty() && argument.front() == L'-')
@@ -50,12 +52,15 @@ int PositionalOptionsParser::recognizeIn(const ArgumentQueue& arguments,
 }
 
 template <class Run>
-int PositionalOptionsParser::parseIn(ArgumentQueue& arguments, typename Run::Collector* collector,
-                                     const RegisteredOptionStorage& options,
-                                     std::int64_t& optionIndex, std::wstring& error)
+ParseStatus PositionalOptionsParser::parseIn(ArgumentQueue& arguments,
+                                             typename Run::Collector* collector,
+                                             const RegisteredOptionStorage& options,
+                                             std::int64_t& optionIndex, std::wstring& error)
 {
+    assert(!arguments.empty());
     trace<Run>(L": parsing argument '", arguments.front(), L"'");
-    const std::size_t number = options.index().firstPositional().value();
+    assert(options.index().firstPositional().has_value());
+    const std::size_t number = *options.index().firstPositional();
     optionIndex = static_cast<std::int64_t>(number);
     const OptionDescription& option = options[number];
     trace<Run>(L": option is '", option.primaryName(), L"'");
@@ -63,51 +68,51 @@ int PositionalOptionsParser::parseIn(ArgumentQueue& arguments, typename Run::Col
     {
         const std::wstring_view argument = arguments.front();
         const GivenValue given = {option, argument, argument};
-        int code = 0;
+        ParseStatus status = ParseStatus::parsed;
         if (owner() == nullptr) [[likely]]
         {
-            code = storeAndRemove<Run>(given, collector, arguments, error);
+            status = storeAndRemove<Run>(given, collector, arguments, error);
         }
         else
         {
             reportOption(option);
-            // From here on a handler may have switched the trace on.
+            // A handler may have switched the trace on.
             using Watched = WatchedRun<typename Run::Collector>;
-            code = storeAndRemove<Watched>(given, collector, arguments, error);
+            status = storeAndRemove<Watched>(given, collector, arguments, error);
         }
-        if (code != 0)
+        if (status != ParseStatus::parsed)
         {
-            return code;
+            return status;
         }
     } while (!arguments.empty() && hasFlag(flag_positional_takes_rest));
-    return 0;
+    return ParseStatus::parsed;
 }
 
 template <class Run>
-int PositionalOptionsParser::storeAndRemove(const GivenValue& given,
-                                            typename Run::Collector* collector,
-                                            ArgumentQueue& arguments, std::wstring& error)
+ParseStatus PositionalOptionsParser::storeAndRemove(const GivenValue& given,
+                                                    typename Run::Collector* collector,
+                                                    ArgumentQueue& arguments, std::wstring& error)
 {
-    const int code = m_storing.storeIn<Run>(given, collector, error);
-    if (code == 0)
+    const ParseStatus status = m_storing.storeIn<Run>(given, collector, error);
+    if (status == ParseStatus::parsed)
     {
         trace<Run>(L": removing argument: '", given.argument, L"'");
         arguments.removeFront();
     }
-    return code;
+    return status;
 }
 
 template int PositionalOptionsParser::recognizeIn<AnyRun>(const ArgumentQueue&,
                                                           const RegisteredOptionStorage&,
                                                           std::wstring&);
-template int PositionalOptionsParser::parseIn<AnyRun>(ArgumentQueue&, IResultCollector*,
-                                                      const RegisteredOptionStorage&, std::int64_t&,
-                                                      std::wstring&);
+template ParseStatus PositionalOptionsParser::parseIn<AnyRun>(ArgumentQueue&, IResultCollector*,
+                                                              const RegisteredOptionStorage&,
+                                                              std::int64_t&, std::wstring&);
 template int PositionalOptionsParser::recognizeIn<UsualRun>(const ArgumentQueue&,
                                                             const RegisteredOptionStorage&,
                                                             std::wstring&);
-template int PositionalOptionsParser::parseIn<UsualRun>(ArgumentQueue&, ParseResult*,
-                                                        const RegisteredOptionStorage&,
-                                                        std::int64_t&, std::wstring&);
+template ParseStatus PositionalOptionsParser::parseIn<UsualRun>(ArgumentQueue&, ParseResult*,
+                                                                const RegisteredOptionStorage&,
+                                                                std::int64_t&, std::wstring&);
 
 } // namespace kexa_3_3

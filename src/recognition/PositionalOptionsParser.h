@@ -1,4 +1,4 @@
-// Arguments that no option names, bound to the positional option.
+// Recognises arguments that are values of the positional option.
 #pragma once
 
 #include <cstdint>
@@ -10,7 +10,7 @@
 namespace kexa_3_3
 {
 
-// Everything goes to the first positional option of the table; further ones never get a value here.
+// Values go to the first positional option of the table; the others never get one here.
 class PositionalOptionsParser final : public IArgumentParser
 {
 public:
@@ -18,25 +18,26 @@ public:
 
     int recognize(const ArgumentQueue& arguments, const RegisteredOptionStorage& options,
                   std::wstring& message) override;
-    int parse(ArgumentQueue& arguments, IResultCollector* collector,
-              const RegisteredOptionStorage& options, std::int64_t& optionIndex,
-              std::wstring& error) override;
+    ParseStatus parse(ArgumentQueue& arguments, IResultCollector* collector,
+                      const RegisteredOptionStorage& options, std::int64_t& optionIndex,
+                      std::wstring& error) override;
 
-    // Both in a run of one kind (Runs.h), without virtual calls.
+    // recognize and parse in a run of one kind (Runs.h), without virtual calls.
     template <class Run>
     int recognizeIn(const ArgumentQueue& arguments, const RegisteredOptionStorage& options,
                     std::wstring& message);
     template <class Run>
-    int parseIn(ArgumentQueue& arguments, typename Run::Collector* collector,
-                const RegisteredOptionStorage& options, std::int64_t& optionIndex,
-                std::wstring& error);
+    ParseStatus parseIn(ArgumentQueue& arguments, typename Run::Collector* collector,
+                        const RegisteredOptionStorage& options, std::int64_t& optionIndex,
+                        std::wstring& error);
 
     [[nodiscard]] std::int32_t priority() const noexcept override { return -100; }
 
 private:
     template <class Run>
-    [[nodiscard]] int storeAndRemove(const GivenValue& given, typename Run::Collector* collector,
-                                     ArgumentQueue& arguments, std::wstring& error);
+    [[nodiscard]] ParseStatus storeAndRemove(const GivenValue& given,
+                                             typename Run::Collector* collector,
+                                             ArgumentQueue& arguments, std::wstring& error);
 
     ValueStoring m_storing;
 };

@@ -1,7 +1,7 @@
 #include "recognition/ValueStoring.h"
 
 #include <atomic>
-#include <limits>
+#include <cassert>
 #include <utility>
 
 #include "kexa/event_handler.h"
@@ -24,22 +24,21 @@ namespace kexa_3_3
 namespace
 {
 
-constexpr int stored = 0;
-constexpr int refused = 1;
-constexpr int invalid = 2;
-
-// 2147483647 marks "no position", so the numbers end before it.
-constexpr std::uint64_t sequence_numbers = std::numeric_limits<std::int32_t>::max();
-
-// One for the whole process: positions rise from parse to parse, whichever parser stores them.
-// Relaxed, since a number orders nothing but itself.
+// One for the whole process: positions rise from parse to parse, whichever parser gives them. It
+// counts on where the numbers begin at 0 again. Relaxed, as a number guards no other memory: the
+// numbers of one thread rise nevertheless.
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables)
-std::atomic<std::uint64_t> sequence_counter = 0;
+std::atomic<std::uint64_t> sequence_counter{0};
+
+std::int32_t sequenceNumber(std::uint64_t count) noexcept
+{
+    constexpr std::uint64_t numbers = no_position; // the mark for "no position" is not one of them
+    return static_cast<std::int32_t>(count % numbers);
+}
 
 std::int32_t takeSequenceNumber() noexcept
 {
-    const std::uint64_t count = sequence_counter.fetch_add(1, std::memory_order_relaxed);
-    return static_cast<std::int32_t>(count % sequence_numbers);
+    return sequenceNumber(sequence_counter.fetch_add(1, std::memory_order_relaxed));
 }
 
 std::wstring noValueMessage(std::wstring_view value, const OptionDescription& option)
@@ -76,16 +75,17 @@ void storeWithoutValue(const GivenValue& given, Collector* collector)
 
 std::int32_t nextSequenceNumber() noexcept
 {
-    const std::uint64_t count = sequence_counter.load(std::memory_order_relaxed);
-    return static_cast<std::int32_t>(count % sequence_numbers);
+    return sequenceNumber(sequence_counter.load(std::memory_order_relaxed));
 }
 
 void setNextSequenceNumber(std::int32_t number) noexcept
 {
+    assert(number >= 0 && number < no_position);
     sequence_counter.store(static_cast<std::uint64_t>(number), std::memory_order_relaxed);
 }
 
-int ValueStoring::store(const GivenValue& given, IResultCollector* collector, std::wstring& error)
+ParseStatus ValueStoring::store(const GivenValue& given, IResultCollector* collector,
+                                std::wstring& error)
 {
     return storeIn<AnyRun>(given, collector, error);
 }
@@ -97,28 +97,28 @@ void ValueStoring::trace(Pieces... pieces) const
 }
 
 template <class Run>
-int ValueStoring::storeIn(const GivenValue& given, typename Run::Collector* collector,
-                          std::wstring& error)
+ParseStatus ValueStoring::storeIn(const GivenValue& given, typename Run::Collector* collector,
+                                  std::wstring& error)
 {
-    int code = stored;
+    ParseStatus status = ParseStatus::parsed;
     if (given.value.empty())
     {
         storeWithoutValue(given, collector);
     }
     else
     {
-        code = storeValue<Run>(given, collector, error);
+        status = storeValue<Run>(given, collector, error);
     }
-    if (code == stored)
+    if (status == ParseStatus::parsed)
     {
         trace<Run>(L": stored option to result container.");
     }
-    return code;
+    return status;
 }
 
 template <class Run>
-int ValueStoring::storeValue(const GivenValue& given, typename Run::Collector* collector,
-                             std::wstring& error)
+ParseStatus ValueStoring::storeValue(const GivenValue& given, typename Run::Collector* collector,
+                                     std::wstring& error)
 {
     const wchar_t separator = given.option.separator; // which handlers may change later
     trace<Run>(L": adding values to result container:");
@@ -137,28 +137,29 @@ int ValueStoring::storeValue(const GivenValue& given, typename Run::Collector* c
     }
     SharedTexts* const texts = textsOf(collector);
     ValueEntry entry = {given.value, convertValue(given.option.valueType, given.value, texts)};
-    if (const int code = accept<Run>(given, separator != 0, texts, entry, error); code != stored)
+    if (const ParseStatus status = accept<Run>(given, separator != 0, texts, entry, error);
+        status != ParseStatus::parsed)
     {
-        return code;
+        return status;
     }
     if (collector != nullptr)
     {
         static_cast<void>(collector->storeValue(given.option, entry));
     }
-    return stored;
+    return ParseStatus::parsed;
 }
 
 template <class Run>
-int ValueStoring::storePieces(const GivenValue& given, wchar_t separator,
-                              typename Run::Collector* collector, std::wstring& error)
+ParseStatus ValueStoring::storePieces(const GivenValue& given, wchar_t separator,
+                                      typename Run::Collector* collector, std::wstring& error)
 {
     SharedTexts* const texts = textsOf(collector);
     OptionResult record;
-    int code = stored;
+    ParseStatus status = ParseStatus::parsed;
     forEachPiece(given.value, separator,
                  [&](std::wstring_view piece)
                  {
-                     if (code == stored)
+                     if (status == ParseStatus::parsed)
                      {
                          trace<Run>(L": value is: '", piece, L"'");
                          // Room first: behind a failure with a message nothing may throw.
@@ -166,7 +167,7 @@ int ValueStoring::storePieces(const GivenValue& given, wchar_t separator,
                          ValueEntry& entry = record.values.emplace_back();
                          entry.value = convertValue(given.option.valueType, piece, texts);
                          entry.text = piece;
-                         code = accept<Run>(given, true, texts, entry, error);
+                         status = accept<Run>(given, true, texts, entry, error);
                          record.positions.back() = entry.position;
                      }
                  });
@@ -174,13 +175,13 @@ int ValueStoring::storePieces(const GivenValue& given, wchar_t separator,
     {
         error = noValueMessage(given.value, given.option);
         trace<Run>(L": ", viewOf(error));
-        return invalid;
+        return ParseStatus::invalid;
     }
-    if (code == stored && collector != nullptr)
+    if (status == ParseStatus::parsed && collector != nullptr)
     {
         static_cast<void>(collector->storeOption(given.option, record));
     }
-    return code;
+    return status;
 }
 
 // Checks a converted piece of the value, numbers it and offers it to the event handlers.
@@ -189,8 +190,8 @@ int ValueStoring::storePieces(const GivenValue& given, wchar_t separator,
 //        its number, and completed or replaced where the check says so. Where a handler throws it
 //        has lost its value.
 template <class Run>
-inline int ValueStoring::accept(const GivenValue& given, [[maybe_unused]] bool isCut,
-                                SharedTexts* texts, ValueEntry& entry, std::wstring& error)
+inline ParseStatus ValueStoring::accept(const GivenValue& given, [[maybe_unused]] bool isCut,
+                                        SharedTexts* texts, ValueEntry& entry, std::wstring& error)
 {
     const ValueVerdict verdict = checkValue(given.option, entry.text, entry.value, texts);
     if (isRejected(verdict)) [[unlikely]]
@@ -214,7 +215,7 @@ inline int ValueStoring::accept(const GivenValue& given, [[maybe_unused]] bool i
     {
         entry.text = finalText(given.option, entry.value);
     }
-    return stored;
+    return ParseStatus::parsed;
 }
 
 // Lets the event handlers, which there must be, see a value. Answers whether they accept it.
@@ -233,27 +234,29 @@ void ValueStoring::traceOffer(const GivenValue& given, std::wstring_view piece) 
 }
 
 // Says that a piece of the value is none for the option.
-int ValueStoring::reject(ValueVerdict verdict, std::wstring_view piece, const GivenValue& given,
-                         std::wstring& error) const
+ParseStatus ValueStoring::reject(ValueVerdict verdict, std::wstring_view piece,
+                                 const GivenValue& given, std::wstring& error) const
 {
     error = concatenate({L"Value validation problem in argument '", given.argument, L"': ",
                          rejectionMessage(verdict, given.option, piece)});
     trace<AnyRun>(L": ", viewOf(error));
-    return invalid;
+    return ParseStatus::invalid;
 }
 
 // Says that a handler refused a value.
-int ValueStoring::refuse(const GivenValue& given, std::wstring& error) const
+ParseStatus ValueStoring::refuse(const GivenValue& given, std::wstring& error) const
 {
     error = concatenate({L"Value '", given.value, L"' is not valid for option '",
                          given.option.primaryName(), L"' in argument '", given.argument, L"'"});
     trace<AnyRun>(viewOf(error), L" One of the handler signaled the value is not valid.");
-    return refused;
+    return ParseStatus::refused;
 }
 
-template int ValueStoring::storeIn<AnyRun>(const GivenValue&, IResultCollector*, std::wstring&);
-template int ValueStoring::storeIn<WatchedRun<ParseResult>>(const GivenValue&, ParseResult*,
-                                                            std::wstring&);
-template int ValueStoring::storeIn<UsualRun>(const GivenValue&, ParseResult*, std::wstring&);
+template ParseStatus ValueStoring::storeIn<AnyRun>(const GivenValue&, IResultCollector*,
+                                                   std::wstring&);
+template ParseStatus ValueStoring::storeIn<WatchedRun<ParseResult>>(const GivenValue&, ParseResult*,
+                                                                    std::wstring&);
+template ParseStatus ValueStoring::storeIn<UsualRun>(const GivenValue&, ParseResult*,
+                                                     std::wstring&);
 
 } // namespace kexa_3_3

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "recognition/ParseStatus.h"
 #include "result/OptionResult.h"
 
 namespace kexa_3_3
@@ -17,8 +18,9 @@ class OptionDescription;
 class SharedTexts;
 enum class ValueVerdict : std::uint8_t;
 
-// The number that the next converted value will get. One counter for the whole process, unguarded:
-// it orders the values of all parsers by the time of their conversion.
+// Returns the number that the next converted value will get. One counter for the whole process
+// numbers the values of all parsers: the numbers rise in each thread, and none is given twice
+// before they begin at 0 again, which is before 2147483647.
 [[nodiscard]] std::int32_t nextSequenceNumber() noexcept;
 
 // Lets the counter go on from a number, so that its wrap can be reached.
@@ -40,33 +42,33 @@ public:
 
     // collector: what to store into; may be null.
     // error:     receives the message of a failure.
-    // Answers 0; 2 where the value does not convert or is not allowed; 1 where a handler refused
-    // it. Nothing of the occurrence is stored then.
-    [[nodiscard]] int store(const GivenValue& given, IResultCollector* collector,
-                            std::wstring& error);
+    // Returns `invalid` when the value does not convert or is not allowed, `refused` when a handler
+    // refused it. Nothing of the occurrence is stored then.
+    [[nodiscard]] ParseStatus store(const GivenValue& given, IResultCollector* collector,
+                                    std::wstring& error);
 
     // The same in a run of a kind.
     template <class Run>
-    [[nodiscard]] int storeIn(const GivenValue& given, typename Run::Collector* collector,
-                              std::wstring& error);
+    [[nodiscard]] ParseStatus storeIn(const GivenValue& given, typename Run::Collector* collector,
+                                      std::wstring& error);
 
 private:
     template <class Run, class... Pieces>
     void trace(Pieces... pieces) const;
     template <class Run>
-    [[nodiscard]] int storeValue(const GivenValue& given, typename Run::Collector* collector,
-                                 std::wstring& error);
+    [[nodiscard]] ParseStatus storeValue(const GivenValue& given,
+                                         typename Run::Collector* collector, std::wstring& error);
     template <class Run>
-    [[nodiscard]] int storePieces(const GivenValue& given, wchar_t separator,
-                                  typename Run::Collector* collector, std::wstring& error);
+    [[nodiscard]] ParseStatus storePieces(const GivenValue& given, wchar_t separator,
+                                          typename Run::Collector* collector, std::wstring& error);
     template <class Run>
-    [[nodiscard]] int accept(const GivenValue& given, bool isCut, SharedTexts* texts,
-                             ValueEntry& entry, std::wstring& error);
-    [[nodiscard]] int reject(ValueVerdict verdict, std::wstring_view piece, const GivenValue& given,
-                             std::wstring& error) const;
+    [[nodiscard]] ParseStatus accept(const GivenValue& given, bool isCut, SharedTexts* texts,
+                                     ValueEntry& entry, std::wstring& error);
+    [[nodiscard]] ParseStatus reject(ValueVerdict verdict, std::wstring_view piece,
+                                     const GivenValue& given, std::wstring& error) const;
     [[nodiscard]] bool offer(const OptionDescription& option, ValueEntry& entry) const;
     void traceOffer(const GivenValue& given, std::wstring_view piece) const;
-    [[nodiscard]] int refuse(const GivenValue& given, std::wstring& error) const;
+    [[nodiscard]] ParseStatus refuse(const GivenValue& given, std::wstring& error) const;
 
     const IArgumentParser& m_parser;
 };

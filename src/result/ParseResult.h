@@ -17,6 +17,8 @@
 namespace kexa_3_3
 {
 
+class OptionFiles;
+
 class ParseResult final : public IParseResult, public IResultCollector
 {
 public:
@@ -44,6 +46,10 @@ public:
 
     // What is stored, for the later steps of a parse.
     [[nodiscard]] const OptionResultTable& options() const noexcept { return m_options; }
+
+    // The option files of the innermost parse that fills this now, or null. Only kept here.
+    [[nodiscard]] OptionFiles* openFiles() const noexcept { return m_openFiles; }
+    void setOpenFiles(OptionFiles* files) noexcept { m_openFiles = files; }
 
 private:
     struct Unparsed
@@ -74,6 +80,8 @@ private:
 
     std::vector<Unparsed> m_unparsed;
     std::size_t m_unparsedCursor = 0;
+
+    OptionFiles* m_openFiles = nullptr; // not owned
 };
 
 } // namespace kexa_3_3

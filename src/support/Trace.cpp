@@ -8,7 +8,8 @@ namespace kexa_3_3
 namespace internal
 {
 
-bool trace_switch = false; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables)
+std::atomic<bool> trace_switch{false};
 
 } // namespace internal
 
@@ -28,7 +29,7 @@ struct NullStream
 
 std::wostream& traceStream()
 {
-    if (internal::trace_switch)
+    if (traceIsOn())
     {
         return ucout();
     }

@@ -1,6 +1,7 @@
 // The diagnostic trace of parsing decisions.
 #pragma once
 
+#include <atomic>
 #include <ostream>
 #include <streambuf>
 #include <type_traits>
@@ -11,7 +12,7 @@ namespace kexa_3_3
 namespace internal
 {
 
-// Discards what is written to it: without storage, every write fails.
+// Discards what is written to it: it has no storage, so every write fails.
 class basic_nullbuf final : public std::wstreambuf
 {
 public:
@@ -21,24 +22,24 @@ public:
     ~basic_nullbuf() override = default;
 };
 
-// The trace switch. One for the whole process and unguarded: parsers in several threads interfere
-// in what they trace, and in nothing else.
+// The trace switch. One for the whole process: parsers in several threads interfere in what they
+// trace, and in nothing else. Relaxed, as it guards no other memory.
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables)
-extern bool trace_switch;
+extern std::atomic<bool> trace_switch;
 
 } // namespace internal
 
-// Standard output while the trace switch is on, else a stream that discards everything.
+// Returns standard output while the trace switch is on, else a stream that discards everything.
 std::wostream& traceStream();
 
 inline void switchTrace(bool on) noexcept
 {
-    internal::trace_switch = on;
+    internal::trace_switch.store(on, std::memory_order_relaxed);
 }
 
 [[nodiscard]] inline bool traceIsOn() noexcept
 {
-    return internal::trace_switch;
+    return internal::trace_switch.load(std::memory_order_relaxed);
 }
 
 namespace internal
@@ -52,14 +53,14 @@ void writeTraceLine(Pieces... pieces)
 
 } // namespace internal
 
-// Writes one line made of the pieces (wide texts and integers). While the trace is off it costs a
-// look at the switch: the pieces are not even formatted. They come by value, since a reference
-// would keep what it refers to in memory, also for the code around that has it in registers.
+// Writes one line made of the pieces: wide texts and integers. With tracing off this is one branch;
+// the pieces are not formatted. They are passed by value: a reference would force the caller to
+// keep what it refers to in memory instead of in registers.
 template <class... Pieces>
 inline void traceLine(Pieces... pieces)
 {
     static_assert((std::is_trivially_copyable_v<Pieces> && ...), "a view of a text, not the text");
-    if (internal::trace_switch) [[unlikely]]
+    if (traceIsOn()) [[unlikely]]
     {
         internal::writeTraceLine(pieces...);
     }

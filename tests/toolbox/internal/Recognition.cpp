@@ -80,8 +80,8 @@ RecognitionTest::Outcome RecognitionTest::run(IArgumentParser& parser, const Tex
     EXPECT_EQ(queue.front(), arguments.front());
     if (outcome.recognized == IArgumentParser::claimed)
     {
-        outcome.code =
-            parser.parse(queue, &collector, options, outcome.optionIndex, outcome.message);
+        outcome.code = resultOf(
+            parser.parse(queue, &collector, options, outcome.optionIndex, outcome.message));
     }
     outcome.rest = takeAll(queue);
     return outcome;

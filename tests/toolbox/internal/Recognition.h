@@ -68,7 +68,7 @@ protected:
     struct Outcome
     {
         int recognized = 0;
-        int code = -1; // status of parse; -1 if the argument was not recognized
+        int code = -1; // that a parse ends with; set when recognized is 0
         std::int64_t optionIndex = -2;
         std::wstring message;
         Texts rest; // the arguments not removed

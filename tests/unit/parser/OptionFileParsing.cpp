@@ -62,7 +62,7 @@ protected:
 
 TEST_F(OptionFilesTest, NothingIsReadWhereNothingIsNamed)
 {
-    OptionFiles files(result.options());
+    OptionFiles files(result);
     EXPECT_EQ(readAll(files), 0);
     EXPECT_TRUE(parsed.empty());
     EXPECT_EQ(message, L"as before");
@@ -70,7 +70,7 @@ TEST_F(OptionFilesTest, NothingIsReadWhereNothingIsNamed)
 
 TEST_F(OptionFilesTest, FilesAreReadInTheOrderOfTheirNames)
 {
-    OptionFiles files(result.options());
+    OptionFiles files(result);
     name(folder.write(L"b", "first\nsecond\n"));
     name(folder.write(L"a", ""));
     name(folder.write(L"c", "third"));
@@ -82,7 +82,7 @@ TEST_F(OptionFilesTest, FilesAreReadInTheOrderOfTheirNames)
 TEST_F(OptionFilesTest, NamesOfEarlierParsesAreNotReadAgain)
 {
     name(folder.name(L"missing"));
-    OptionFiles files(result.options());
+    OptionFiles files(result);
     name(folder.write(L"file", "x"));
     EXPECT_EQ(readAll(files), 0);
     EXPECT_EQ(parsed, (std::vector<Texts>{{L"x"}}));
@@ -91,7 +91,7 @@ TEST_F(OptionFilesTest, NamesOfEarlierParsesAreNotReadAgain)
 TEST_F(OptionFilesTest, FilesNamedByFilesAreReadBehindAllOthers)
 {
     const std::wstring nested = folder.write(L"nested", "deep");
-    OptionFiles files(result.options());
+    OptionFiles files(result);
     name(folder.write(L"first", "1"));
     name(folder.write(L"second", "2"));
     whileParsing = [this, &nested](const Texts& arguments)
@@ -110,7 +110,7 @@ TEST_F(OptionFilesTest, FileIsReadOnceWhateverItsName)
 {
     const std::wstring file = folder.write(L"file", "x");
     std::filesystem::create_directory(folder.path() / "sub");
-    OptionFiles files(result.options());
+    OptionFiles files(result);
     name(file);
     name(file);
     name(folder.name(L"sub") + L"/../file");
@@ -126,7 +126,7 @@ TEST_F(OptionFilesTest, FileIsReadOnceWhateverItsName)
 
 TEST_F(OptionFilesTest, FirstFailedFileEndsTheReading)
 {
-    OptionFiles files(result.options());
+    OptionFiles files(result);
     name(folder.write(L"a", "a"));
     name(folder.write(L"b", "b"));
     name(folder.write(L"c", "c"));
@@ -150,7 +150,7 @@ TEST_F(OptionFilesTest, FileThatCannotBeReadIsNamedWithTheReason)
     for (const auto& row : rows)
     {
         ParseResult own;
-        OptionFiles files(own.options());
+        OptionFiles files(own);
         OptionResult record;
         record.positions.push_back(0);
         record.values.push_back({row.file, variant_t(row.file), 0});
@@ -179,7 +179,7 @@ TEST_F(OptionFilesTest, TextIsUtf8)
         {"\xEF\xBB\xBF# comment\nx", {L"x"}},
         {"a\xFFz\n\xE2\x82", {L"a\uFFFDz", L"\uFFFD"}},
         {std::string("a\0b", 3), {std::wstring(L"a\0b", 3)}}};
-    OptionFiles files(result.options());
+    OptionFiles files(result);
     std::vector<Texts> expected;
     for (const auto& row : rows)
     {
@@ -196,7 +196,7 @@ TEST_F(OptionFilesTest, NameMayMoveToAShorterRecordMeanwhile)
 {
     OptionDescription other(no_group, false, pool);
     other.addName(L"f").addName(option_file_name);
-    OptionFiles files(result.options());
+    OptionFiles files(result);
     name(folder.write(L"a", "--a"));
     name(folder.write(L"b", "--b"));
     whileParsing = [&](const Texts& arguments)

@@ -202,7 +202,7 @@ TEST_F(AbbreviationParsing, CollectorIsOptional)
     std::wstring message;
     std::int64_t optionIndex = -1;
     ASSERT_EQ(parser.recognize(queue, options, message), 0);
-    EXPECT_EQ(parser.parse(queue, nullptr, options, optionIndex, message), 0);
+    EXPECT_EQ(parser.parse(queue, nullptr, options, optionIndex, message), ParseStatus::parsed);
     EXPECT_EQ(unit::takeAll(queue), (Texts{L"next"}));
     EXPECT_EQ(handler.events, (Texts{L"option name", L"value name v 0"}));
 }
@@ -216,7 +216,7 @@ TEST_F(AbbreviationParsing, HandlerIsOptional)
     std::wstring message;
     std::int64_t optionIndex = -1;
     ASSERT_EQ(parser.recognize(queue, options, message), 0);
-    EXPECT_EQ(parser.parse(queue, &collector, options, optionIndex, message), 0);
+    EXPECT_EQ(parser.parse(queue, &collector, options, optionIndex, message), ParseStatus::parsed);
     EXPECT_EQ(unit::takeAll(queue), (Texts{L"next"}));
     EXPECT_EQ(collector.stored, (Texts{L"name [0 v=v, 1 w=w]"}));
 }

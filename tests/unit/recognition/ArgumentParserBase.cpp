@@ -24,11 +24,11 @@ public:
     {
         return claimed;
     }
-    int parse(ArgumentQueue& /*arguments*/, IResultCollector* /*collector*/,
-              const RegisteredOptionStorage& /*options*/, std::int64_t& /*optionIndex*/,
-              std::wstring& /*error*/) override
+    ParseStatus parse(ArgumentQueue& /*arguments*/, IResultCollector* /*collector*/,
+                      const RegisteredOptionStorage& /*options*/, std::int64_t& /*optionIndex*/,
+                      std::wstring& /*error*/) override
     {
-        return 0;
+        return ParseStatus::parsed;
     }
     [[nodiscard]] std::int32_t priority() const noexcept override { return 0; }
 
@@ -59,7 +59,8 @@ TEST_F(ArgumentParserBase, KindWithoutANameTracesAsUndefined)
                   [&]
                   {
                       switchTrace(true);
-                      EXPECT_EQ(storing.store({option, L"", L"--out"}, nullptr, error), 0);
+                      EXPECT_EQ(storing.store({option, L"", L"--out"}, nullptr, error),
+                                ParseStatus::parsed);
                   }),
               "UndefinedParser: stored option to result container.\n");
 }

@@ -17,9 +17,7 @@ class BestMatchTest : public unit::RecognitionTest
 protected:
     [[nodiscard]] BestMatch find(const std::wstring& typedName) const
     {
-        BestMatch match;
-        findBestMatch(match, options.index(), HashedText(typedName));
-        return match;
+        return findBestMatch(options.index(), HashedText(typedName));
     }
 
     // The name that matches, or "N matches".

@@ -25,7 +25,7 @@ protected:
     int store(const OptionDescription& option, std::wstring_view value)
     {
         error.clear();
-        return storing.store({option, value, L"--argument"}, &collector, error);
+        return resultOf(storing.store({option, value, L"--argument"}, &collector, error));
     }
 
     PositionalOptionsParser parser{&handler, pool, 0};
@@ -159,8 +159,8 @@ TEST_F(ValueStoringTest, TextOfANumberIsAsWritten)
 TEST_F(ValueStoringTest, CollectorIsNotNeeded)
 {
     const OptionDescription& option = add(L"o");
-    EXPECT_EQ(storing.store({option, L"a,b", L"--argument"}, nullptr, error), 0);
-    EXPECT_EQ(storing.store({option, L"", L"--argument"}, nullptr, error), 0);
+    EXPECT_EQ(storing.store({option, L"a,b", L"--argument"}, nullptr, error), ParseStatus::parsed);
+    EXPECT_EQ(storing.store({option, L"", L"--argument"}, nullptr, error), ParseStatus::parsed);
     EXPECT_EQ(nextSequenceNumber(), 2);
     EXPECT_EQ(handler.events, (Texts{L"value o a 0", L"value o b 1"}));
 }
