@@ -123,23 +123,17 @@ public:
     }
     variant_t& operator=(const variant_t& other)
     {
-        variant_t copy(other);
-        swap(copy);
+        variant_t taken(other);
+        replace_content(taken);
         return *this;
     }
     variant_t& operator=(variant_t&& other) noexcept
     {
         variant_t taken(std::move(other));
-        swap(taken);
+        replace_content(taken);
         return *this;
     }
-    ~variant_t()
-    {
-        if (owns_block() && m_value.m_data != nullptr)
-        {
-            detail::release(m_value.m_data, m_type == kind_object);
-        }
-    }
+    ~variant_t() { clear(); }
 
     void swap(variant_t& other) noexcept
     {
@@ -212,6 +206,27 @@ private:
         : m_type(kind)
     {
         m_value.m_data = detail::make_block(bytes, length, terminator);
+    }
+
+    // Releases the content. The variant is null by the time an object's destructor runs.
+    void clear() noexcept
+    {
+        void* const block = owns_block() ? m_value.m_data : nullptr;
+        const bool holds_object = m_type == kind_object;
+        m_value.m_u64 = 0;
+        m_type = kind_null;
+        if (block != nullptr)
+        {
+            detail::release(block, holds_object);
+        }
+    }
+
+    // Releases the content, then exchanges null, or what an object's destructor stored meanwhile,
+    // for the new content.
+    void replace_content(variant_t& taken) noexcept
+    {
+        clear();
+        swap(taken);
     }
 
     // One test without a bound instead of four: this stands in every destructor. The kind is masked

@@ -32,7 +32,7 @@ inline void variant_t::set_data(s32_t kind, const void* bytes, std::size_t lengt
         kexa_3_3::raiseAssertion("bytes != NULL || length == 0", __FILE__, __LINE__, __func__);
     }
     variant_t copy(kind, bytes, length, 0);
-    swap(copy);
+    replace_content(copy);
 }
 
 inline u64_t variant_t::detach() noexcept
