@@ -40,6 +40,9 @@ public:
     template <class T>
     T as() const
     {
+        static_assert(vexkit2::detail::is_readable<T>,
+                      "Value::as<T> returns bool, s32_t, u32_t, s64_t, u64_t, double or "
+                      "const wchar_t*: this T is none of them");
         return value.get<T>();
     }
 };

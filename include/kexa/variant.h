@@ -7,6 +7,7 @@
 #include <cstring>
 #include <cwchar>
 #include <string>
+#include <type_traits>
 #include <utility>
 
 #include "kexa/assertion.h"
@@ -39,6 +40,17 @@ enum variant_kind_t : s32_t
     kind_object = 18
 };
 
+namespace detail
+{
+
+// Whether a text of such characters is copied by variant_t.
+template <class T>
+inline constexpr bool is_text_character =
+    std::is_same_v<T, char> || std::is_same_v<T, const char> || std::is_same_v<T, wchar_t> ||
+    std::is_same_v<T, const wchar_t>;
+
+} // namespace detail
+
 // A value of one of the kinds above, in two words.
 //
 // Copies of a text, blob or object share one block, freed with the last of them; its reference
@@ -51,16 +63,26 @@ class variant_t
 public:
     variant_t() noexcept = default; // null
     explicit variant_t(bool value) noexcept : m_type(kind_boolean) { m_value.m_bool = value; }
-    explicit variant_t(s32_t value) noexcept : m_type(kind_s32)
+
+    // Every integer type gives the kind of its width and sign; those shorter than int become int.
+    // s32_t is int; s64_t is long or long long, and long has 32 bits on Windows.
+    explicit variant_t(int value) noexcept : m_type(kind_s32) { set_signed(value); }
+    explicit variant_t(unsigned value) noexcept : m_type(kind_u32) { m_value.m_u64 = value; }
+    explicit variant_t(long value) noexcept : m_type(sizeof(value) == 4 ? kind_s32 : kind_s64)
     {
-        m_value.m_u64 = static_cast<u64_t>(value); // sign-extended
+        set_signed(value);
     }
-    explicit variant_t(u32_t value) noexcept : m_type(kind_u32) { m_value.m_u64 = value; }
-    explicit variant_t(s64_t value) noexcept : m_type(kind_s64)
+    explicit variant_t(unsigned long value) noexcept
+        : m_type(sizeof(value) == 4 ? kind_u32 : kind_u64)
     {
-        m_value.m_u64 = static_cast<u64_t>(value);
+        m_value.m_u64 = value;
     }
-    explicit variant_t(u64_t value) noexcept : m_type(kind_u64) { m_value.m_u64 = value; }
+    explicit variant_t(long long value) noexcept : m_type(kind_s64) { set_signed(value); }
+    explicit variant_t(unsigned long long value) noexcept : m_type(kind_u64)
+    {
+        m_value.m_u64 = value;
+    }
+
     explicit variant_t(float value) noexcept : m_type(kind_float)
     {
         m_value.m_double = static_cast<double>(value);
@@ -75,6 +97,13 @@ public:
         : variant_t(text, text == nullptr ? 0 : std::wcslen(text))
     {
     }
+
+    // Other pointers are refused: they would become a boolean.
+    template <class T, class = std::enable_if_t<!detail::is_text_character<T>>>
+    explicit variant_t(T* pointer) = delete;
+    template <class T, class Class>
+    explicit variant_t(T Class::*pointer) = delete;
+    explicit variant_t(std::nullptr_t) = delete;
 
     // A copy of the text, embedded zeros included.
     explicit variant_t(const std::string& text) : variant_t(text.data(), text.size()) {}
@@ -228,6 +257,9 @@ private:
         clear();
         swap(taken);
     }
+
+    // Sign-extended: integers of all widths compare as one word.
+    void set_signed(s64_t value) noexcept { m_value.m_u64 = static_cast<u64_t>(value); }
 
     // One test without a bound instead of four: this stands in every destructor. The kind is masked
     // because a shift by more than 31 is undefined.
