@@ -4,6 +4,17 @@
 
 #include <stdexcept>
 
+// 1 where the host may throw, else 0.
+#if (defined(__cpp_exceptions) || defined(_CPPUNWIND)) &&                                          \
+    !(defined(_HAS_EXCEPTIONS) && _HAS_EXCEPTIONS == 0)
+#define KEXA_HAS_EXCEPTIONS 1
+#else
+#define KEXA_HAS_EXCEPTIONS 0
+#include <cstdio>
+#include <cstdlib>
+#include <cwchar>
+#endif
+
 namespace kexa_3_3
 {
 
@@ -33,11 +44,21 @@ private:
     const char* m_function;
 };
 
-// Throws the AssertionFailure described by its arguments (see there).
+// Throws the AssertionFailure described by its arguments (see there). A host compiled without
+// exceptions writes them to standard error instead and calls std::abort.
 [[noreturn]] inline void raiseAssertion(const char* guard, const char* file, int line,
                                         const char* function)
 {
+#if KEXA_HAS_EXCEPTIONS
     throw AssertionFailure(guard, file, line, function);
+#else
+    // The C library refuses narrow text on a stream that wide text was written to.
+    if (std::fprintf(stderr, "%s:%d: %s: failed guard \"%s\"\n", file, line, function, guard) < 0)
+    {
+        std::fwprintf(stderr, L"%s:%d: %s: failed guard \"%s\"\n", file, line, function, guard);
+    }
+    std::abort();
+#endif
 }
 
 } // namespace kexa_3_3

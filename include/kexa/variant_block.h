@@ -91,7 +91,11 @@ inline void* allocate_block(std::size_t length)
         sizeof(shared_memory_t) + sizeof(block_header_t) + 2 * sizeof(wchar_t);
     if (length > std::numeric_limits<std::size_t>::max() - extra)
     {
+#if KEXA_HAS_EXCEPTIONS
         throw std::bad_alloc();
+#else
+        kexa_3_3::raiseAssertion("length <= maximum", __FILE__, __LINE__, __func__);
+#endif
     }
     auto* const memory = new (::operator new(length + extra)) shared_memory_t(1);
     auto* const header = new (memory + 1) block_header_t(memory, length);
