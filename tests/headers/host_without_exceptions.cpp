@@ -36,7 +36,7 @@ bool equal(const wchar_t* left, const wchar_t* right)
 }
 
 // Refuses the number 13 and takes the unknown argument "--extra".
-class Handler : public EventHandler
+class Handler final : public EventHandler
 {
 public:
     int options = 0;
