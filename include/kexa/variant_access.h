@@ -1,65 +1,30 @@
-// Reading and replacing what a variant_t holds. Included by kexa/variant.h.
+/// @file
+/// How a variant_t is read. Included by kexa/variant.h.
 #ifndef KEXA_VARIANT_ACCESS_H
 #define KEXA_VARIANT_ACCESS_H
 
 #include <cstddef>
 #include <cstring>
 #include <limits>
-#include <memory>
 #include <type_traits>
 
+#include "kexa/assertion.h"
 #include "kexa/variant.h"
+#include "kexa/variant_block.h"
 
 namespace vexkit2
 {
 
-namespace detail
+inline bool variant_t::owns_block() const noexcept
 {
-
-// The text of the guard that stands before reading a T; null where no variant is read as a T.
-template <class T>
-inline constexpr const char* can_get_guard = nullptr;
-template <>
-inline constexpr const char* can_get_guard<bool> = "can_get<bool>()";
-template <>
-inline constexpr const char* can_get_guard<s32_t> = "can_get<s32_t>()";
-template <>
-inline constexpr const char* can_get_guard<u32_t> = "can_get<u32_t>()";
-template <>
-inline constexpr const char* can_get_guard<s64_t> = "can_get<s64_t>()";
-template <>
-inline constexpr const char* can_get_guard<u64_t> = "can_get<u64_t>()";
-template <>
-inline constexpr const char* can_get_guard<double> = "can_get<double>()";
-template <>
-inline constexpr const char* can_get_guard<const wchar_t*> = "can_get<const wchar_t*>()";
-
-template <class T>
-inline constexpr bool is_readable = can_get_guard<T> != nullptr;
-
-} // namespace detail
-
-inline variant_t variant_t::object(polymorphic_t* object)
-{
-    std::unique_ptr<polymorphic_t> owner(object);
-    variant_t result(kind_object, &object, detail::object_length, 0);
-    static_cast<void>(owner.release());
-    return result;
+    return m_type == kind_wide_text || m_type == kind_narrow_text || m_type == kind_blob ||
+           m_type == kind_object;
 }
 
-inline void variant_t::set_data(s32_t kind, const void* bytes, std::size_t length)
+inline detail::shared_memory_t* variant_t::memory() const noexcept
 {
-    if (kind != kind_narrow_text && kind != kind_wide_text && kind != kind_blob)
-    {
-        kexa_3_3::raiseAssertion("kind == vtString || kind == vtWideString || kind == vtBlob",
-                                 __FILE__, __LINE__, __func__);
-    }
-    if (bytes == nullptr && length != 0)
-    {
-        kexa_3_3::raiseAssertion("bytes != NULL || length == 0", __FILE__, __LINE__, __func__);
-    }
-    variant_t copy(kind, bytes, length, 0);
-    replace_content(copy);
+    return owns_block() && m_value.m_data != nullptr ? detail::header_of(m_value.m_data)->memory
+                                                     : nullptr;
 }
 
 inline u64_t variant_t::detach() noexcept
@@ -79,7 +44,7 @@ inline variant_t variant_t::attach(s32_t kind, u64_t word) noexcept
     return attached;
 }
 
-// What the data word points at, for the kinds that hold a pointer.
+// Returns what the data word points at, for the kinds that hold a pointer.
 inline const void* variant_t::data() const
 {
     if (m_value.m_data == nullptr)
