@@ -1,10 +1,14 @@
-// How a programming error is reported: a failed guard throws AssertionFailure.
+/// @file
+/// How a programming error is reported: a failed guard throws AssertionFailure, or ends a host that
+/// is compiled without exceptions.
 #ifndef KEXA_ASSERTION_H
 #define KEXA_ASSERTION_H
 
 #include <stdexcept>
 
-// 1 where the host may throw, else 0.
+/// @def KEXA_HAS_EXCEPTIONS
+/// 1 where the host is compiled with exceptions, else 0. The same in all files of a program: the
+/// linker keeps one copy of each inline function, whichever setting it was compiled with.
 #if (defined(__cpp_exceptions) || defined(_CPPUNWIND)) &&                                          \
     !(defined(_HAS_EXCEPTIONS) && _HAS_EXCEPTIONS == 0)
 #define KEXA_HAS_EXCEPTIONS 1
@@ -18,24 +22,27 @@
 namespace kexa_3_3
 {
 
-// Thrown where a guard fails. `what()` is the exact text of the guard.
-//
-// The three pointers given to the constructor are kept, not copied: they must be string literals,
-// as __FILE__ and __func__ are.
+/// Thrown where a guard fails. `what()` is the exact text of the guard.
+///
+/// The file and the function are kept as pointers: they must be string literals, as `__FILE__` and
+/// `__func__` are.
 class AssertionFailure : public std::logic_error
 {
 public:
-    // guard:    the text of the failed guard; copied.
-    // file:     the source file that holds the guard.
-    // line:     its line there, from 1.
-    // function: the function that holds it.
+    /// @param guard     the text of the failed guard; copied
+    /// @param file      the source file that holds the guard
+    /// @param line      its line there, from 1
+    /// @param function  the function that holds the guard
     AssertionFailure(const char* guard, const char* file, int line, const char* function)
         : std::logic_error(guard), m_file(file), m_line(line), m_function(function)
     {
     }
 
+    /// Returns the source file that holds the guard.
     const char* file() const noexcept { return m_file; }
+    /// Returns the line of the guard, from 1.
     int line() const noexcept { return m_line; }
+    /// Returns the name of the function that holds the guard.
     const char* function() const noexcept { return m_function; }
 
 private:
@@ -44,8 +51,14 @@ private:
     const char* m_function;
 };
 
-// Throws the AssertionFailure described by its arguments (see there). A host compiled without
-// exceptions writes them to standard error instead and calls std::abort.
+/// Reports a failed guard. In a host compiled without exceptions it writes one line with the four
+/// arguments to standard error and calls std::abort.
+///
+/// @param guard     the text of the failed guard
+/// @param file      the source file that holds the guard
+/// @param line      its line there, from 1
+/// @param function  the function that holds the guard
+/// @throws AssertionFailure  always
 [[noreturn]] inline void raiseAssertion(const char* guard, const char* file, int line,
                                         const char* function)
 {
