@@ -6,14 +6,15 @@
 
 #include <stdexcept>
 
-/// @def KEXA_HAS_EXCEPTIONS
-/// 1 where the host is compiled with exceptions, else 0. The same in all files of a program: the
-/// linker keeps one copy of each inline function, whichever setting it was compiled with.
-#if (defined(__cpp_exceptions) || defined(_CPPUNWIND)) &&                                          \
-    !(defined(_HAS_EXCEPTIONS) && _HAS_EXCEPTIONS == 0)
-#define KEXA_HAS_EXCEPTIONS 1
-#else
-#define KEXA_HAS_EXCEPTIONS 0
+/// @def KEXA_NO_EXCEPTIONS
+/// Defined where the host is compiled without exceptions. All files of a program need one setting:
+/// of each inline function the linker keeps one copy, and it may come from any of them.
+#if (!defined(__cpp_exceptions) && !defined(_CPPUNWIND)) ||                                        \
+    (defined(_HAS_EXCEPTIONS) && _HAS_EXCEPTIONS == 0)
+#define KEXA_NO_EXCEPTIONS
+#endif
+
+#ifdef KEXA_NO_EXCEPTIONS
 #include <cstdio>
 #include <cstdlib>
 #include <cwchar>
@@ -62,7 +63,7 @@ private:
 [[noreturn]] inline void raiseAssertion(const char* guard, const char* file, int line,
                                         const char* function)
 {
-#if KEXA_HAS_EXCEPTIONS
+#ifndef KEXA_NO_EXCEPTIONS
     throw AssertionFailure(guard, file, line, function);
 #else
     // The C library refuses narrow text on a stream that wide text was written to.

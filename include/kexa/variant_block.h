@@ -81,7 +81,7 @@ inline void* allocate_block(std::size_t length)
         sizeof(shared_memory_t) + sizeof(block_header_t) + 2 * sizeof(wchar_t);
     if (length > std::numeric_limits<std::size_t>::max() - extra)
     {
-#if KEXA_HAS_EXCEPTIONS
+#ifndef KEXA_NO_EXCEPTIONS
         throw std::bad_alloc();
 #else
         kexa_3_3::raiseAssertion("length <= maximum", __FILE__, __LINE__, __func__);
