@@ -1,10 +1,11 @@
-// KEXA_API marks the entry points of the shared library.
-//
-// KEXA_BUILDING is defined only while the library itself is compiled;
-// KEXA_STATIC only where its objects are linked straight into a program.
+/// @file
+/// Marks the entry points of the shared library.
 #ifndef KEXA_EXPORT_H
 #define KEXA_EXPORT_H
 
+/// @def KEXA_API
+/// Stands before every entry point. KEXA_BUILDING is defined only while the library itself is
+/// compiled, KEXA_STATIC only where its objects are linked straight into a program.
 #if defined(KEXA_STATIC)
 #define KEXA_API
 #elif defined(_WIN32)

@@ -1,190 +1,154 @@
-// The tagged value in which option values, defaults, allowed and deprecated values are held.
+/// @file
+/// The tagged value in which option values, defaults, allowed and deprecated values are held.
 #ifndef KEXA_VARIANT_H
 #define KEXA_VARIANT_H
 
 #include <cstddef>
-#include <cstdint>
-#include <cstring>
-#include <cwchar>
 #include <string>
-#include <utility>
+#include <type_traits>
 
-#include "kexa/assertion.h"
-#include "kexa/variant_block.h"
+#include "kexa/variant_kind.h"
 
 namespace vexkit2
 {
 
-using s32_t = std::int32_t;
-using u32_t = std::uint32_t;
-using s64_t = std::int64_t;
-using u64_t = std::uint64_t;
-
-// What a variant holds. Kinds 12, 13, 16 and 18 own a block that copies share.
-enum variant_kind_t : s32_t
+namespace detail
 {
-    kind_boolean = 0,
-    kind_s32 = 6,
-    kind_u32 = 7,
-    kind_s64 = 8,
-    kind_u64 = 9,
-    kind_float = 10,
-    kind_double = 11,
-    kind_narrow_text = 12,
-    kind_wide_text = 13,
-    kind_narrow_reference = 14, // not owned
-    kind_wide_reference = 15,   // not owned
-    kind_blob = 16,
-    kind_null = 17,
-    kind_object = 18
-};
+struct number_t;
+struct shared_memory_t;
+} // namespace detail
 
-// A value of one of the kinds above, in two words.
-//
-// Copies of a text, blob or object share one block, freed with the last of them; its reference
-// count is atomic, so copies may be used and destroyed on different threads, while one variant is
-// used by one thread at a time. The texts that a parse result holds lie together in larger pieces
-// of memory, of which one is freed when no text in it is shared any more. What allocates throws
-// std::bad_alloc and changes nothing then.
+/// A value of one of the kinds of variant_kind_t, in two words. What allocates throws
+/// std::bad_alloc and then changes nothing.
+///
+/// Ownership: copies of a text, blob or object share one block, which is freed with the last of
+/// them. The texts of a parse result lie together in larger pieces of memory, each freed when no
+/// variant shares a text in it any more.
+///
+/// Threads: one variant is used by one thread at a time. Its copies may be used and destroyed on
+/// other threads: the reference count of their block is atomic.
 class variant_t
 {
 public:
-    variant_t() noexcept = default; // null
-    explicit variant_t(bool value) noexcept : m_type(kind_boolean) { m_value.m_bool = value; }
-    explicit variant_t(s32_t value) noexcept : m_type(kind_s32)
-    {
-        m_value.m_u64 = static_cast<u64_t>(value); // sign-extended
-    }
-    explicit variant_t(u32_t value) noexcept : m_type(kind_u32) { m_value.m_u64 = value; }
-    explicit variant_t(s64_t value) noexcept : m_type(kind_s64)
-    {
-        m_value.m_u64 = static_cast<u64_t>(value);
-    }
-    explicit variant_t(u64_t value) noexcept : m_type(kind_u64) { m_value.m_u64 = value; }
-    explicit variant_t(float value) noexcept : m_type(kind_float)
-    {
-        m_value.m_double = static_cast<double>(value);
-    }
-    explicit variant_t(double value) noexcept : m_type(kind_double) { m_value.m_double = value; }
+    /// Makes a null variant.
+    variant_t() noexcept = default;
 
-    // A copy of the text, up to its terminating zero; null counts as empty.
-    explicit variant_t(const char* text) : variant_t(text, text == nullptr ? 0 : std::strlen(text))
-    {
-    }
-    explicit variant_t(const wchar_t* text)
-        : variant_t(text, text == nullptr ? 0 : std::wcslen(text))
-    {
-    }
+    /// Makes a boolean (kind 0).
+    explicit variant_t(bool value) noexcept;
 
-    // A copy of the text, embedded zeros included.
-    explicit variant_t(const std::string& text) : variant_t(text.data(), text.size()) {}
-    explicit variant_t(const std::wstring& text) : variant_t(text.data(), text.size()) {}
+    /// @name Numbers
+    /// A shorter integer type becomes int. `long` has 32 bits on Windows.
+    /// @{
+    explicit variant_t(int value) noexcept;                ///< Makes an integer (kind 6).
+    explicit variant_t(unsigned value) noexcept;           ///< Makes an integer (kind 7).
+    explicit variant_t(long value) noexcept;               ///< Makes an integer (kind 6 or 8).
+    explicit variant_t(unsigned long value) noexcept;      ///< Makes an integer (kind 7 or 9).
+    explicit variant_t(long long value) noexcept;          ///< Makes an integer (kind 8).
+    explicit variant_t(unsigned long long value) noexcept; ///< Makes an integer (kind 9).
+    explicit variant_t(float value) noexcept;              ///< Makes a floating number (kind 10).
+    explicit variant_t(double value) noexcept;             ///< Makes a floating number (kind 11).
+    /// @}
 
-    // A copy of the first `length` characters of text.
-    variant_t(const char* text, std::size_t length)
-        : variant_t(kind_narrow_text, text, length, sizeof(char))
-    {
-    }
-    variant_t(const wchar_t* text, std::size_t length)
-        : variant_t(kind_wide_text, text, length * sizeof(wchar_t), sizeof(wchar_t))
-    {
-    }
+    /// @name Texts
+    /// A narrow text gives kind 12, a wide text kind 13.
+    /// @{
 
-    // Refers to a text that the caller keeps alive and unchanged; null counts as empty.
-    static variant_t reference(const char* text) noexcept
-    {
-        return variant_t(kind_narrow_reference, text == nullptr ? "" : text);
-    }
-    static variant_t reference(const wchar_t* text) noexcept
-    {
-        return variant_t(kind_wide_reference, text == nullptr ? L"" : text);
-    }
+    /// Copies a null-terminated text; null counts as empty.
+    explicit variant_t(const char* text);
+    /// Copies a null-terminated text; null counts as empty.
+    explicit variant_t(const wchar_t* text);
+    /// Copies a text, embedded zeros included.
+    explicit variant_t(const std::string& text);
+    /// Copies a text, embedded zeros included.
+    explicit variant_t(const std::wstring& text);
+    /// Copies the first `length` characters of a text.
+    variant_t(const char* text, std::size_t length);
+    /// Copies the first `length` characters of a text.
+    variant_t(const wchar_t* text, std::size_t length);
+    /// @}
 
-    // A copy of `length` bytes.
-    static variant_t blob(const void* bytes, std::size_t length)
-    {
-        return variant_t(kind_blob, bytes, length, 0);
-    }
+    /// @name Other pointers
+    /// They would become a boolean.
+    /// @{
 
-    // Takes the object over: it is deleted with the last copy, and also when this throws.
+    /// Refused, texts of other character types included.
+    template <class T, class = std::enable_if_t<!detail::is_text_character<T>>>
+    explicit variant_t(T* pointer) = delete;
+    /// Refused.
+    template <class T, class Class>
+    explicit variant_t(T Class::*pointer) = delete;
+    /// Refused.
+    explicit variant_t(std::nullptr_t) = delete;
+    /// @}
+
+    /// Refers to a text (kind 14) that the caller keeps alive and unchanged as long as the variant
+    /// or a copy is used. Null counts as empty.
+    static variant_t reference(const char* text) noexcept;
+    /// Refers to a wide text (kind 15) that the caller keeps alive and unchanged likewise.
+    static variant_t reference(const wchar_t* text) noexcept;
+
+    /// Returns a copy of `length` bytes (kind 16).
+    static variant_t blob(const void* bytes, std::size_t length);
+
+    /// Takes an object over (kind 18). It is deleted with the last copy, and also when this throws.
     static variant_t object(polymorphic_t* object);
 
-    variant_t(const variant_t& other) : m_value(other.m_value), m_type(other.m_type)
-    {
-        if (owns_block())
-        {
-            detail::share(m_value.m_data);
-        }
-    }
-    variant_t(variant_t&& other) noexcept : m_value(other.m_value), m_type(other.m_type)
-    {
-        other.m_type = kind_null;
-        other.m_value.m_u64 = 0;
-    }
-    variant_t& operator=(const variant_t& other)
-    {
-        variant_t copy(other);
-        swap(copy);
-        return *this;
-    }
-    variant_t& operator=(variant_t&& other) noexcept
-    {
-        variant_t taken(std::move(other));
-        swap(taken);
-        return *this;
-    }
-    ~variant_t()
-    {
-        if (owns_block() && m_value.m_data != nullptr)
-        {
-            detail::release(m_value.m_data, m_type == kind_object);
-        }
-    }
+    /// Shares the block of the other variant.
+    variant_t(const variant_t& other);
+    /// Takes the content of the other variant, which becomes null.
+    variant_t(variant_t&& other) noexcept;
 
-    void swap(variant_t& other) noexcept
-    {
-        std::swap(m_value, other.m_value);
-        std::swap(m_type, other.m_type);
-    }
+    /// Shares the new content, releases the old content, then holds the new. The variant is null
+    /// while the destructor of an object that it held runs.
+    variant_t& operator=(const variant_t& other);
+    /// Takes the new content, releases the old content as the copy assignment does, then holds the
+    /// new. The other variant becomes null.
+    variant_t& operator=(variant_t&& other) noexcept;
 
+    ~variant_t() { clear(); }
+
+    /// Exchanges two contents. No reference count changes.
+    void swap(variant_t& other) noexcept;
+
+    /// Returns the kind, one of variant_kind_t.
     s32_t kind() const noexcept { return m_type; }
 
-    // For the library, which lays the blocks of many texts side by side: a variant of a kind that
-    // owns a block, with a share of the block that holds `data`. A host has no use for it.
-    static variant_t share_block(s32_t kind, void* data) noexcept
-    {
-        variant_t sharer;
-        sharer.m_type = kind;
-        sharer.m_value.m_data = data;
-        detail::sync_inc(detail::header_of(data)->memory->count);
-        return sharer;
-    }
-
-    // Whether get<T>() gives a value, for T one of bool (kind 0), s32_t, u32_t, s64_t, u64_t (the
-    // integer kinds, where T can hold the value), double (every number) and const wchar_t* (kinds
-    // 13 and 15).
+    /// Returns whether get<T>() gives a value. T is `bool` (kind 0), `s32_t`, `u32_t`, `s64_t` or
+    /// `u64_t` (the integer kinds, where T can represent the value), `double` (every number) or
+    /// `const wchar_t*` (kinds 13 and 15). No other T compiles.
     template <class T>
     bool can_get() const noexcept;
 
-    // The value as a T. Throws kexa_3_3::AssertionFailure with the text "can_get<T>()" where
-    // can_get<T>() is false. A text lives as long as some variant shares it (kind 15: as long as
-    // its owner keeps it).
+    /// Returns the value as a T, see can_get. A text lives as long as a variant shares it; for kind
+    /// 15, as long as its owner keeps it.
+    ///
+    /// @throws AssertionFailure  where can_get<T>() is false; the text is "can_get<T>()" with T
     template <class T>
     T get() const;
 
-    // The narrow text of kinds 12 and 14, encoded as UTF-8 wherever the library reads it. Throws
-    // AssertionFailure for any other kind.
+    /// Returns the narrow text of kinds 12 and 14. It lives as long as that of get.
+    ///
+    /// @throws AssertionFailure  for any other kind
     const char* narrow_text() const;
 
-    // Holds a new block with a copy of the bytes.
-    // kind:   12 (narrow text), 13 (wide text) or 16 (blob); any other throws AssertionFailure.
-    // bytes:  what to copy; may be null only when length is 0.
-    // length: in bytes; for a text it includes the terminating zero.
+    /// Holds a new block with a copy of the bytes. Releases the old content as an assignment does.
+    ///
+    /// @param kind    12 (narrow text), 13 (wide text) or 16 (blob)
+    /// @param bytes   what to copy; may be null only when length is 0
+    /// @param length  in bytes; for a text it includes the terminating zero
+    /// @throws AssertionFailure  for any other kind, and for missing bytes; nothing changes then
     void set_data(s32_t kind, const void* bytes, std::size_t length);
 
-    // The length in bytes of what kinds 12, 13, 16 and 18 hold (a text's terminating zero
-    // included); 0 for other kinds.
+    /// Returns the length of what kinds 12, 13, 16 and 18 hold, in bytes, a text's terminating zero
+    /// included; 0 for other kinds.
     std::size_t byte_length() const;
+
+    /// @cond
+    // For the library, which lays the blocks of many texts side by side: returns a variant of a kind
+    // that owns a block, with a new reference to the block that holds `data`. A host has no use for
+    // it.
+    static variant_t share_block(s32_t kind, void* data) noexcept;
+    /// @endcond
 
     friend bool operator==(const variant_t& left, const variant_t& right);
     friend bool operator<(const variant_t& left, const variant_t& right);
@@ -199,48 +163,38 @@ private:
         const void* m_reference;
     };
 
-    variant_t(s32_t kind, const void* reference) noexcept : m_type(kind)
-    {
-        m_value.m_reference = reference;
-    }
-    variant_t(s32_t kind, const void* bytes, std::size_t length, std::size_t terminator)
-        : m_type(kind)
-    {
-        m_value.m_data = detail::make_block(bytes, length, terminator);
-    }
+    variant_t(s32_t kind, const void* reference) noexcept;
+    variant_t(s32_t kind, const void* bytes, std::size_t length, std::size_t terminator);
 
-    // One test without a bound instead of four: this stands in every destructor. The kind is masked
-    // because a shift by more than 31 is undefined.
-    bool owns_block() const noexcept
-    {
-        static_assert(kind_object < 32, "a bit for each kind");
-        constexpr u32_t owners = u32_t{1} << kind_wide_text | u32_t{1} << kind_narrow_text |
-                                 u32_t{1} << kind_blob | u32_t{1} << kind_object;
-        return (owners >> (static_cast<u32_t>(m_type) & 31U) & 1U) != 0;
-    }
+    bool owns_block() const noexcept;
     bool is_integer() const noexcept { return m_type >= kind_s32 && m_type <= kind_u64; }
     bool is_number() const noexcept { return m_type >= kind_s32 && m_type <= kind_double; }
     bool is_unsigned() const noexcept { return m_type == kind_u32 || m_type == kind_u64; }
-    s64_t as_signed() const noexcept { return static_cast<s64_t>(m_value.m_u64); }
     bool is_negative() const noexcept { return !is_unsigned() && as_signed() < 0; }
+    s64_t as_signed() const noexcept { return static_cast<s64_t>(m_value.m_u64); }
     double as_double() const noexcept;
+    detail::number_t as_number() const noexcept;
     const void* data() const;
+    static int compare_content(const variant_t& left, const variant_t& right);
+
+    void set_integer(s32_t kind, u64_t value) noexcept;
+    void clear() noexcept;
+    void replace_content(variant_t& taken) noexcept;
 
     // Members of the two words carry the names that the guard texts quote.
     storage_t m_value = {};
     s32_t m_type = kind_null;
 };
 
-static_assert(sizeof(variant_t) == 16, "a variant is two words");
+static_assert(sizeof(void*) != 8 || sizeof(variant_t) == 16, "a variant is two words");
 
-inline void swap(variant_t& left, variant_t& right) noexcept
-{
-    left.swap(right);
-}
+/// Exchanges two contents, as variant_t::swap does.
+void swap(variant_t& left, variant_t& right) noexcept;
 
 } // namespace vexkit2
 
 #include "kexa/variant_access.h"
 #include "kexa/variant_compare.h"
+#include "kexa/variant_making.h"
 
 #endif

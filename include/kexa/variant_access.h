@@ -1,41 +1,36 @@
-// Reading and replacing what a variant_t holds. Included by kexa/variant.h.
+/// @file
+/// How a variant_t is read. Included by kexa/variant.h.
 #ifndef KEXA_VARIANT_ACCESS_H
 #define KEXA_VARIANT_ACCESS_H
 
 #include <cstddef>
 #include <cstring>
 #include <limits>
-#include <memory>
+#include <type_traits>
 
+#include "kexa/assertion.h"
 #include "kexa/variant.h"
+#include "kexa/variant_block.h"
 
 namespace vexkit2
 {
 
-inline variant_t variant_t::object(polymorphic_t* object)
+inline bool variant_t::owns_block() const noexcept
 {
-    std::unique_ptr<polymorphic_t> owner(object);
-    variant_t result(kind_object, &object, detail::object_length, 0);
-    static_cast<void>(owner.release());
-    return result;
+    return m_type == kind_wide_text || m_type == kind_narrow_text || m_type == kind_blob ||
+           m_type == kind_object;
 }
 
-inline void variant_t::set_data(s32_t kind, const void* bytes, std::size_t length)
+inline variant_t variant_t::share_block(s32_t kind, void* data) noexcept
 {
-    if (kind != kind_narrow_text && kind != kind_wide_text && kind != kind_blob)
-    {
-        kexa_3_3::raiseAssertion("kind == vtString || kind == vtWideString || kind == vtBlob",
-                                 __FILE__, __LINE__, __func__);
-    }
-    if (bytes == nullptr && length != 0)
-    {
-        kexa_3_3::raiseAssertion("bytes != NULL || length == 0", __FILE__, __LINE__, __func__);
-    }
-    variant_t copy(kind, bytes, length, 0);
-    swap(copy);
+    variant_t sharer;
+    sharer.m_type = kind;
+    sharer.m_value.m_data = data;
+    detail::sync_inc(detail::header_of(data)->memory->count);
+    return sharer;
 }
 
-// What the data word points at, for the kinds that hold a pointer.
+// Returns what the data word points at, for the kinds that hold a pointer.
 inline const void* variant_t::data() const
 {
     if (m_value.m_data == nullptr)
@@ -69,118 +64,56 @@ inline double variant_t::as_double() const noexcept
     return is_unsigned() ? static_cast<double>(m_value.m_u64) : static_cast<double>(as_signed());
 }
 
-template <>
-inline bool variant_t::can_get<bool>() const noexcept
+template <class T>
+bool variant_t::can_get() const noexcept
 {
-    return m_type == kind_boolean;
-}
-
-template <>
-inline bool variant_t::can_get<s64_t>() const noexcept
-{
-    return is_integer() && (!is_unsigned() ||
-                            m_value.m_u64 <= static_cast<u64_t>(std::numeric_limits<s64_t>::max()));
-}
-
-template <>
-inline bool variant_t::can_get<u64_t>() const noexcept
-{
-    return is_integer() && (is_unsigned() || as_signed() >= 0);
-}
-
-template <>
-inline bool variant_t::can_get<s32_t>() const noexcept
-{
-    return can_get<s64_t>() && as_signed() >= std::numeric_limits<s32_t>::min() &&
-           as_signed() <= std::numeric_limits<s32_t>::max();
-}
-
-template <>
-inline bool variant_t::can_get<u32_t>() const noexcept
-{
-    return can_get<u64_t>() && m_value.m_u64 <= std::numeric_limits<u32_t>::max();
-}
-
-template <>
-inline bool variant_t::can_get<double>() const noexcept
-{
-    return is_number();
-}
-
-template <>
-inline bool variant_t::can_get<const wchar_t*>() const noexcept
-{
-    return m_type == kind_wide_text || m_type == kind_wide_reference;
-}
-
-template <>
-inline bool variant_t::get<bool>() const
-{
-    if (!can_get<bool>())
+    static_assert(detail::is_readable<T>,
+                  "variant_t::get<T> and can_get<T> take bool, s32_t, u32_t, s64_t, u64_t, double "
+                  "or const wchar_t*: this T is none of them");
+    if constexpr (std::is_same_v<T, bool>)
     {
-        kexa_3_3::raiseAssertion("can_get<bool>()", __FILE__, __LINE__, __func__);
+        return m_type == kind_boolean;
     }
-    return m_value.m_bool;
+    else if constexpr (std::is_same_v<T, double>)
+    {
+        return is_number();
+    }
+    else if constexpr (std::is_same_v<T, const wchar_t*>)
+    {
+        return m_type == kind_wide_text || m_type == kind_wide_reference;
+    }
+    else if constexpr (detail::is_readable<T>)
+    {
+        using limits = std::numeric_limits<T>;
+        return is_integer() && (is_negative() ? std::is_signed_v<T> &&
+                                                    as_signed() >= static_cast<s64_t>(limits::min())
+                                              : m_value.m_u64 <= static_cast<u64_t>(limits::max()));
+    }
 }
 
-template <>
-inline s32_t variant_t::get<s32_t>() const
+template <class T>
+T variant_t::get() const
 {
-    if (!can_get<s32_t>())
+    if (!can_get<T>())
     {
-        kexa_3_3::raiseAssertion("can_get<s32_t>()", __FILE__, __LINE__, __func__);
+        kexa_3_3::raiseAssertion(detail::can_get_guard<T>, __FILE__, __LINE__, __func__);
     }
-    return static_cast<s32_t>(as_signed());
-}
-
-template <>
-inline u32_t variant_t::get<u32_t>() const
-{
-    if (!can_get<u32_t>())
+    if constexpr (std::is_same_v<T, bool>)
     {
-        kexa_3_3::raiseAssertion("can_get<u32_t>()", __FILE__, __LINE__, __func__);
+        return m_value.m_bool;
     }
-    return static_cast<u32_t>(m_value.m_u64);
-}
-
-template <>
-inline s64_t variant_t::get<s64_t>() const
-{
-    if (!can_get<s64_t>())
+    else if constexpr (std::is_same_v<T, double>)
     {
-        kexa_3_3::raiseAssertion("can_get<s64_t>()", __FILE__, __LINE__, __func__);
+        return as_double();
     }
-    return as_signed();
-}
-
-template <>
-inline u64_t variant_t::get<u64_t>() const
-{
-    if (!can_get<u64_t>())
+    else if constexpr (std::is_same_v<T, const wchar_t*>)
     {
-        kexa_3_3::raiseAssertion("can_get<u64_t>()", __FILE__, __LINE__, __func__);
+        return static_cast<const wchar_t*>(data());
     }
-    return m_value.m_u64;
-}
-
-template <>
-inline double variant_t::get<double>() const
-{
-    if (!can_get<double>())
+    else if constexpr (detail::is_readable<T>)
     {
-        kexa_3_3::raiseAssertion("can_get<double>()", __FILE__, __LINE__, __func__);
+        return static_cast<T>(m_value.m_u64);
     }
-    return as_double();
-}
-
-template <>
-inline const wchar_t* variant_t::get<const wchar_t*>() const
-{
-    if (!can_get<const wchar_t*>())
-    {
-        kexa_3_3::raiseAssertion("can_get<const wchar_t*>()", __FILE__, __LINE__, __func__);
-    }
-    return static_cast<const wchar_t*>(data());
 }
 
 } // namespace vexkit2

@@ -1,58 +1,48 @@
-// The shared, reference-counted blocks behind variant_t. Nothing here is for a host's own use
-// except polymorphic_t.
+/// @file
+/// The shared, reference-counted blocks behind variant_t. Nothing here is for a host's own use.
 #ifndef KEXA_VARIANT_BLOCK_H
 #define KEXA_VARIANT_BLOCK_H
 
 #include <atomic>
 #include <cstddef>
-#include <cstdint>
 #include <cstring>
 #include <limits>
 #include <new>
 
 #include "kexa/assertion.h"
+#include "kexa/variant_kind.h"
 
 namespace vexkit2
 {
-
-// The base of objects that a variant can hold.
-class polymorphic_t
-{
-public:
-    polymorphic_t() = default;
-    polymorphic_t(const polymorphic_t&) = default;
-    polymorphic_t& operator=(const polymorphic_t&) = default;
-    virtual ~polymorphic_t() = default;
-};
 
 namespace detail
 {
 
 using reference_count_t = std::atomic<std::size_t>;
 
-// A sharer may be added without ordering: whoever copies holds a share already.
+// Relaxed: whoever adds a reference holds one already.
 inline void sync_inc(reference_count_t& count) noexcept
 {
     count.fetch_add(1, std::memory_order_relaxed);
 }
 
-// Answers whether that was the last share. Release and acquire order every use of the block before
-// its destruction. A sole owner (nobody else can add a share) needs no read-modify-write.
+// Returns whether that was the last reference. Release and acquire order every use of the block
+// before its destruction. A sole owner needs no read-modify-write: nobody else can add a reference.
 inline bool sync_dec(reference_count_t& count) noexcept
 {
     return count.load(std::memory_order_acquire) == 1 ||
            count.fetch_sub(1, std::memory_order_acq_rel) == 1;
 }
 
-// Stands at the front of memory that blocks lie in: one block, or many that are freed together.
+// Stands at the front of memory that holds blocks: one block, or many that are freed together.
 struct shared_memory_t
 {
-    reference_count_t count; // of the shares in all its blocks
+    reference_count_t count; // of the references to all its blocks
 
-    explicit shared_memory_t(std::size_t shares) noexcept : count(shares) {}
+    explicit shared_memory_t(std::size_t references) noexcept : count(references) {}
 };
 
-// Stands ahead of the data in a block.
+// Stands before the data of a block.
 struct block_header_t
 {
     block_header_t(shared_memory_t* holder, std::size_t data_length) noexcept
@@ -64,7 +54,7 @@ struct block_header_t
     std::size_t length; // of the data, in bytes
 };
 
-// Of the data of an object's block: a pointer to the object.
+// The data of an object's block is a pointer to the object.
 inline constexpr std::size_t object_length = sizeof(void*);
 
 inline block_header_t* header_of(void* data) noexcept
@@ -76,15 +66,19 @@ inline const block_header_t* header_of(const void* data) noexcept
     return static_cast<const block_header_t*>(data) - 1;
 }
 
-// A block with room for `length` bytes followed by a zero wide character, so that a text in it ends
-// whatever length it was given. Answers its data.
+// Returns the data of a new block with room for `length` bytes. Two zero wide characters follow
+// them, so that a text ends whatever length it was given.
 inline void* allocate_block(std::size_t length)
 {
     constexpr std::size_t extra =
         sizeof(shared_memory_t) + sizeof(block_header_t) + 2 * sizeof(wchar_t);
     if (length > std::numeric_limits<std::size_t>::max() - extra)
     {
+#ifndef KEXA_NO_EXCEPTIONS
         throw std::bad_alloc();
+#else
+        kexa_3_3::raiseAssertion("length <= maximum", __FILE__, __LINE__, __func__);
+#endif
     }
     auto* const memory = new (::operator new(length + extra)) shared_memory_t(1);
     auto* const header = new (memory + 1) block_header_t(memory, length);
@@ -93,7 +87,8 @@ inline void* allocate_block(std::size_t length)
     return data;
 }
 
-// A block with a copy of `length` bytes and a terminating zero of `terminator` bytes (0 for none).
+// Returns the data of a new block with a copy of `length` bytes and a terminating zero of
+// `terminator` bytes (0 for none).
 inline void* make_block(const void* bytes, std::size_t length, std::size_t terminator)
 {
     void* const data = allocate_block(length);
@@ -110,6 +105,7 @@ inline std::size_t block_length(const void* data) noexcept
     return header_of(data)->length;
 }
 
+// Adds a reference to the block with this data.
 inline void share(void* data)
 {
     block_header_t* const h = data == nullptr ? nullptr : header_of(data);
@@ -120,7 +116,7 @@ inline void share(void* data)
     sync_inc(h->memory->count);
 }
 
-// Gives up a share of memory without an object in it, which is freed with the last one.
+// Gives up a reference to memory without an object in it. The last one frees the memory.
 inline void release_share(shared_memory_t& memory) noexcept
 {
     if (sync_dec(memory.count))
@@ -130,6 +126,7 @@ inline void release_share(shared_memory_t& memory) noexcept
     }
 }
 
+// Gives a reference up. The last one frees the memory, and deletes the object that it holds.
 inline void release(void* data, bool holds_object) noexcept
 {
     shared_memory_t* const memory = header_of(data)->memory;

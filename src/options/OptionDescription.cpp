@@ -99,7 +99,7 @@ IOption& OptionDescription::addKeywords(const wchar_t* list)
 bool OptionDescription::hasName(std::wstring_view name) const noexcept
 {
     return std::any_of(names.begin(), names.end(),
-                       [name](const HashedText& own) { return own.text() == name; });
+                       [name](HashedText own) { return own.text() == name; });
 }
 
 void OptionDescription::enterInto(OptionIndex& index, std::size_t number) noexcept

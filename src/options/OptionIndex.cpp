@@ -29,13 +29,13 @@ OptionIndex::OptionIndex(Garbage& pool)
 {
 }
 
-HashedText OptionIndex::keep(const HashedText& name, bool boolean)
+HashedText OptionIndex::keep(HashedText name, bool boolean)
 {
     return name.movedTo(boolean ? m_pool.keepJoined(negation, name.text()).substr(negation.size())
                                 : m_pool.keep(name.text()));
 }
 
-void OptionIndex::add(const HashedText& name, std::size_t option, bool boolean) noexcept
+void OptionIndex::add(HashedText name, std::size_t option, bool boolean) noexcept
 {
     const auto number = static_cast<std::uint32_t>(option);
     addCandidate(name, number, true);
@@ -49,7 +49,7 @@ void OptionIndex::add(const HashedText& name, std::size_t option, bool boolean) 
     }
 }
 
-void OptionIndex::addCandidate(const HashedText& text, std::uint32_t option, bool isName) noexcept
+void OptionIndex::addCandidate(HashedText text, std::uint32_t option, bool isName) noexcept
 {
     KnownText& known = m_texts.findOrAdd(text);
     if (known.option == no_option)
@@ -71,7 +71,7 @@ void OptionIndex::addCandidate(const HashedText& text, std::uint32_t option, boo
     }
 }
 
-std::optional<std::size_t> OptionIndex::findNamed(const HashedText& name) const noexcept
+std::optional<std::size_t> OptionIndex::findNamed(HashedText name) const noexcept
 {
     const KnownText* const known = m_texts.find(name);
     return known == nullptr || known->firstNamed == no_option
@@ -79,7 +79,7 @@ std::optional<std::size_t> OptionIndex::findNamed(const HashedText& name) const 
                : std::optional<std::size_t>(known->firstNamed);
 }
 
-std::optional<std::size_t> OptionIndex::findCandidate(const HashedText& text) const noexcept
+std::optional<std::size_t> OptionIndex::findCandidate(HashedText text) const noexcept
 {
     const KnownText* const known = m_texts.find(text);
     return known == nullptr ? std::nullopt : std::optional<std::size_t>(known->firstOption);

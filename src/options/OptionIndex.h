@@ -41,7 +41,7 @@ public:
 
     // Copies a name into the pool; that of a boolean option stands behind "no-" there, so that its
     // negation needs no copy. Throws std::bad_alloc.
-    [[nodiscard]] HashedText keep(const HashedText& name, bool boolean);
+    [[nodiscard]] HashedText keep(HashedText name, bool boolean);
 
     // Makes room for `names` further names. Throws std::bad_alloc, changing nothing.
     void reserveMore(std::size_t names)
@@ -57,13 +57,13 @@ public:
 
     // Adds a name of an option, behind those that the option has already. Preconditions: the name
     // was kept, and reserveMore() made room.
-    void add(const HashedText& name, std::size_t option, bool boolean) noexcept;
+    void add(HashedText name, std::size_t option, bool boolean) noexcept;
 
     // The first option, in table order, that has exactly this name.
-    [[nodiscard]] std::optional<std::size_t> findNamed(const HashedText& name) const noexcept;
+    [[nodiscard]] std::optional<std::size_t> findNamed(HashedText name) const noexcept;
 
     // The first option, in table order, of which the text is a name or the negation of one.
-    [[nodiscard]] std::optional<std::size_t> findCandidate(const HashedText& text) const noexcept;
+    [[nodiscard]] std::optional<std::size_t> findCandidate(HashedText text) const noexcept;
 
     // The candidates that begin with a text. The following throw std::bad_alloc, changing nothing.
     struct PrefixMatches
@@ -109,7 +109,7 @@ private:
 
     using Candidates = std::pmr::vector<Candidate>;
 
-    void addCandidate(const HashedText& text, std::uint32_t option, bool isName) noexcept;
+    void addCandidate(HashedText text, std::uint32_t option, bool isName) noexcept;
     void sortCandidates() const;
     [[nodiscard]] std::pair<Candidates::const_iterator, Candidates::const_iterator>
     prefixRange(std::wstring_view beginning) const;

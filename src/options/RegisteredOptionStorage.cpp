@@ -53,7 +53,7 @@ const Registration& RegisteredOptionStorage::registerOption(const wchar_t* names
             return m_lastRegistration;
         }
         if (std::any_of(declared.begin(), declared.end(),
-                        [this](const HashedText& name) { return m_index.findNamed(name).has_value(); }))
+                        [this](HashedText name) { return m_index.findNamed(name).has_value(); }))
         {
             reportTakenName(viewOf(names));
             return m_lastRegistration;
@@ -98,7 +98,7 @@ const Registration& RegisteredOptionStorage::registerValueOption(const wchar_t* 
     return registerOption(names, keywords, description, false, valueType, groupText);
 }
 
-const OptionDescription* RegisteredOptionStorage::find(const HashedText& name) const noexcept
+const OptionDescription* RegisteredOptionStorage::find(HashedText name) const noexcept
 {
     const std::optional<std::size_t> number = m_index.findNamed(name);
     return number ? &m_options[*number] : nullptr;
@@ -111,7 +111,7 @@ void RegisteredOptionStorage::enter(OptionDescription& option, const DeclaredNam
     assert(&option == &m_options.back());
     const bool boolean = option.valueType == value_type_boolean;
     option.names.reserve(names.size());
-    for (const HashedText& name : names)
+    for (const HashedText name : names)
     {
         option.names.push_back(m_index.keep(name, boolean));
     }
@@ -119,7 +119,7 @@ void RegisteredOptionStorage::enter(OptionDescription& option, const DeclaredNam
 
     // Nothing fails from here on.
     const std::size_t number = m_options.size() - 1;
-    for (const HashedText& name : option.names)
+    for (const HashedText name : option.names)
     {
         m_index.add(name, number, boolean);
     }

@@ -73,7 +73,7 @@ public:
     [[nodiscard]] auto end() const noexcept { return m_options.end(); }
 
     // The first option with exactly this name, or null.
-    [[nodiscard]] const OptionDescription* find(const HashedText& name) const noexcept;
+    [[nodiscard]] const OptionDescription* find(HashedText name) const noexcept;
     [[nodiscard]] const OptionDescription* find(std::wstring_view name) const noexcept
     {
         return find(HashedText(name));

@@ -34,7 +34,7 @@ struct BestMatch
 // candidates that begin with the typed name. Case counts.
 //
 // typedName: outlives the result.
-[[nodiscard]] inline BestMatch findBestMatch(const OptionIndex& index, const HashedText& typedName)
+[[nodiscard]] inline BestMatch findBestMatch(const OptionIndex& index, HashedText typedName)
 {
     if (const std::optional<std::size_t> exact = index.findCandidate(typedName))
     {

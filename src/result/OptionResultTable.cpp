@@ -64,7 +64,7 @@ void OptionResultTable::storeValue(const OptionDescription& option, ValueEntry& 
     storeApart(option, added);
 }
 
-const StoredOption* OptionResultTable::find(const HashedText& name) const noexcept
+const StoredOption* OptionResultTable::find(HashedText name) const noexcept
 {
     const NamedRecord* const found = m_names.find(name);
     return found == nullptr ? nullptr : found->record;
@@ -117,7 +117,7 @@ StoredOption& OptionResultTable::makeShared(const OptionDescription& option)
     }
     if (othersAreKnown)
     {
-        for (const HashedText& name : option.names)
+        for (const HashedText name : option.names)
         {
             bind(name, record);
         }
@@ -138,7 +138,7 @@ void OptionResultTable::storeApart(const OptionDescription& option, const Occurr
     const StoredOption& first = *m_names.find(option.names.front())->record;
     std::vector<Step> steps;
     steps.reserve(option.names.size());
-    for (const HashedText& name : option.names)
+    for (const HashedText name : option.names)
     {
         if (std::any_of(steps.begin(), steps.end(),
                         [&name](const Step& step) { return step.name == name; }))
@@ -173,7 +173,7 @@ StoredOption& OptionResultTable::copyRecord(const StoredOption& from)
 }
 
 // Lets a name lead to a record. A name that is new is kept, and there is room for it.
-void OptionResultTable::bind(const HashedText& name, StoredOption& record) noexcept
+void OptionResultTable::bind(HashedText name, StoredOption& record) noexcept
 {
     StoredOption*& target = m_names.findOrAdd(name).record;
     if (target == &record)

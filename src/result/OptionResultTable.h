@@ -47,7 +47,7 @@ public:
     [[nodiscard]] SharedTexts& texts() noexcept { return m_texts; }
 
     // The record of a name, or null. It stays where it is as long as the table lives.
-    [[nodiscard]] const StoredOption* find(const HashedText& name) const noexcept;
+    [[nodiscard]] const StoredOption* find(HashedText name) const noexcept;
     [[nodiscard]] const StoredOption* find(std::wstring_view name) const noexcept
     {
         return find(HashedText(name));
@@ -66,7 +66,7 @@ private:
     [[nodiscard]] StoredOption& makeShared(const OptionDescription& option);
     void storeApart(const OptionDescription& option, const Occurrences& added);
     [[nodiscard]] StoredOption& copyRecord(const StoredOption& from);
-    void bind(const HashedText& name, StoredOption& record) noexcept;
+    void bind(HashedText name, StoredOption& record) noexcept;
     [[nodiscard]] Occurrences makeOccurrences(OptionResult& record);
     [[nodiscard]] Occurrence makeOccurrence(ValueEntry& entry);
     [[nodiscard]] std::optional<Occurrence> makeDefault(const OptionResult& record);

@@ -32,7 +32,7 @@ std::string guardOf(const std::function<void()>& action)
     return std::string();
 }
 
-TEST(VariantGuards, FailureIsALogicErrorThatTellsWhere)
+TEST(VariantGuards, FailureIsALogicErrorWithItsPlace)
 {
     const kexa_3_3::AssertionFailure failure("x != NULL", "some.cpp", 17, "someFunction");
     EXPECT_STREQ(failure.what(), "x != NULL");

@@ -44,7 +44,7 @@ public:
 
     // Returns the entry with the name, a new one where there is none. Precondition: reserveMore()
     // made room.
-    Entry& findOrAdd(const HashedText& name) noexcept
+    Entry& findOrAdd(HashedText name) noexcept
     {
         Slot& slot = m_slots[placeOf(name)];
         if (slot.number == no_entry)
@@ -57,12 +57,12 @@ public:
     }
 
     // The entry with the name, or null. An address is valid until the next reserveMore().
-    [[nodiscard]] const Entry* find(const HashedText& name) const noexcept
+    [[nodiscard]] const Entry* find(HashedText name) const noexcept
     {
         const std::uint32_t number = m_slots[placeOf(name)].number;
         return number == no_entry ? nullptr : &m_entries[number];
     }
-    [[nodiscard]] Entry* find(const HashedText& name) noexcept
+    [[nodiscard]] Entry* find(HashedText name) noexcept
     {
         return const_cast<Entry*>(std::as_const(*this).find(name));
     }
@@ -111,7 +111,7 @@ private:
     }
 
     // The slot of the name, or the free one where it belongs.
-    [[nodiscard]] std::size_t placeOf(const HashedText& name) const noexcept
+    [[nodiscard]] std::size_t placeOf(HashedText name) const noexcept
     {
         const std::size_t mask = m_slots.size() - 1;
         std::size_t place = name.hash() & mask;
