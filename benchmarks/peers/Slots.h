@@ -2,6 +2,7 @@
 #ifndef KEXA_BENCHMARKS_SLOTS_H
 #define KEXA_BENCHMARKS_SLOTS_H
 
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -32,6 +33,7 @@ decltype(auto) withType(Type type, Function function)
     case Type::real:
         return function(std::type_identity<double>{});
     default:
+        assert(type == Type::text);
         return function(std::type_identity<Text>{});
     }
 }

@@ -1,8 +1,8 @@
 // Runs cycles of one peer over one workload without measuring them, for callgrind.
 //
-//   benchmark_cycles list                       names of the peers
-//   benchmark_cycles check WORKLOAD...          fails unless every peer reads the right values
-//   benchmark_cycles run PEER WORKLOAD COUNT    COUNT cycles
+//   benchmark_cycles list                           names of the peers
+//   benchmark_cycles check WORKLOAD...              fails unless every peer reads the right values
+//   benchmark_cycles run PEER WORKLOAD COUNT        COUNT cycles
 //   benchmark_cycles declare PEER WORKLOAD COUNT    COUNT declarations of all options
 #include <chrono>
 #include <cstdio>

@@ -1,5 +1,6 @@
 #include "workloads/Values.h"
 
+#include <cassert>
 #include <charconv>
 #include <numeric>
 #include <stdexcept>
@@ -10,6 +11,7 @@ namespace benchmarks
 
 std::size_t Values::below(std::size_t limit)
 {
+    assert(limit != 0);
     return std::size_t{m_engine()} % limit;
 }
 
