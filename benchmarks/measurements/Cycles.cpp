@@ -1,6 +1,6 @@
-// The whole life of a parser: create, declare, parse, read everything, release. And its beginning:
-// create, declare, release.
-#include "measurements/Session.h"
+// Measures cycles (create, declare, parse, read everything, release) and declarations alone
+// (create, declare, release).
+#include "measurements/Measurements.h"
 
 namespace benchmarks
 {
@@ -12,7 +12,7 @@ void measureCycle(benchmark::State& state, Session& session, const Peer& peer,
                   const std::string& name)
 {
     const Workload& workload = session.workload(name);
-    // Where one cycle takes long the tally of the cycle measured has to do as the check.
+    // Where one cycle takes long, comparing the tally of the measured cycle is the only check.
     if (!peer.isSlow(name) && !session.isRight(state, peer, workload))
     {
         return;

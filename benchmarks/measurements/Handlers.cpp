@@ -1,4 +1,4 @@
-// What event handlers add to a parse, beside the bare calls of the same handlers.
+// Measures what event handlers add to a parse, and direct calls of the same handlers.
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -6,9 +6,9 @@
 #include <utility>
 #include <vector>
 
-#include "measurements/ProcessorTime.h"
-#include "measurements/Session.h"
+#include "measurements/Measurements.h"
 #include "peers/KexaHost.h"
+#include "support/ProcessorTime.h"
 
 namespace benchmarks
 {
@@ -39,10 +39,10 @@ private:
 };
 
 constexpr std::array<std::size_t, 3> handler_counts = {0, 1, 4};
-constexpr int turns = 100; // even, so that each order has as many; enough for a median
+constexpr int turns = 100; // even, so that both orders occur equally often
 
-// Seconds of a parse with so many handlers. Answers a negative number where one missed an event, or
-// where a value read is wrong.
+// Returns the seconds of a parse with that many handlers, a negative number where a handler missed
+// an event or a value is wrong.
 double parseTime(const Workload& workload, std::size_t count)
 {
     std::array<Counter, handler_counts.back()> counters;
@@ -69,12 +69,12 @@ double medianNanoseconds(std::vector<double>& seconds)
     return *middle * 1e9;
 }
 
-// The parse alone, with none, one and several handlers by turns: what differs is so small beside
-// the rest that the machine's better and worse moments have to fall on all of them alike. What one
-// handler adds is the median of the differences between the parses with none and with one, which
-// follow each other, now in this order and now in that.
+// Times the parse alone, with none, one and several handlers in turns: the differences are so small
+// that changes in the speed of the machine must affect all of them alike. What one handler adds is
+// the median of the differences between the parses with none and with one, which follow each other
+// in alternating order.
 //
-// The report takes times from the counters whose names begin with "ns ".
+// The report reads the times from the counters whose names begin with "ns ".
 void measureHandlers(benchmark::State& state, Session& session, const std::string& name)
 {
     const Workload& workload = session.workload(name);
@@ -104,13 +104,13 @@ void measureHandlers(benchmark::State& state, Session& session, const std::strin
     state.counters["ns added"] = medianNanoseconds(added);
 }
 
-// Both events of each argument, called through the interface.
+// Calls the handler directly, through its interface, for both events of each argument.
 void measureCalls(benchmark::State& state, Session& session, const std::string& name)
 {
     const std::size_t events = session.workload(name).arguments().size();
     Counter counter;
     kexa_3_3::EventHandler* handler = &counter;
-    benchmark::DoNotOptimize(handler); // so that the calls stay virtual
+    benchmark::DoNotOptimize(handler); // keeps the calls virtual
     const kexa_3_3::ValueRecord record = {L"name", vexkit2::variant_t(), 1};
     for (auto _ : state)
     {

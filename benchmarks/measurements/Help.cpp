@@ -1,7 +1,7 @@
-// The full help of many options. Every help is made by a parser that has not made one before, and
-// only the making is timed.
-#include "measurements/ProcessorTime.h"
-#include "measurements/Session.h"
+// Measures making the full help of many options. Each iteration has a new parser, and only making
+// the help is timed.
+#include "measurements/Measurements.h"
+#include "support/ProcessorTime.h"
 
 namespace benchmarks
 {
@@ -9,13 +9,13 @@ namespace benchmarks
 namespace
 {
 
-// Whether the help lists every option.
+// Returns whether the help lists every option.
 bool isComplete(const std::string& help, const Workload& workload)
 {
     std::size_t position = 0;
     for (const Option& option : workload.options())
     {
-        // Most list the options in the order of declaration; look there first.
+        // Most peers list the options in the order of declaration, so the search begins there.
         const std::string name = "-" + option.name;
         std::size_t found = help.find(name, position);
         found = found == std::string::npos ? help.find(name) : found;

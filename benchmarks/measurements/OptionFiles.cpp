@@ -1,14 +1,14 @@
-// An option file beside the same arguments parsed from memory and the reading of the file alone.
-// Only the parse (or the reading) is timed.
+// Measures parsing an option file, parsing the same arguments from memory, and reading the file
+// alone. Declaring and releasing are not timed.
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
 
-#include "measurements/ProcessorTime.h"
-#include "measurements/Session.h"
+#include "measurements/Measurements.h"
 #include "peers/KexaHost.h"
+#include "support/ProcessorTime.h"
 
 namespace benchmarks
 {
@@ -16,7 +16,7 @@ namespace benchmarks
 namespace
 {
 
-// The workload's arguments as a file, removed at the end.
+// A temporary file with the workload's arguments, removed by the destructor.
 class OptionFile
 {
 public:
@@ -67,9 +67,9 @@ void measure(benchmark::State& state, Prepare prepare, Timed timed)
     }
 }
 
-// Parses the file once and compares every reading. Nothing of it is left when time is taken: with a
-// second result of hundreds of megabytes beside it, a parse would be measured on memory that the
-// system has yet to find.
+// Parses the file once, compares every reading, and returns the first difference. The host is
+// destroyed before time is measured: with a second result of hundreds of megabytes alive, the
+// measured parse would include page faults for memory that it otherwise reuses.
 std::string check(const Workload& workload, const std::string& path)
 {
     KexaFileHost host(workload, path);

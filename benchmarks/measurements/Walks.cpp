@@ -1,7 +1,7 @@
-// Walking the values of one option: the first walk over a result, and later ones.
-#include "measurements/ProcessorTime.h"
-#include "measurements/Session.h"
+// Measures reading all values of one option: the first time after a parse, and later times.
+#include "measurements/Measurements.h"
 #include "peers/KexaHost.h"
+#include "support/ProcessorTime.h"
 
 namespace benchmarks
 {

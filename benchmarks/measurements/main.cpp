@@ -1,7 +1,7 @@
-// Every measurement of time. Besides the options of Google Benchmark:
+// Runs every measurement of time. Options besides those of Google Benchmark:
 //
-//   --smoke      only small sizes, each for a moment: shows that everything still runs and is right
-//   --skip-slow  without the combinations of which one cycle takes seconds
+//   --smoke      only small sizes, each for a moment: checks that all run and read the right values
+//   --skip-slow  without the combinations whose single cycle takes seconds
 #include <algorithm>
 #include <cstdlib>
 #include <string_view>
@@ -9,12 +9,12 @@
 
 #include <benchmark/benchmark.h>
 
-#include "measurements/Session.h"
+#include "measurements/Measurements.h"
 
 namespace
 {
 
-// Removes the flag from the arguments and answers whether it was there.
+// Removes the flag from the arguments and returns whether it was there.
 bool takeFlag(std::vector<char*>& arguments, std::string_view flag)
 {
     const auto kept = std::remove(arguments.begin(), arguments.end(), flag);

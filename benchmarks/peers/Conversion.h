@@ -1,4 +1,4 @@
-// What a host of a C library does to turn a text into a number.
+// Conversion of texts to numbers with the C library, as hosts of a C parser do it.
 #ifndef KEXA_BENCHMARKS_CONVERSION_H
 #define KEXA_BENCHMARKS_CONVERSION_H
 
@@ -13,8 +13,8 @@
 namespace benchmarks
 {
 
-// Converts the whole text with the C library and checks the range; a text stays a text. Throws
-// std::invalid_argument.
+// Converts the whole text and checks the range; returns the text itself for text types. Throws
+// std::invalid_argument where the text is not a number of type T.
 template <class T>
 T convert(const char* text)
 {

@@ -41,7 +41,7 @@ public:
 
     void parse()
     {
-        // getopt_long reorders the pointers it is given.
+        // getopt_long reorders the pointers, so it works on a copy of them.
         std::vector<char*> arguments;
         arguments.reserve(m_workload.argumentVector().size());
         for (const char* argument : m_workload.argumentVector())
@@ -101,7 +101,7 @@ private:
     }
 
     const Workload& m_workload;
-    int m_index = 0; // what getopt_long found last
+    int m_index = 0; // of the option that getopt_long found last
     std::string m_letters;
     std::vector<option> m_options;
     std::vector<SlotOf<Text>> m_slots;

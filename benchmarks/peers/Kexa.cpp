@@ -33,7 +33,7 @@ std::int32_t valueType(Type type)
     return kexa_3_3::value_type_string;
 }
 
-// The road of a host on Linux: its arguments come as UTF-8.
+// A host on Linux: its arguments are UTF-8 and are converted before the parse.
 class KexaFromNarrow
 {
 public:

@@ -1,4 +1,4 @@
-// The library as a host uses it: only the public interface.
+// A host of the library, which uses only its public interface.
 #ifndef KEXA_BENCHMARKS_KEXA_HOST_H
 #define KEXA_BENCHMARKS_KEXA_HOST_H
 
@@ -67,8 +67,8 @@ public:
             while (found)
             {
                 give(sink, i, option.type, value);
-                // An option that is given once at most is asked for once, as hosts of the other
-                // parsers have one variable for it.
+                // An option that is given once at most is read with one call: hosts of the other
+                // parsers have a single variable for it.
                 found = (option.repeated || option.list || Sink::wants_all) &&
                         m_result->getNextValue(&value, name) == kexa_3_3::result_success;
             }
@@ -113,7 +113,8 @@ private:
     ResultPointer m_result;
 };
 
-// The same declarations; the arguments come from an option file (see writeOptionFile).
+// A host that declares as KexaHost does and takes its arguments from an option file (see
+// writeOptionFile).
 class KexaFileHost
 {
 public:
@@ -134,7 +135,8 @@ private:
     std::wstring m_argument; // names the file
 };
 
-// Writes the workload's arguments, one in each line. Throws std::runtime_error.
+// Writes the workload's arguments to a file, one on each line. Throws std::runtime_error when that
+// fails.
 void writeOptionFile(const Workload& workload, const std::string& path);
 
 } // namespace benchmarks

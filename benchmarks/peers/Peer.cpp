@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <stdexcept>
 
 namespace benchmarks
 {
@@ -57,6 +58,18 @@ const std::vector<Peer>& allPeers()
                                             copyPeer(),           fromCharsPeer(),
                                             splitPeer(),          hashPeer()};
     return peers;
+}
+
+const Peer& peerNamed(const std::string& name)
+{
+    for (const Peer& peer : allPeers())
+    {
+        if (peer.name == name)
+        {
+            return peer;
+        }
+    }
+    throw std::invalid_argument("no such peer: " + name);
 }
 
 std::string check(const Peer& peer, const Workload& workload)

@@ -1,4 +1,5 @@
-// A contestant: a library, or a few lines of the standard library, that runs workloads.
+// Contestants: libraries, and lower bounds made of a few lines of the standard library, each of
+// which runs workloads.
 #ifndef KEXA_BENCHMARKS_PEER_H
 #define KEXA_BENCHMARKS_PEER_H
 
@@ -18,19 +19,20 @@ namespace benchmarks
 struct Abilities
 {
     bool abbreviations = false;     // finds options by a unique prefix
-    bool lists = false;             // cuts a value at commas
+    bool lists = false;             // splits a value at commas
     bool allowedValues = false;     // checks a value against a list
-    bool abbreviatedValues = false; // and completes it from a unique prefix
+    bool abbreviatedValues = false; // completes an allowed value from a unique prefix
     bool help = false;              // writes a help text
-    bool reads = true;              // reads values at all
+    bool reads = true;              // passes values to sinks
 
-    // Kinds of workload (the name up to the first "/") to take part in; empty: every kind.
+    // Kinds of workload (the name up to the first "/") that the contestant runs; empty: all that
+    // the abilities above allow.
     std::vector<std::string> only{};
 
-    // The largest size (the last number in a workload's name) of a kind that can be run at all.
+    // By kind, the largest size (the last number in a workload's name) that can be run at all.
     std::map<std::string, std::size_t> largest{};
 
-    // Sizes of a kind from which on one cycle takes so long that it is measured once only.
+    // By kind, the size from which on one cycle takes so long that it is measured only once.
     std::map<std::string, std::size_t> slowFrom{};
 };
 
@@ -46,14 +48,14 @@ public:
     // Parses the workload's arguments. Throws std::exception on an error in them.
     virtual void parse() = 0;
 
-    // Hands all that was read to a sink.
+    // Passes all that was read to a sink.
     virtual void read(Tally& sink) = 0;
     virtual void read(Record& sink) = 0;
 
-    // Makes the full help, as the library hands it out, and answers its length.
+    // Makes the full help in the library's own character type and returns its length.
     virtual std::size_t makeHelp() = 0;
 
-    // The same as narrow text.
+    // Returns the full help as UTF-8.
     virtual std::string help() = 0;
 };
 
@@ -65,15 +67,15 @@ struct Peer
     // Declares the workload's options. The workload outlives the host.
     std::unique_ptr<Host> (*declare)(const Workload& workload);
 
-    // The whole life: declare, parse, read everything, release. Without virtual calls.
+    // Runs a whole cycle without virtual calls: declare, parse, read everything, release.
     Tally (*cycle)(const Workload& workload);
 
     bool canRun(const std::string& workload) const;
     bool isSlow(const std::string& workload) const;
 };
 
-// Makes a peer from a class L with: L(const Workload&), parse(), template read(Sink&), help();
-// and wideHelp() where it makes wide text.
+// A host made from a class L, which has L(const Workload&), parse(), template read(Sink&), help(),
+// and wideHelp() where its help is wide text.
 template <class L>
 class HostOf final : public Host
 {
@@ -121,27 +123,30 @@ Peer makePeer(std::string name, Abilities abilities)
 }
 
 Peer kexaPeer();
-Peer kexaFromNarrowPeer(); // converts the arguments from UTF-8 first, as a host on Linux does
+Peer kexaFromNarrowPeer(); // converts the arguments from UTF-8 first, as hosts on Linux do
 Peer cli11Peer();
 Peer cxxoptsPeer();
 Peer programOptionsPeer();
 Peer tclapPeer();
 Peer argsPeer();
 Peer poptPeer();
-Peer getoptPeer();         // getopt_long, texts stored in std::string as every C++ peer does
-Peer getoptPointersPeer(); // getopt_long, texts left where they are in the argument vector
+Peer getoptPeer();         // getopt_long; texts are stored as std::string, as in every C++ peer
+Peer getoptPointersPeer(); // getopt_long; texts stay in the argument vector
 
-// The standard library alone, knowing beforehand what the workload holds.
-Peer copyPeer();      // copies the wide arguments, nothing more
-Peer fromCharsPeer(); // cuts at "=" and converts with std::from_chars
-Peer splitPeer();     // cuts a list at commas
-Peer hashPeer();      // looks allowed values up in a hash table
+// Lower bounds: code that fits one kind of workload and recognises no options.
+Peer copyPeer();      // copies the wide arguments
+Peer fromCharsPeer(); // splits at "=" and converts with std::from_chars
+Peer splitPeer();     // splits a list at commas
+Peer hashPeer();      // finds allowed values in a hash table
 
-// All of the above, kexa first.
+// Returns all of the above, kexa first.
 const std::vector<Peer>& allPeers();
 
-// Runs the whole life once and compares every reading with what the workload expects. Answers the
-// first difference, empty when there is none.
+// Returns the peer with the name. Throws std::invalid_argument when there is none.
+const Peer& peerNamed(const std::string& name);
+
+// Runs a cycle and compares every reading with what the workload expects. Returns the first
+// difference or the text of an exception, empty when there is neither.
 std::string check(const Peer& peer, const Workload& workload);
 
 } // namespace benchmarks

@@ -10,7 +10,7 @@
 namespace benchmarks
 {
 
-// Boost's own flags must not be given twice; this type counts.
+// The value of a flag that may be given several times; Boost's own flags may be given only once.
 struct Occurrences
 {
     std::uint64_t count = 0;

@@ -1,7 +1,8 @@
-// Variables for options to be stored in, for peers that write to the host's own variables.
+// The host's own variables, in which peers store what they read.
 #ifndef KEXA_BENCHMARKS_SLOTS_H
 #define KEXA_BENCHMARKS_SLOTS_H
 
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -14,8 +15,8 @@
 namespace benchmarks
 {
 
-// Calls the function with std::type_identity of the C++ type that holds a value of the type; texts
-// are held in a Text. Flags are not values.
+// Calls the function with std::type_identity of the C++ type for a value of the type and returns
+// what it returns. The C++ type of a text is Text. Precondition: the type is not a flag.
 template <class Text = std::string, class Function>
 decltype(auto) withType(Type type, Function function)
 {
@@ -32,11 +33,12 @@ decltype(auto) withType(Type type, Function function)
     case Type::real:
         return function(std::type_identity<double>{});
     default:
+        assert(type == Type::text);
         return function(std::type_identity<Text>{});
     }
 }
 
-// Hands one value to a sink.
+// Passes one value to a sink.
 template <class Sink>
 void put(Sink& sink, std::size_t option, std::int64_t value)
 {
@@ -73,7 +75,7 @@ void put(Sink& sink, std::size_t option, const char* value)
     sink.text(option, value);
 }
 
-// Hands every value of a list to a sink.
+// Passes every value of a list to a sink.
 template <class Sink, class T>
 void put(Sink& sink, std::size_t option, const std::vector<T>& values)
 {
@@ -113,7 +115,7 @@ SlotOf<Text> makeSlot(const Option& option)
                           });
 }
 
-// Hands everything that a slot holds to a sink.
+// Passes everything that a slot holds to a sink.
 template <class Sink, class T>
 void give(Sink& sink, std::size_t option, const T& variable)
 {

@@ -1,5 +1,5 @@
-// Lower bounds: what the same work costs with the standard library when it is known beforehand what
-// the workload holds. None of these is a parser.
+// Lower bounds: the cost of a part of the work in plain C++, in code that fits one kind of
+// workload. None of these is a parser.
 #include <charconv>
 #include <stdexcept>
 #include <string>
@@ -29,7 +29,7 @@ private:
     const Workload& m_workload;
 };
 
-// Copies every argument once, as wide text.
+// Copies every argument as wide text.
 class Copy : public Nothing
 {
 public:
@@ -85,7 +85,7 @@ std::string_view valueOf(const std::string& argument)
                                                                          : equals + 1);
 }
 
-// Knows that argument i belongs to option i modulo the number of options.
+// Relies on argument i belonging to option i modulo the number of options.
 class FromChars : public Nothing
 {
 public:
@@ -133,7 +133,7 @@ private:
     std::vector<Slot> m_slots;
 };
 
-// Cuts the one argument's value at commas and converts the pieces.
+// Splits the value of the only argument at commas and converts the items.
 class Split : public Nothing
 {
 public:
@@ -178,7 +178,7 @@ private:
     Slot m_slot;
 };
 
-// Copies each value after it was found in a hash table of the allowed ones.
+// Finds each value in a hash table of the allowed ones, then copies it.
 class Hash : public Nothing
 {
 public:
@@ -227,7 +227,7 @@ Peer fromCharsPeer()
 
 Peer splitPeer()
 {
-    return makePeer<Split>("cutting by hand", {.lists = true, .only = {"texts", "integers"}});
+    return makePeer<Split>("splitting by hand", {.lists = true, .only = {"texts", "integers"}});
 }
 
 Peer hashPeer()

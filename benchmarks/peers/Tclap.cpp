@@ -54,7 +54,7 @@ public:
         }
     }
 
-    // TCLAP writes its usage to the standard output.
+    // TCLAP writes its usage to std::cout, whose buffer is exchanged meanwhile.
     std::string help()
     {
         const std::ostringstream text;

@@ -4,13 +4,13 @@ import math
 
 WIDTH, HEIGHT = 760, 440
 LEFT, RIGHT, TOP, BOTTOM = 70, 170, 40, 50
-# Colours that stay apart for colour-blind readers (M. Okabe and K. Ito).
+# Colours that colour-blind readers can distinguish (M. Okabe and K. Ito).
 COLOURS = ["#d55e00", "#0072b2", "#009e73", "#cc79a7", "#e69f00", "#56b4e9", "#000000", "#999999",
            "#7a5c00"]
 
 
 def short(number):
-    """1000 as "1 000", 0.05 as "0.05"."""
+    """Formats 1000 as "1 000" and 0.05 as "0.05"."""
     return f"{number:,.0f}".replace(",", " ") if number >= 1 else f"{number:g}"
 
 
@@ -31,7 +31,7 @@ class Axis:
 
 
 def spread(positions, distance):
-    """Moves label positions apart, keeping their order."""
+    """Returns the label positions moved apart by at least the distance, in the same order."""
     order = sorted(range(len(positions)), key=lambda i: positions[i])
     placed = list(positions)
     for before, this in zip(order, order[1:]):
@@ -46,7 +46,7 @@ def spread(positions, distance):
 
 
 def log_log(title, x_label, y_label, series):
-    """series: {name: [(x, y), ...]}; the first one is drawn thicker."""
+    """Returns the SVG text. series: {name: [(x, y), ...]}; the first line is drawn thicker."""
     points = [point for line in series.values() for point in line]
     x_axis = Axis([x for x, _ in points], LEFT, WIDTH - RIGHT)
     y_axis = Axis([y for _, y in points], HEIGHT - BOTTOM, TOP)

@@ -1,6 +1,7 @@
-"""Writes what was measured into docs/performance.md and its plots, and prints the main table.
+"""Prints the goals with what was measured. Given a document, also prints the table of ratios and writes
+all tables into the document and the plots into the folder "performance" beside it.
 
-    report.py RESULTS_FOLDER docs/performance.md
+    report.py RESULTS_FOLDER [docs/performance.md]
 
 Text between "<!-- generated: NAME -->" and "<!-- end -->" is replaced; all other text is kept.
 """
@@ -11,11 +12,11 @@ import sys
 
 import plots
 import tables
-from results import PEERS, Results
+from results import PEERS, PLAIN, Results
 
 
 def series(results, kind, scale, contestants):
-    """{contestant: [(size, time for each unit)]}"""
+    """Returns {contestant: [(size, nanoseconds for each unit / scale)]}."""
     lines = {}
     for contestant in contestants:
         line = [(size, results.time(f"{kind}/{size}", contestant) / size / scale)
@@ -29,20 +30,19 @@ def series(results, kind, scale, contestants):
 def write_plots(results, folder):
     folder.mkdir(parents=True, exist_ok=True)
     everyone = ["kexa"] + PEERS
-    plain = ["copying the arguments", "std::from_chars", "cutting by hand"]
     drawings = {
         "options": ("An option with its argument", "options, each given once",
                     series(results, "cycle/options", 1000, everyone)),
-        "abbreviations": ("The same with unique abbreviations", "options, each given once",
+        "abbreviations": ("An abbreviated option with its argument", "options, each given once",
                           series(results, "cycle/abbreviations", 1000, everyone)),
         "arguments": ("An argument, with 30 options", "arguments",
-                      series(results, "cycle/arguments", 1000, everyone + plain)),
+                      series(results, "cycle/arguments", 1000, everyone + PLAIN)),
         "declarations": ("Declaring an option", "options",
                          series(results, "declare/declarations", 1000, everyone)),
         "typed": ("A typed value", "values",
-                  series(results, "cycle/typed", 1000, everyone + plain)),
-        "lists": ("A piece of a list of texts", "pieces",
-                  series(results, "cycle/texts", 1000, everyone + plain)),
+                  series(results, "cycle/typed", 1000, everyone + PLAIN)),
+        "lists": ("An item of a list of texts", "items",
+                  series(results, "cycle/texts", 1000, everyone + PLAIN)),
     }
     for name, (title, x_label, lines) in drawings.items():
         (folder / f"{name}.svg").write_text(
@@ -58,29 +58,32 @@ def fill(text, name, content):
     return filled
 
 
-def main(folder, document):
-    results = Results(folder)
-    document = pathlib.Path(document)
+def write_document(results, folder, document):
     write_plots(results, document.parent / "performance")
-    text = document.read_text()
     contents = {
-        "machine": (pathlib.Path(folder) / "machine.txt").read_text().strip(),
+        "machine": (folder / "machine.txt").read_text().strip(),
         "goals": tables.goals(results),
-        "spread": tables.spread(results),
         "ratios": tables.ratios(results),
-        "times": tables.times(results),
         "growth": tables.growth(results),
         "instructions": tables.instructions(results),
-        "phases": tables.phases(results),
         "memory": tables.memory(results),
         "option file": tables.option_file(results),
         "handlers": tables.handlers(results),
         "library": tables.library(results),
     }
+    text = document.read_text()
     for name, content in contents.items():
         text = fill(text, name, content)
     document.write_text(text)
-    print(contents["ratios"], "\n", contents["goals"], sep="\n")
+
+
+def main(folder, document=None):
+    folder = pathlib.Path(folder)
+    results = Results(folder)
+    if document is not None:
+        write_document(results, folder, pathlib.Path(document))
+        print(tables.ratios(results), "\n")
+    print(tables.goals(results))
 
 
 if __name__ == "__main__":

@@ -1,16 +1,24 @@
-"""What scripts/bench.sh measured, read back: times by round, counts, sizes."""
+"""What scripts/bench.sh measured, read back: times by round, and counts."""
 
 import json
 import pathlib
 import statistics
 
-PEERS = ["getopt_long", "popt", "args", "TCLAP", "CLI11", "Boost.Program_options", "cxxopts"]
 CPP_PEERS = ["args", "TCLAP", "CLI11", "Boost.Program_options", "cxxopts"]
+PEERS = ["getopt_long", "popt"] + CPP_PEERS
+# Code that is no parser and does a part of the work.
+PLAIN = ["copying the arguments", "std::from_chars", "splitting by hand", "std::unordered_set"]
 
 
 def median(values):
-    """None of no values."""
+    """Returns None when there are no values."""
     return statistics.median(values) if values else None
+
+
+def size_of(measurement):
+    """Returns the last number of a measurement's name, None where the name does not end in one."""
+    size = measurement.rsplit("/", 1)[-1]
+    return int(size) if size.isdigit() else None
 
 
 class Results:
@@ -23,7 +31,7 @@ class Results:
 
     @staticmethod
     def _read_round(folder):
-        """{measurement: {contestant: nanoseconds}}, where a measurement is "cycle/small"."""
+        """Returns {measurement: {contestant: nanoseconds}}; a measurement is "cycle/small"."""
         times = {}
         entries = [entry for path in sorted(folder.glob("*.json"))
                    for entry in json.loads(path.read_text())["benchmarks"]]
@@ -36,36 +44,39 @@ class Results:
                      if part != "manual_time" and not part.startswith("iterations:")]
             time = entry["real_time"] if manual else entry["cpu_time"]
             assert entry["time_unit"] == "ns"
-            # What was measured by turns comes as counters of median nanoseconds.
-            by_turns = {key.removeprefix("ns "): value for key, value in entry.items()
+            # A measurement that runs its contestants in turns reports each as a counter of median
+            # nanoseconds.
+            in_turns = {key.removeprefix("ns "): value for key, value in entry.items()
                         if key.startswith("ns ")}
-            times.setdefault("/".join(parts[:-1]), {}).update(by_turns or {parts[-1]: time})
+            times.setdefault("/".join(parts[:-1]), {}).update(in_turns or {parts[-1]: time})
         return times
 
-    def measurements(self):
-        return list(self.rounds[0])
-
-    def contestants(self, measurement):
-        return list(self.rounds[0].get(measurement, {}))
-
     def sizes(self, kind):
-        """The sizes at which "cycle/arguments" was measured."""
+        """Returns the sizes at which a kind such as "cycle/arguments" was measured, ascending."""
         prefix = kind + "/"
-        found = [int(name[len(prefix):]) for name in self.measurements()
-                 if name.startswith(prefix) and name[len(prefix):].isdigit()]
-        return sorted(found)
+        names = {name for times in self.rounds for name in times if name.startswith(prefix)}
+        return sorted(int(name[len(prefix):]) for name in names if name[len(prefix):].isdigit())
+
+    def smaller(self, measurement, contestant):
+        """Returns the measurement of the same kind with the largest size below this one's at which
+        the contestant was measured, or None."""
+        if size_of(measurement) is None:
+            return None
+        kind = measurement.rsplit("/", 1)[0]
+        sizes = [size for size in self.sizes(kind) if size < size_of(measurement)
+                 and self.time(f"{kind}/{size}", contestant) is not None]
+        return f"{kind}/{max(sizes)}" if sizes else None
 
     def time(self, measurement, contestant):
-        """Median nanoseconds, or None."""
-        times = [one[measurement][contestant] for one in self.rounds
-                 if contestant in one.get(measurement, {})]
-        return median(times)
+        """Returns the median in nanoseconds, or None."""
+        return median([times[measurement][contestant] for times in self.rounds
+                       if contestant in times.get(measurement, {})])
 
     def was_measured_once(self, measurement, contestant):
-        return sum(contestant in one.get(measurement, {}) for one in self.rounds) == 1
+        return sum(contestant in times.get(measurement, {}) for times in self.rounds) == 1
 
     def ratios(self, measurement, contestant, other, other_measurement=None):
-        """Of each round that has both, one time divided by another."""
+        """Returns one time divided by another for each round that has both."""
         found = []
         for one in self.rounds:
             times = one.get(measurement, {})
@@ -75,5 +86,5 @@ class Results:
         return found
 
     def ratio(self, measurement, contestant, other, other_measurement=None):
-        """The median of those ratios, or None."""
+        """Returns the median of the rounds' ratios, or None."""
         return median(self.ratios(measurement, contestant, other, other_measurement))

@@ -1,9 +1,9 @@
-// Runs cycles of one peer over one workload and nothing else, for callgrind.
+// Runs cycles of one peer over one workload without measuring them, for callgrind.
 //
-//   benchmark_cycles list
-//   benchmark_cycles check WORKLOAD...          every peer must read the right values
-//   benchmark_cycles run PEER WORKLOAD COUNT    COUNT cycles
-//   benchmark_cycles declare PEER WORKLOAD COUNT
+//   benchmark_cycles list                           names of the peers
+//   benchmark_cycles check WORKLOAD...              fails unless every peer reads the right values
+//   benchmark_cycles run PEER WORKLOAD COUNT        COUNT cycles
+//   benchmark_cycles declare PEER WORKLOAD COUNT    COUNT declarations of all options
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -20,18 +20,6 @@ namespace
 
 using benchmarks::Peer;
 using benchmarks::Workload;
-
-const Peer& peerNamed(const std::string& name)
-{
-    for (const Peer& peer : benchmarks::allPeers())
-    {
-        if (peer.name == name)
-        {
-            return peer;
-        }
-    }
-    throw std::invalid_argument("no such peer: " + name);
-}
 
 int checkAll(const std::vector<std::string>& names)
 {
@@ -86,7 +74,7 @@ int dispatch(const std::vector<std::string>& arguments)
     {
         return checkAll({arguments.begin() + 1, arguments.end()});
     }
-    const Peer& peer = peerNamed(arguments.at(1));
+    const Peer& peer = benchmarks::peerNamed(arguments.at(1));
     const auto workload = benchmarks::makeWorkload(arguments.at(2));
     const long count = std::stol(arguments.at(3));
     if (command == "declare")

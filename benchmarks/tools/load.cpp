@@ -1,5 +1,5 @@
-// Measures what loading the library adds to a program. Runs each of the programs given, by turns,
-// COUNT times, and prints the median time from the start of each to its end in microseconds.
+// Runs the given programs in turns, COUNT times each, and prints for each the median time from its
+// start to its end in microseconds. Shows how much time loading the library adds to a program.
 //
 //   benchmark_load COUNT PROGRAM...
 #include <algorithm>
@@ -15,7 +15,7 @@
 namespace
 {
 
-// Microseconds; negative where the program failed.
+// Runs the program and returns its time in microseconds, negative where it failed.
 double run(char* program)
 {
     char* arguments[] = {program, nullptr};

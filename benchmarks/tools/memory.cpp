@@ -1,9 +1,9 @@
-// Memory, as the heap counts it and as the system sees it. Prints names and numbers.
+// Measures memory by the heap's counters and by the system's. Prints names and numbers.
 //
-//   benchmark_memory value PEER WORKLOAD   heap that one stored value takes
-//   benchmark_memory write COUNT FILE      writes an option file with COUNT lines; prints what the
-//                                          result of parsing it must hold at least
-//   benchmark_memory file FILE             parses the option file; prints the peak
+//   benchmark_memory value PEER WORKLOAD   heap memory of one stored value
+//   benchmark_memory write COUNT FILE      writes an option file with COUNT lines; prints the
+//                                          least that its result must hold
+//   benchmark_memory file FILE             parses the option file; prints the memory
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -24,26 +24,14 @@ namespace
 using benchmarks::Peer;
 using benchmarks::Workload;
 
-const Peer& peerNamed(const std::string& name)
-{
-    for (const Peer& peer : benchmarks::allPeers())
-    {
-        if (peer.name == name)
-        {
-            return peer;
-        }
-    }
-    throw std::invalid_argument("no such peer: " + name);
-}
-
-// Bytes in use, blocks mapped one by one included.
+// Returns the bytes in use, including blocks that are mapped one by one.
 std::size_t heapInUse()
 {
     const struct mallinfo2 info = mallinfo2();
     return info.uordblks + info.hblkhd;
 }
 
-// A line of this process's status, in bytes: "VmRSS", "VmHWM".
+// Returns a line of this process's status in bytes; keys are "VmRSS" and "VmHWM".
 std::size_t statusBytes(const std::string& key)
 {
     std::ifstream status("/proc/self/status");
@@ -57,7 +45,7 @@ std::size_t statusBytes(const std::string& key)
     throw std::runtime_error("no " + key + " in /proc/self/status");
 }
 
-// Lets VmHWM start from what is resident now.
+// Sets VmHWM to the memory that is resident now.
 void resetPeak()
 {
     std::ofstream("/proc/self/clear_refs") << "5";
@@ -74,8 +62,8 @@ void printValue(const Peer& peer, const Workload& workload)
                     static_cast<double>(workload.arguments().size()));
 }
 
-// For each value its text once, ended by a zero, and a pointer to it; the data word and the kind of
-// its variant; its position.
+// Returns the sum over all values of: the text as a null-terminated string, a pointer to it, the
+// data word and the type of its variant, and its position.
 std::size_t leastResultSize(const Workload& workload)
 {
     constexpr std::size_t fixedPart =
@@ -109,7 +97,8 @@ void dispatch(const std::vector<std::string>& arguments)
     const std::string& command = arguments.at(0);
     if (command == "value")
     {
-        printValue(peerNamed(arguments.at(1)), *benchmarks::makeWorkload(arguments.at(2)));
+        printValue(benchmarks::peerNamed(arguments.at(1)),
+                   *benchmarks::makeWorkload(arguments.at(2)));
     }
     else if (command == "write")
     {

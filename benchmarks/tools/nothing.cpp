@@ -1,4 +1,4 @@
-// A program that does nothing. Linked with and without the library.
+// A program that does nothing, linked with and without the library to measure loading.
 int main()
 {
     return 0;

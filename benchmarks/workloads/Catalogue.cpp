@@ -124,7 +124,8 @@ void fillArguments(Workload& workload, std::size_t count, TextLength length)
     }
 }
 
-// "cache-00017-limit"; cut behind the number it is still the only name that begins so.
+// Returns a name such as "cache-00017-limit" or, where not whole, its unique prefix
+// "cache-00017".
 std::string numberedName(std::size_t index, bool whole)
 {
     constexpr const char* subjects[] = {"cache",  "network", "render", "storage",
@@ -182,15 +183,15 @@ void fillList(Workload& workload, std::size_t count, Type type)
     const std::size_t index = workload.addOption(std::move(option));
     Values values;
     std::string text;
-    std::vector<Reading> pieces;
+    std::vector<Reading> items;
     for (std::size_t i = 0; i < count; ++i)
     {
         Value value = values.next(type, TextLength::brief);
         text += i == 0 ? "" : ",";
         text += value.text;
-        pieces.push_back(std::move(value.reading));
+        items.push_back(std::move(value.reading));
     }
-    workload.addValue(index, text, pieces);
+    workload.addValue(index, text, items);
 }
 
 void fillAllowed(Workload& workload, std::size_t entries, std::size_t count, bool whole)
@@ -223,7 +224,7 @@ void fillValues(Workload& workload, std::size_t count, Type type)
     }
 }
 
-// The numbers in a workload's name: "allowed/1000/10000" has two.
+// Returns the numbers in a workload's name; "allowed/1000/10000" has two.
 std::vector<std::size_t> numbersIn(const std::string& name)
 {
     std::vector<std::size_t> numbers;

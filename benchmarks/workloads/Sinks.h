@@ -1,6 +1,6 @@
-// Where contestants put what they read: a tally while time is taken, a record while the readings
-// are checked. Both are told of every option in the order of declaration, and of its values in the
-// order given.
+// Sinks, which receive what a contestant reads: a Tally while time is measured, a Record while the
+// readings are checked. A contestant calls a sink for every option in the order of declaration, and
+// for the values of an option in the order given.
 #ifndef KEXA_BENCHMARKS_SINKS_H
 #define KEXA_BENCHMARKS_SINKS_H
 
@@ -15,11 +15,11 @@
 namespace benchmarks
 {
 
-// Touches every value and keeps next to nothing, so that the time measured is the contestant's.
+// Adds up every value and stores none, so that nearly all of the time measured is the contestant's.
 class Tally
 {
 public:
-    // Whether to look for values where the workload has none.
+    // Whether the contestant also looks for further values of options that are given once at most.
     static constexpr bool wants_all = false;
 
     void absent(std::size_t) noexcept { m_sum += 1; }
@@ -34,8 +34,8 @@ public:
     }
     void real(std::size_t, double value) noexcept { m_real += value; }
 
-    // The first character, and whether there is a second: what a host with a zero-terminated text
-    // and one with a counted text can both look at for nothing.
+    // Reads the first character and whether there is a second one: that costs as little for a
+    // null-terminated string as for a counted one.
     template <class Character>
     void text(std::size_t option, const Character* value) noexcept
     {
@@ -50,7 +50,7 @@ private:
     double m_real = 0;
 };
 
-// Keeps every reading.
+// Stores every reading.
 class Record
 {
 public:
@@ -66,7 +66,7 @@ public:
     void text(std::size_t option, const char* value) { add(option, Reading(std::string(value))); }
     void text(std::size_t option, const wchar_t* value) { add(option, Reading(narrow(value))); }
 
-    // Empty when everything was read as the workload expects it, else the first difference.
+    // Returns the first difference from what the workload expects, empty when there is none.
     std::string difference(const Workload& workload) const;
 
 private:
@@ -85,7 +85,7 @@ private:
     std::vector<Entry> m_options;
 };
 
-// Tells a sink what a contestant must tell it.
+// Passes to a sink what a contestant must pass to it.
 template <class Sink>
 void replay(const Workload& workload, Sink& sink)
 {
@@ -121,7 +121,7 @@ void replay(const Workload& workload, Sink& sink)
     }
 }
 
-// The tally that a cycle over the workload must give.
+// Returns the tally that a cycle over the workload must give.
 inline Tally expectedTally(const Workload& workload)
 {
     Tally tally;

@@ -1,5 +1,6 @@
 #include "workloads/Values.h"
 
+#include <cassert>
 #include <charconv>
 #include <numeric>
 #include <stdexcept>
@@ -10,6 +11,7 @@ namespace benchmarks
 
 std::size_t Values::below(std::size_t limit)
 {
+    assert(limit != 0);
     return std::size_t{m_engine()} % limit;
 }
 
@@ -70,7 +72,7 @@ Value Values::next(Type type, TextLength length)
     }
     case Type::real:
     {
-        // Four to ten digits with a point: what people write.
+        // Two to eleven digits with a point, as people write them.
         std::string text = std::to_string(nextNumber(20)) + "." + std::to_string(below(10000));
         double number = 0;
         std::from_chars(text.data(), text.data() + text.size(), number);

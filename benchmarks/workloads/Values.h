@@ -1,4 +1,4 @@
-// Values of every type, the same in each run.
+// Random values of every type. The sequence is the same in each run.
 #ifndef KEXA_BENCHMARKS_VALUES_H
 #define KEXA_BENCHMARKS_VALUES_H
 
@@ -20,27 +20,29 @@ enum class TextLength
 
 struct Value
 {
-    std::string text; // as written on the command line; holds no comma and no blank
+    std::string text; // as written on the command line; without commas and blanks
     Reading reading;  // as it must be read
 };
 
 class Values
 {
 public:
-    // A number below the limit, which is not 0.
+    // Returns a number below the limit. Precondition: the limit is not 0.
     std::size_t below(std::size_t limit);
 
-    // The numbers below the count in a shuffled order.
+    // Returns the numbers from 0 to count - 1 in a random order.
     std::vector<std::size_t> shuffled(std::size_t count);
 
-    // A value of any type but a flag. Numbers have one to all digits that the type can hold.
+    // Returns a value. Numbers have from one to as many digits as the type can hold. Throws
+    // std::logic_error for a flag, which has no values.
     Value next(Type type, TextLength length);
 
 private:
     std::string nextText(TextLength length);
     std::uint64_t nextNumber(unsigned bits);
 
-    // The engine's sequence is fixed by the standard; its distributions are not, so none is used.
+    // The standard fixes the sequence of the engine but not that of the distributions, so none of
+    // those is used.
     std::mt19937_64 m_engine{20240229};
 };
 

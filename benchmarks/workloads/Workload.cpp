@@ -119,7 +119,7 @@ void Workload::addFlag(std::size_t option)
 }
 
 void Workload::addValue(std::size_t option, std::string_view value,
-                        const std::vector<Reading>& pieces, std::string_view abbreviation)
+                        const std::vector<Reading>& items, std::string_view abbreviation)
 {
     std::string argument = "--";
     argument += abbreviation.empty() ? std::string_view(m_options.at(option).name) : abbreviation;
@@ -127,7 +127,7 @@ void Workload::addValue(std::size_t option, std::string_view value,
     argument += value;
     m_arguments.push_back(std::move(argument));
     std::vector<Reading>& readings = m_expectations.at(option).readings;
-    readings.insert(readings.end(), pieces.begin(), pieces.end());
+    readings.insert(readings.end(), items.begin(), items.end());
 }
 
 void Workload::seal()

@@ -1,4 +1,4 @@
-// One command line to measure: the options declared, the arguments given, and what must be read.
+// One command line to measure: the options declared, the arguments given, and the values expected.
 #ifndef KEXA_BENCHMARKS_WORKLOAD_H
 #define KEXA_BENCHMARKS_WORKLOAD_H
 
@@ -15,7 +15,7 @@ namespace benchmarks
 // The seven value types that every contestant converts to.
 enum class Type
 {
-    flag,      // takes no value; what is read is how often it was given
+    flag,      // takes no value; its number of occurrences is read
     integer,   // signed, 32 bits
     natural,   // unsigned, 32 bits
     integer64, // signed, 64 bits
@@ -31,18 +31,18 @@ struct Option
     Type type = Type::text;
     std::string description;
     bool repeated = false;                  // may be given more than once
-    bool list = false;                      // a value is cut into pieces at every comma
+    bool list = false;                      // a value is split into items at every comma
     std::vector<std::string> allowedValues; // empty: every value is accepted
 
-    // The same for hosts with wide text: the texts a program would write as literals.
+    // The members above as wide text, which a host would write as literals.
     std::wstring wideName;
     std::wstring wideNames; // "name" or "name,letter"
     std::wstring wideDescription;
     std::vector<std::wstring> wideAllowedValues;
 };
 
-// A value as it must be read, in the member that its type uses. Flags are not values: they are
-// counted.
+// A value that a contestant must read, in the member for its kind. A flag has no readings: its
+// occurrences are counted.
 struct Reading
 {
     explicit Reading(std::int64_t value) : kind(Type::integer64), integer(value) {}
@@ -72,18 +72,18 @@ public:
     Workload(const Workload&) = delete;
     Workload& operator=(const Workload&) = delete;
 
-    // Declares an option and answers its index.
+    // Declares an option and returns its index.
     std::size_t addOption(Option option);
 
     // Appends "--name" for a flag.
     void addFlag(std::size_t option);
 
     // Appends "--name=value" (UTF-8), where name is the option's name or, when given, the
-    // abbreviation. pieces are the values to be read from it.
-    void addValue(std::size_t option, std::string_view value, const std::vector<Reading>& pieces,
+    // abbreviation. items are the values that must be read from it.
+    void addValue(std::size_t option, std::string_view value, const std::vector<Reading>& items,
                   std::string_view abbreviation = {});
 
-    // Makes the argument vectors. To be called once, when everything is added.
+    // Makes the argument vectors. Call it once, after the last option and argument were added.
     void seal();
 
     const std::string& name() const noexcept { return m_name; }
@@ -94,8 +94,8 @@ public:
     const std::vector<std::string>& arguments() const noexcept { return m_arguments; }
     const std::vector<std::wstring>& wideArguments() const noexcept { return m_wideArguments; }
 
-    // Argument vectors with the program's name in front, followed by a null pointer that the
-    // counts leave out.
+    // Argument vectors with the program's name in front, followed by a null pointer that
+    // argumentCount does not count.
     int argumentCount() const noexcept { return static_cast<int>(m_arguments.size()) + 1; }
     const std::vector<const char*>& argumentVector() const noexcept { return m_argumentVector; }
     const std::vector<const wchar_t*>& wideArgumentVector() const noexcept
@@ -113,7 +113,7 @@ private:
     std::vector<const wchar_t*> m_wideArgumentVector;
 };
 
-// UTF-8 to wide text and back, for well-formed text.
+// Convert well-formed UTF-8 to wide text and back.
 std::wstring widen(std::string_view text);
 std::string narrow(std::wstring_view text);
 

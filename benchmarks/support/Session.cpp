@@ -1,4 +1,4 @@
-#include "measurements/Session.h"
+#include "support/Session.h"
 
 #include "workloads/Catalogue.h"
 

@@ -1,4 +1,5 @@
-// Time that this thread spent on a processor: what else the machine does meanwhile counts little.
+// Processor time of this thread, which other load on the machine disturbs less than it does elapsed
+// time.
 #ifndef KEXA_BENCHMARKS_PROCESSOR_TIME_H
 #define KEXA_BENCHMARKS_PROCESSOR_TIME_H
 
@@ -9,7 +10,7 @@
 namespace benchmarks
 {
 
-// In seconds, from an arbitrary start.
+// Returns seconds since an arbitrary start.
 inline double processorTime()
 {
     timespec now{};
@@ -17,7 +18,8 @@ inline double processorTime()
     return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
 }
 
-// Runs the action and counts it as the time of one iteration (needs UseManualTime).
+// Runs the action and reports its processor time as that of one iteration. Precondition: the
+// benchmark was registered with UseManualTime().
 template <class Action>
 void timeIteration(benchmark::State& state, Action action)
 {
