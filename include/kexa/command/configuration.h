@@ -6,12 +6,6 @@
 #ifndef KEXA_COMMAND_CONFIGURATION_H
 #define KEXA_COMMAND_CONFIGURATION_H
 
-#if defined(KEXA_COMMAND_HEADER_ONLY)
-#define KEXA_COMMAND_INLINE inline
-#else
-#define KEXA_COMMAND_INLINE
-#endif
-
 #if defined(__cpp_exceptions) || defined(_CPPUNWIND)
 #define KEXA_COMMAND_EXCEPTIONS 1
 #else

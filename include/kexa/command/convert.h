@@ -9,7 +9,9 @@
 
 #include "kexa/command/configuration.h"
 
-namespace kexa::v1
+namespace kexa
+{
+inline namespace v1
 {
 
 // Why a value is refused, in words that follow "...: " in a message, such as "must be even".
@@ -48,6 +50,7 @@ private:
 template <class T>
 struct convert;
 
-} // namespace kexa::v1
+} // namespace v1
+} // namespace kexa
 
 #endif

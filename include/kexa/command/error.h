@@ -7,7 +7,9 @@
 
 #include "kexa/command/configuration.h"
 
-namespace kexa::v1
+namespace kexa
+{
+inline namespace v1
 {
 
 // Where the value of a member comes from.
@@ -69,6 +71,7 @@ struct Occurrence
     int line = 0;
 };
 
-} // namespace kexa::v1
+} // namespace v1
+} // namespace kexa
 
 #endif

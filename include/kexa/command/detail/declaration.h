@@ -13,7 +13,11 @@
 #include "kexa/command/configuration.h"
 #include "kexa/variant.h"
 
-namespace kexa::v1::detail
+namespace kexa
+{
+inline namespace v1
+{
+namespace detail
 {
 
 struct Declaration;
@@ -63,10 +67,10 @@ public:
 // What the layer does with members of one type. One static table for each type.
 struct MemberOperations
 {
-    std::int32_t rawType;      // a value_type_t
-    const char* typeName;      // for the help
-    bool list;                 // grows by repetition
-    bool named;                // can be read only through a table of named values
+    std::int32_t rawType;                      // a value_type_t
+    const char* typeName;                      // for the help
+    bool list;                                 // grows by repetition
+    bool named;                                // can be read only through a table of named values
     bool (*store)(void* member, Input& input); // false: refused, the reason is in input
     void (*clear)(void* member);
     // Appends the text of each element that the member holds.
@@ -74,8 +78,8 @@ struct MemberOperations
                   std::vector<std::string>& texts);
     // Returns why the first refused element of a default is refused; empty where none is.
     std::string (*refuseDefault)(const void* member, const Declaration& declaration);
-    const char* (*lowest)(); // the limits of a number's type, null for other types
-    const char* (*highest)();
+    std::string (*lowest)(); // the limits of a number's type, empty for other types
+    std::string (*highest)();
 };
 
 enum class Kind : unsigned char
@@ -122,8 +126,8 @@ struct Declaration
     std::size_t minimum = 0; // how many arguments a positional one takes
     std::size_t maximum = 1;
 
-    std::shared_ptr<Core> command;              // Kind::subcommand
-    void* (*emplace)(void* member) = nullptr;   // Kind::subcommand: makes the inner struct
+    std::shared_ptr<Core> command;            // Kind::subcommand
+    void* (*emplace)(void* member) = nullptr; // Kind::subcommand: makes the inner struct
 
     bool takesValue() const
     {
@@ -132,10 +136,13 @@ struct Declaration
     }
     bool isFlag() const
     {
-        return kind == Kind::option && member != nullptr && member->rawType == 0 && table == nullptr;
+        return kind == Kind::option && member != nullptr && member->rawType == 0 &&
+               table == nullptr;
     }
 };
 
-} // namespace kexa::v1::detail
+} // namespace detail
+} // namespace v1
+} // namespace kexa
 
 #endif
