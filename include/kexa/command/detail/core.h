@@ -53,7 +53,6 @@ public:
 
     Declaration& declare(Kind kind, std::string_view names, std::string_view description,
                          std::size_t offset, const MemberOperations* member);
-    std::size_t indexOf(const Declaration& declaration) const noexcept;
 
     // Checks what depends on several parts of a declaration; called after each change of one.
     void checkDefault(const Declaration& declaration) const;
@@ -113,8 +112,11 @@ public:
 
     [[noreturn]] void misuse(const std::string& text) const;
 
+    State& state() noexcept { return *m_state; }
+
 private:
-    friend class State;
+    void lead(const std::string& path); // sets the names that lead to the command
+
     std::unique_ptr<Definition> m_definition;
     std::unique_ptr<State> m_state;
 };

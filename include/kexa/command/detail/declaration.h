@@ -98,6 +98,7 @@ enum class Kind : unsigned char
 struct Declaration
 {
     Kind kind = Kind::option;
+    std::size_t index = 0;          // among the declarations of the command
     std::vector<std::string> names; // the primary one first, hidden ones last
     std::size_t shownNames = 0;     // the number of names that are not hidden
     std::string description;
