@@ -1,6 +1,7 @@
 #include "kexa/command/detail/core.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "Definition.h"
 #include "Inline.h"
@@ -15,14 +16,14 @@ namespace detail
 {
 
 KEXA_COMMAND_INLINE Core::Core(std::string_view name, std::string_view summary,
-                               StructOperations operations, void (*misuse)(const std::string&))
+                               StructOperations operations, void (*raise)(const std::string&))
     : m_definition(std::make_unique<Definition>())
 {
     m_definition->name = name;
     m_definition->path = name;
     m_definition->summary = summary;
     m_definition->operations = operations;
-    m_definition->misuse = misuse;
+    m_definition->misuse = raise;
     m_definition->prototype = operations.create();
     m_state = std::make_unique<State>(*this, *m_definition);
 }
@@ -41,20 +42,6 @@ KEXA_COMMAND_INLINE void Core::misuse(const std::string& text) const
 {
     m_definition->misuse(text);
     std::abort(); // a handler that returns
-}
-
-KEXA_COMMAND_LOCAL std::string textOfValue(const vexkit2::variant_t& value)
-{
-    if (value.can_get<const wchar_t*>())
-    {
-        return narrow(value.get<const wchar_t*>());
-    }
-    if (value.can_get<std::int64_t>())
-    {
-        return textOf(value.get<std::int64_t>());
-    }
-    return value.can_get<std::uint64_t>() ? textOf(value.get<std::uint64_t>())
-                                          : textOf(value.get<double>());
 }
 
 KEXA_COMMAND_INLINE std::vector<std::string> allowedTexts(const Declaration& declaration)

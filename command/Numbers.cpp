@@ -47,6 +47,27 @@ KEXA_COMMAND_INLINE std::string textOf(double value)
     return text;
 }
 
+KEXA_COMMAND_INLINE std::string textOfValue(const vexkit2::variant_t& value)
+{
+    if (value.can_get<const wchar_t*>())
+    {
+        return narrow(value.get<const wchar_t*>());
+    }
+    if (value.can_get<bool>())
+    {
+        return value.get<bool>() ? "true" : "false";
+    }
+    if (value.can_get<std::int64_t>())
+    {
+        return textOf(value.get<std::int64_t>());
+    }
+    if (value.can_get<std::uint64_t>())
+    {
+        return textOf(value.get<std::uint64_t>());
+    }
+    return value.can_get<double>() ? textOf(value.get<double>()) : std::string();
+}
+
 KEXA_COMMAND_INLINE bool readInteger(Input& input, std::int64_t lowest, std::int64_t highest,
                                      std::int64_t& value)
 {

@@ -42,20 +42,16 @@ KEXA_COMMAND_INLINE Scan::Scan(State& state, std::vector<std::string>& files)
     : m_state(&state), m_files(&files)
 {
     state.prepare();
-    std::size_t positional = 0;
-    for (const Declaration* declaration : state.declarations())
+    const auto& positionals = state.positionals();
+    if (!positionals.empty() && positionals.back()->kind == Kind::rest)
     {
-        if (declaration->kind == Kind::rest)
-        {
-            m_plainBeforeRest = positional;
-        }
-        positional += isPositional(*declaration) ? 1 : 0;
+        m_plainBeforeRest = positionals.size() - 1;
     }
 }
 
 KEXA_COMMAND_INLINE bool Scan::takesRest() const
 {
-    return m_plainCount >= m_plainBeforeRest && m_inner == nullptr;
+    return m_plainCount > m_plainBeforeRest;
 }
 
 KEXA_COMMAND_INLINE void Scan::take(std::vector<Argument> arguments)
@@ -79,8 +75,7 @@ KEXA_COMMAND_INLINE void Scan::walk()
     bool isBehindMarker = false;
     while (m_next < m_arguments.size() && m_inner == nullptr)
     {
-        const bool mayBeOption = !isBehindMarker && (!takesRest() || m_plainCount == 0) &&
-                                 !(takesRest() && m_plainBeforeRest < m_plainCount);
+        const bool mayBeOption = !isBehindMarker && !takesRest();
         if (mayBeOption && current().text == end_of_options)
         {
             isBehindMarker = true;
@@ -192,10 +187,7 @@ KEXA_COMMAND_INLINE bool Scan::takeVerb()
         ++m_next;
         return true;
     }
-    const bool hasPositional =
-        std::any_of(m_state->declarations().begin(), m_state->declarations().end(),
-                    [](const Declaration* each) { return isPositional(*each); });
-    if (found.candidates.empty() && hasPositional)
+    if (found.candidates.empty() && !m_state->positionals().empty())
     {
         return false;
     }
@@ -220,24 +212,43 @@ KEXA_COMMAND_INLINE void Scan::beginSubcommand(const Declaration& verb)
                    m_arguments.end()});
 }
 
+// Whether a positional argument takes part: not where an action is chosen that does not accept it.
+KEXA_COMMAND_INLINE bool Scan::isAccepted(const Declaration& positional) const
+{
+    bool isActionChosen = false;
+    for (const Given& given : m_givens)
+    {
+        if (given.declaration != nullptr && given.declaration->kind == Kind::action)
+        {
+            const std::vector<std::size_t>& actions = positional.actions;
+            if (std::find(actions.begin(), actions.end(), given.declaration->index) !=
+                actions.end())
+            {
+                return true;
+            }
+            isActionChosen = true;
+        }
+    }
+    return positional.actions.empty() || !isActionChosen;
+}
+
 // Gives the positional arguments of the line to those declared: each gets as many as it can while
 // enough are left for those behind it.
 KEXA_COMMAND_INLINE void Scan::distribute()
 {
+    std::vector<const Declaration*> accepted;
     std::size_t needed = 0;
-    for (const Declaration* declaration : m_state->declarations())
+    for (const Declaration* declaration : m_state->positionals())
     {
-        needed += isPositional(*declaration) ? declaration->minimum : 0;
+        if (isAccepted(*declaration))
+        {
+            accepted.push_back(declaration);
+            needed += declaration->minimum;
+        }
     }
     std::size_t next = 0;
-    bool isDeclared = false;
-    for (const Declaration* declaration : m_state->declarations())
+    for (const Declaration* declaration : accepted)
     {
-        if (!isPositional(*declaration))
-        {
-            continue;
-        }
-        isDeclared = true;
         needed -= declaration->minimum;
         const std::size_t left = m_plain.size() - next;
         const std::size_t spare = left > needed ? left - needed : 0;
@@ -265,7 +276,7 @@ KEXA_COMMAND_INLINE void Scan::distribute()
         m_fault.isFound = true;
         m_fault.typed = given.typed;
         m_fault.place = given.place;
-        if (isDeclared)
+        if (!m_state->positionals().empty())
         {
             m_fault.message = "too many arguments: '" + narrow(given.typed) + "'";
         }

@@ -92,6 +92,7 @@ private:
     bool takeVerb();
     void beginSubcommand(const Declaration& verb);
     void readOptionFiles();
+    bool isAccepted(const Declaration& positional) const;
     void distribute();
 
     bool resolves(std::wstring_view argument) const;

@@ -106,12 +106,17 @@ KEXA_COMMAND_INLINE void State::prepare()
     }
     checkDeclarations();
     m_all.clear();
+    m_positionals.clear();
     m_names = NameTable();
     m_verbs = NameTable();
     for (const auto& declaration : m_definition->declarations)
     {
         m_all.push_back(declaration.get());
         addNames(*declaration);
+        if (isPositional(*declaration))
+        {
+            m_positionals.push_back(declaration.get());
+        }
     }
     m_help = declareBuiltIn(Kind::help, m_definition->helpNames, "Show this help");
     m_version = m_definition->version.empty()

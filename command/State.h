@@ -46,6 +46,7 @@ public:
 
     // All declarations, --help and --version included; at the position of their index.
     const std::vector<const Declaration*>& declarations() const { return m_all; }
+    const std::vector<const Declaration*>& positionals() const { return m_positionals; }
     const NameTable& names() const { return m_names; }
     const NameTable& verbs() const { return m_verbs; }
     const Declaration* helpOption() const { return m_help.get(); }
@@ -78,6 +79,7 @@ private:
     std::size_t m_failures = 0;
     std::size_t m_registered = 0; // how many declarations a shared parser has
     std::vector<const Declaration*> m_all;
+    std::vector<const Declaration*> m_positionals;
     std::vector<std::wstring> m_rawNames;
     std::unique_ptr<Declaration> m_help;
     std::unique_ptr<Declaration> m_version;

@@ -41,9 +41,9 @@ class State;
 class Core
 {
 public:
-    // misuse: called with the text that names the wrong declaration; does not return.
+    // raise: called with the text that names the wrong declaration; does not return.
     Core(std::string_view name, std::string_view summary, StructOperations operations,
-         void (*misuse)(const std::string& text));
+         void (*raise)(const std::string& text));
     Core(const Core&) = delete;
     Core& operator=(const Core&) = delete;
     ~Core();

@@ -24,6 +24,9 @@ std::string textOf(std::int64_t value);
 std::string textOf(std::uint64_t value);
 std::string textOf(double value);
 
+// Returns the text of a value as it is given on the command line.
+std::string textOfValue(const vexkit2::variant_t& value);
+
 // Fill `value` with the number in `input` where it lies within the limits, both inclusive. Else
 // they set the reason and return false.
 bool readInteger(Input& input, std::int64_t lowest, std::int64_t highest, std::int64_t& value);

@@ -21,8 +21,7 @@ struct Outcome
     Error error;
     std::string text;     // of the help or the version
     std::string program;  // the names that lead to the command: "git remote add"
-    bool hasHelp = false; // whether the program has an option for help, and its name
-    std::string helpName;
+    std::string helpName; // of the option for help as it is typed; empty where there is none
 
     std::vector<Occurrence> occurrences;
 
