@@ -43,10 +43,9 @@ KEXA_COMMAND_INLINE void Binder::noteSource(const Declaration& declaration)
         return;
     }
     std::vector<Outcome::MemberSource>& sources = m_outcome.sources;
-    const bool isNew =
-        std::none_of(sources.begin(), sources.end(), [&](const Outcome::MemberSource& each) {
-            return each.offset == declaration.offset;
-        });
+    const bool isNew = std::none_of(sources.begin(), sources.end(),
+                                    [&](const Outcome::MemberSource& each)
+                                    { return each.offset == declaration.offset; });
     if (isNew)
     {
         sources.push_back({declaration.offset, m_source});
@@ -80,8 +79,7 @@ KEXA_COMMAND_INLINE bool Binder::onOptionParsed(const wchar_t*)
     return true;
 }
 
-KEXA_COMMAND_INLINE bool Binder::onValueParsed(const wchar_t*,
-                                               const kexa_3_3::ValueRecord* record)
+KEXA_COMMAND_INLINE bool Binder::onValueParsed(const wchar_t*, const kexa_3_3::ValueRecord* record)
 {
     assert(m_next > 0);
     const Given& given = m_givens[m_next - 1];
@@ -127,8 +125,7 @@ KEXA_COMMAND_INLINE bool Binder::store(const Given& given, const vexkit2::varian
             return false;
         }
     }
-    const vexkit2::variant_t& stored =
-        replaced.kind() == vexkit2::kind_null ? value : replaced;
+    const vexkit2::variant_t& stored = replaced.kind() == vexkit2::kind_null ? value : replaced;
     noteSource(declaration);
     if (declaration.member != nullptr)
     {

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "Scan.h"
 #include "kexa/command/detail/outcome.h"
 #include "kexa/event_handler.h"
+#include "Scan.h"
 
 #if KEXA_COMMAND_EXCEPTIONS
 #include <exception>

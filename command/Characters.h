@@ -57,8 +57,9 @@ constexpr bool looksNegative(std::wstring_view argument)
 }
 
 // A character that no argument of a user holds (a lone surrogate that stands for no byte). It marks
-// what the layer gives to the parser and takes out of messages again: names of positional arguments,
-// which cannot be typed, and the place of an empty text, which the parser takes for no value.
+// what the layer gives to the parser and takes out of messages again: names of positional
+// arguments, which cannot be typed, and the place of an empty text, which the parser takes for no
+// value.
 inline constexpr wchar_t mark = 0xD800;
 
 } // namespace detail

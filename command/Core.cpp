@@ -5,6 +5,7 @@
 
 #include "Definition.h"
 #include "Inline.h"
+#include "kexa/command/detail/numbers.h"
 #include "State.h"
 #include "text/Encoding.h"
 

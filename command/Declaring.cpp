@@ -214,8 +214,7 @@ KEXA_COMMAND_INLINE void Core::setSeparator(Declaration& declaration, char separ
     declaration.separator = separator;
 }
 
-KEXA_COMMAND_INLINE void Core::setEnvironment(Declaration& declaration,
-                                              std::string_view name) const
+KEXA_COMMAND_INLINE void Core::setEnvironment(Declaration& declaration, std::string_view name) const
 {
     if (declaration.kind != Kind::option && declaration.kind != Kind::positional)
     {
@@ -229,8 +228,7 @@ KEXA_COMMAND_INLINE void Core::setEnvironment(Declaration& declaration,
     declaration.environment = name;
 }
 
-KEXA_COMMAND_INLINE void Core::setCounting(Declaration& declaration,
-                                           void (*increment)(void*)) const
+KEXA_COMMAND_INLINE void Core::setCounting(Declaration& declaration, void (*increment)(void*)) const
 {
     if (declaration.kind != Kind::option || declaration.member->list)
     {

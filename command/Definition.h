@@ -54,11 +54,13 @@ struct Definition
 // Returns the pieces between the commas.
 std::vector<std::string> splitNames(std::string_view names);
 
-// Returns the option as messages name it: "--list", "-l", or the bare name of a positional argument.
+// Returns the option as messages name it: "--list", "-l", or the bare name of a positional
+// argument.
 std::string spelled(const Declaration& declaration);
 std::string spelledName(std::string_view name);
 
-// Return the values that are allowed, and those of the default, as they are given on the command line.
+// Return the values that are allowed, and those of the default, as they are given on the command
+// line.
 std::vector<std::string> allowedTexts(const Declaration& declaration);
 std::vector<std::string> defaultTexts(const Definition& definition, const Declaration& declaration);
 

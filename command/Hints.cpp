@@ -31,8 +31,7 @@ public:
 
     void offer(std::string_view word, const std::string& shown)
     {
-        const bool isAbbreviated =
-            !m_typed.empty() && word.substr(0, m_typed.size()) == m_typed;
+        const bool isAbbreviated = !m_typed.empty() && word.substr(0, m_typed.size()) == m_typed;
         const std::size_t distance = isAbbreviated ? 0 : editDistance(m_typed, word, m_limit);
         if (distance > m_limit || (!isAbbreviated && distance >= word.size()))
         {

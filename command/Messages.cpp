@@ -70,8 +70,8 @@ KEXA_COMMAND_LOCAL std::string between(const std::wstring& message, std::wstring
     {
         return std::string();
     }
-    return narrow(std::wstring_view(message).substr(begin + before.size(),
-                                                    end - begin - before.size()));
+    return narrow(
+        std::wstring_view(message).substr(begin + before.size(), end - begin - before.size()));
 }
 
 // Whether the text is an integer, which a number's type may be too small for.

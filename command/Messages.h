@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "Scan.h"
 #include "kexa/command/detail/outcome.h"
+#include "Scan.h"
 
 namespace kexa
 {

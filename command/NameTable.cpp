@@ -28,9 +28,8 @@ KEXA_COMMAND_LOCAL std::vector<NameEntry>::const_iterator
 firstNotBelow(const std::vector<NameEntry>& entries, std::wstring_view name)
 {
     return std::lower_bound(entries.begin(), entries.end(), name,
-                            [](const NameEntry& entry, std::wstring_view sought) {
-                                return std::wstring_view(entry.name) < sought;
-                            });
+                            [](const NameEntry& entry, std::wstring_view sought)
+                            { return std::wstring_view(entry.name) < sought; });
 }
 
 KEXA_COMMAND_INLINE const NameEntry* NameTable::find(std::wstring_view name) const
@@ -41,9 +40,8 @@ KEXA_COMMAND_INLINE const NameEntry* NameTable::find(std::wstring_view name) con
 
 KEXA_COMMAND_INLINE const NameEntry* NameTable::findUnsorted(std::wstring_view name) const
 {
-    const auto found =
-        std::find_if(m_entries.begin(), m_entries.end(),
-                     [name](const NameEntry& entry) { return entry.name == name; });
+    const auto found = std::find_if(m_entries.begin(), m_entries.end(),
+                                    [name](const NameEntry& entry) { return entry.name == name; });
     return found == m_entries.end() ? nullptr : &*found;
 }
 
@@ -52,8 +50,8 @@ KEXA_COMMAND_LOCAL bool beginsWith(std::wstring_view text, std::wstring_view beg
     return text.substr(0, beginning.size()) == beginning;
 }
 
-// Returns what all candidates mean, null where they mean different things. Without a typed "no-" the
-// "no-" forms do not count.
+// Returns what all candidates mean, null where they mean different things. Without a typed "no-"
+// the "no-" forms do not count.
 KEXA_COMMAND_LOCAL const NameEntry* sharedMeaning(const std::vector<const NameEntry*>& candidates,
                                                   bool isNegationTyped)
 {

@@ -27,7 +27,7 @@ struct NameEntry
 // What a typed name means.
 struct NameMatch
 {
-    const NameEntry* entry = nullptr; // the one meant
+    const NameEntry* entry = nullptr;         // the one meant
     std::vector<const NameEntry*> candidates; // several, where none is meant; else empty
 };
 

@@ -124,7 +124,8 @@ KEXA_COMMAND_INLINE bool readFloat(Input& input, float& value)
     constexpr double highest = std::numeric_limits<float>::max();
     if (wide > highest || wide < -highest)
     {
-        input.reason = wide < 0 ? "less than " + textOf(-highest) : "greater than " + textOf(highest);
+        input.reason =
+            wide < 0 ? "less than " + textOf(-highest) : "greater than " + textOf(highest);
         return false;
     }
     value = static_cast<float>(wide);
@@ -233,8 +234,8 @@ KEXA_COMMAND_LOCAL vexkit2::variant_t convertInteger(const std::string& text, bo
         return *end != 0 || errno != 0 ? vexkit2::variant_t()
                                        : vexkit2::variant_t(static_cast<std::int64_t>(value));
     }
-    const bool isHexadecimal = text.size() > 2 && (text.compare(0, 2, "0x") == 0 ||
-                                                   text.compare(0, 2, "0X") == 0);
+    const bool isHexadecimal =
+        text.size() > 2 && (text.compare(0, 2, "0x") == 0 || text.compare(0, 2, "0X") == 0);
     const unsigned long long value = std::strtoull(text.c_str(), &end, isHexadecimal ? 16 : 10);
     return *end != 0 || errno != 0 || text.find('-') != std::string::npos
                ? vexkit2::variant_t()

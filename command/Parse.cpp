@@ -6,12 +6,12 @@
 #include "Binder.h"
 #include "Characters.h"
 #include "Inline.h"
-#include "Messages.h"
-#include "Scan.h"
 #include "kexa/command/detail/numbers.h"
 #include "kexa/option.h"
+#include "Messages.h"
 #include "platform/Environment.h"
 #include "platform/ProcessArguments.h"
+#include "Scan.h"
 #include "text/Encoding.h"
 #include "text/LineSplitting.h"
 
@@ -28,8 +28,8 @@ class LineBinding
 public:
     LineBinding(const Scan& scan, const std::vector<std::string>& files, void* object,
                 Outcome& outcome)
-        : m_scan(scan), m_state(scan.state()), m_files(files), m_object(object),
-          m_outcome(outcome), m_sources(m_state.declarations().size(), Source::defaulted)
+        : m_scan(scan), m_state(scan.state()), m_files(files), m_object(object), m_outcome(outcome),
+          m_sources(m_state.declarations().size(), Source::defaulted)
     {
     }
 
@@ -159,8 +159,7 @@ KEXA_COMMAND_INLINE bool LineBinding::parseEnvironment()
     std::vector<Given> givens;
     for (const Declaration* declaration : m_state.declarations())
     {
-        if (declaration->environment.empty() ||
-            m_sources[declaration->index] != Source::defaulted)
+        if (declaration->environment.empty() || m_sources[declaration->index] != Source::defaulted)
         {
             continue;
         }
@@ -175,8 +174,7 @@ KEXA_COMMAND_INLINE bool LineBinding::parseEnvironment()
         std::string reason;
         if (declaration->isFlag())
         {
-            const vexkit2::variant_t flag =
-                convertText(kexa_3_3::value_type_boolean, wide, reason);
+            const vexkit2::variant_t flag = convertText(kexa_3_3::value_type_boolean, wide, reason);
             if (flag.kind() == vexkit2::kind_boolean)
             {
                 raw = flag.get<bool>() ? name : L"--no-" + name.substr(2);
@@ -215,9 +213,8 @@ KEXA_COMMAND_INLINE bool LineBinding::parseEnvironment()
 
 KEXA_COMMAND_INLINE bool LineBinding::isChosen(const std::vector<std::size_t>& actions) const
 {
-    return std::any_of(actions.begin(), actions.end(), [this](std::size_t action) {
-        return m_sources[action] == Source::given;
-    });
+    return std::any_of(actions.begin(), actions.end(),
+                       [this](std::size_t action) { return m_sources[action] == Source::given; });
 }
 
 KEXA_COMMAND_INLINE bool LineBinding::checkMissing()
@@ -229,8 +226,8 @@ KEXA_COMMAND_INLINE bool LineBinding::checkMissing()
     {
         const bool isAction = declaration->kind == Kind::action;
         hasAction = hasAction || isAction;
-        isActionGiven = isActionGiven ||
-                        (isAction && m_sources[declaration->index] == Source::given);
+        isActionGiven =
+            isActionGiven || (isAction && m_sources[declaration->index] == Source::given);
     }
     if (definition.actionRequired && !isActionGiven)
     {
@@ -277,15 +274,17 @@ KEXA_COMMAND_INLINE bool LineBinding::checkRelation(const RelationOfOptions& rel
         return true; // the parser's
     }
     const std::vector<const Declaration*>& members = relation.members;
-    const auto source = [this](const Declaration* each) { return m_sources[each->index]; };
+    const auto source = [this](const Declaration* each)
+    {
+        return m_sources[each->index];
+    };
     if (relation.relation == Core::Relation::oneOf)
     {
-        const auto given = std::count_if(members.begin(), members.end(), [&](auto* each) {
-            return source(each) == Source::given;
-        });
-        const bool isSet = std::any_of(members.begin(), members.end(), [&](auto* each) {
-            return source(each) != Source::defaulted;
-        });
+        const auto given = std::count_if(members.begin(), members.end(),
+                                         [&](auto* each) { return source(each) == Source::given; });
+        const bool isSet =
+            std::any_of(members.begin(), members.end(),
+                        [&](auto* each) { return source(each) != Source::defaulted; });
         if (given <= 1 && isSet)
         {
             return true;
@@ -295,9 +294,9 @@ KEXA_COMMAND_INLINE bool LineBinding::checkRelation(const RelationOfOptions& rel
         {
             list += (list.empty() ? "'" : ", '") + spelled(*member) + "'";
         }
-        return refuse((given > 1 ? "only one of these is possible: " : "one of these is required: ") +
-                          list,
-                      nullptr);
+        return refuse(
+            (given > 1 ? "only one of these is possible: " : "one of these is required: ") + list,
+            nullptr);
     }
     if (source(members.front()) != Source::given)
     {
@@ -306,8 +305,8 @@ KEXA_COMMAND_INLINE bool LineBinding::checkRelation(const RelationOfOptions& rel
     const bool isNeeds = relation.relation == Core::Relation::needs;
     for (std::size_t i = 1; i < members.size(); ++i)
     {
-        const bool isWrong = isNeeds ? source(members[i]) == Source::defaulted
-                                     : source(members[i]) == Source::given;
+        const bool isWrong =
+            isNeeds ? source(members[i]) == Source::defaulted : source(members[i]) == Source::given;
         if (isWrong)
         {
             return refuse("'" + spelled(*members.front()) +

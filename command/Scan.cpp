@@ -194,10 +194,10 @@ KEXA_COMMAND_INLINE bool Scan::takeVerb()
     if (Fault* fault = fail(nullptr, {}))
     {
         const std::string typed = narrow(text);
-        fault->message = found.candidates.empty()
-                             ? "Unknown command: " + typed
-                             : "Ambiguous command '" + typed +
-                                   "', could be: " + listOfNames(found.candidates);
+        fault->message =
+            found.candidates.empty()
+                ? "Unknown command: " + typed
+                : "Ambiguous command '" + typed + "', could be: " + listOfNames(found.candidates);
         fault->hint = found.candidates.empty() ? hintOfNames(verbs, text, false) : std::string();
     }
     ++m_next;
@@ -208,8 +208,8 @@ KEXA_COMMAND_INLINE void Scan::beginSubcommand(const Declaration& verb)
 {
     m_subcommand = &verb;
     m_inner = std::make_unique<Scan>(verb.command->state(), *m_files);
-    m_inner->take({m_arguments.begin() + static_cast<std::ptrdiff_t>(m_next) + 1,
-                   m_arguments.end()});
+    m_inner->take(
+        {m_arguments.begin() + static_cast<std::ptrdiff_t>(m_next) + 1, m_arguments.end()});
 }
 
 // Whether a positional argument takes part: not where an action is chosen that does not accept it.

@@ -8,9 +8,7 @@ inline namespace v1
 namespace detail
 {
 
-KEXA_COMMAND_INLINE void Scan::readOptionFiles()
-{
-}
+KEXA_COMMAND_INLINE void Scan::readOptionFiles() {}
 
 } // namespace detail
 } // namespace v1

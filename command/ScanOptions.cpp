@@ -3,9 +3,9 @@
 #include "Characters.h"
 #include "Hints.h"
 #include "Inline.h"
-#include "Scan.h"
 #include "kexa/command/detail/numbers.h"
 #include "kexa/option.h"
+#include "Scan.h"
 #include "text/Encoding.h"
 
 namespace kexa

@@ -15,8 +15,8 @@ inline namespace v1
 namespace detail
 {
 
-// After so many messages the parser is made anew. One message has some hundred characters, and making
-// a parser of 20 options costs as much as some ten failed lines.
+// After so many messages the parser is made anew. One message has some hundred characters, and
+// making a parser of 20 options costs as much as some ten failed lines.
 constexpr std::size_t failures_per_parser = 256;
 
 KEXA_COMMAND_INLINE void State::countFailure()

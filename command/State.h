@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "Definition.h"
-#include "NameTable.h"
 #include "kexa/parser.h"
+#include "NameTable.h"
 
 namespace kexa
 {

@@ -12,7 +12,7 @@ struct Settings
     std::optional<std::filesystem::path> output;
     std::vector<std::filesystem::path> paths;
 };
-static int work(const Settings& settings) { return settings.list ? 0 : 1; }
+static int work(const Settings& s) { std::printf("list=%d sum=%d verbose=%d mode=%d buffer=%u include=%zu", s.list, s.sum, s.verbose, (int)s.mode, s.buffer, s.include.size()); for (auto& i : s.include) std::printf("[%s]", i.c_str()); std::printf(" output=%s paths=", s.output ? s.output->string().c_str() : "-"); for (auto& p: s.paths) std::printf("[%s]", p.string().c_str()); std::printf("\n"); return 0; }
 int main(int argc, char** argv)
 {
     kexa::Command<Settings> command("filesum", "Lists and sums up files.");
