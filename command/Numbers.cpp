@@ -28,13 +28,16 @@ KEXA_COMMAND_INLINE std::string textOf(std::uint64_t value)
     return std::to_string(value);
 }
 
-// The fewest digits that read back to the same value.
+// The fewest digits that read back to the same value, as the library shows numbers: with an exponent
+// only where the magnitude is very small or large.
 KEXA_COMMAND_INLINE std::string textOf(double value)
 {
-    char text[32];
-    for (int digits = 1; digits <= std::numeric_limits<double>::max_digits10; ++digits)
+    char text[64];
+    const double magnitude = std::fabs(value);
+    const bool isPlain = value == 0 || (magnitude >= 1e-5 && magnitude < 1e16);
+    for (int digits = 0; digits <= 24; ++digits)
     {
-        std::snprintf(text, sizeof text, "%.*g", digits, value);
+        std::snprintf(text, sizeof text, isPlain ? "%.*f" : "%.*e", digits, value);
         if (std::strtod(text, nullptr) == value)
         {
             break;

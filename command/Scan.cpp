@@ -73,7 +73,7 @@ KEXA_COMMAND_INLINE void Scan::walk()
         ++m_next;
     }
     bool isBehindMarker = false;
-    while (m_next < m_arguments.size() && m_inner == nullptr)
+    while (m_next < m_arguments.size())
     {
         const bool mayBeOption = !isBehindMarker && !takesRest();
         if (mayBeOption && current().text == end_of_options)
@@ -210,6 +210,7 @@ KEXA_COMMAND_INLINE void Scan::beginSubcommand(const Declaration& verb)
     m_inner = std::make_unique<Scan>(verb.command->state(), *m_files);
     m_inner->take(
         {m_arguments.begin() + static_cast<std::ptrdiff_t>(m_next) + 1, m_arguments.end()});
+    m_next = m_arguments.size();
 }
 
 // Whether a positional argument takes part: not where an action is chosen that does not accept it.
