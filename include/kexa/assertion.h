@@ -2,6 +2,7 @@
 #ifndef KEXA_ASSERTION_H
 #define KEXA_ASSERTION_H
 
+#include <cstdlib>
 #include <stdexcept>
 
 namespace kexa_3_3
@@ -33,11 +34,17 @@ private:
     const char* m_function;
 };
 
-// Throws the AssertionFailure described by its arguments (see there).
+// Throws the AssertionFailure described by its arguments (see there). In a program that is compiled
+// without exceptions it ends the program.
 [[noreturn]] inline void raiseAssertion(const char* guard, const char* file, int line,
                                         const char* function)
 {
+#if defined(__cpp_exceptions) || defined(_CPPUNWIND)
     throw AssertionFailure(guard, file, line, function);
+#else
+    static_cast<void>(AssertionFailure(guard, file, line, function));
+    std::abort();
+#endif
 }
 
 } // namespace kexa_3_3

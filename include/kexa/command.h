@@ -6,4 +6,8 @@
 #include "kexa/command/run.h"
 #include "kexa/kexa.h"
 
+#if defined(KEXA_COMMAND_HEADER_ONLY)
+#include "kexa/command/header_only.h"
+#endif
+
 #endif

@@ -6,6 +6,7 @@
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
 #include <limits>
 #include <new>
@@ -91,7 +92,11 @@ inline void* allocate_block(std::size_t length)
         sizeof(shared_memory_t) + sizeof(block_header_t) + 2 * sizeof(wchar_t);
     if (length > std::numeric_limits<std::size_t>::max() - extra)
     {
+#if defined(__cpp_exceptions) || defined(_CPPUNWIND)
         throw std::bad_alloc();
+#else
+        std::abort();
+#endif
     }
     auto* const memory = new (::operator new(length + extra)) shared_memory_t(1);
     auto* const header = new (memory + 1) block_header_t(memory, length);

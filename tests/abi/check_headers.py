@@ -14,7 +14,10 @@ def main():
     parser.add_argument("--compiler", required=True)
     parser.add_argument("--include", required=True, help="the folder that holds kexa/kexa.h")
     arguments = parser.parse_args()
-    headers = sorted((pathlib.Path(arguments.include) / "kexa").glob("*.h"))
+    # The command layer, which uses far more of the standard library than the stand-ins have, is not
+    # part of the binary interface.
+    headers = sorted(header for header in (pathlib.Path(arguments.include) / "kexa").glob("*.h")
+                     if header.name != "command.h")
     failures = 0
     for standard in ["c++17", "c++20"]:
         for header in headers:

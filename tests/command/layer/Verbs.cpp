@@ -145,11 +145,11 @@ INSTANTIATE_TEST_SUITE_P(
                                              "Adds a remote.\n"
                                              "\n"
                                              "Arguments:\n"
-                                             "  name           Its name [required]\n"
+                                             "  name         Its name [required]\n"
                                              "\n"
                                              "Options:\n"
-                                             "  -f, --force    Even if it is there\n"
-                                             "  -h, --help     Show this help\n"},
+                                             "  -f, --force  Even if it is there\n"
+                                             "  -h, --help   Show this help\n"},
                     Row{"--help", "Usage: git [options] command ...\n"
                                   "\n"
                                   "Keeps versions.\n"
