@@ -28,8 +28,8 @@ KEXA_COMMAND_INLINE std::string textOf(std::uint64_t value)
     return std::to_string(value);
 }
 
-// The fewest digits that read back to the same value, as the library shows numbers: with an exponent
-// only where the magnitude is very small or large.
+// The fewest digits that read back to the same value, as the library shows numbers: with an
+// exponent only where the magnitude is very small or large.
 KEXA_COMMAND_INLINE std::string textOf(double value)
 {
     char text[64];

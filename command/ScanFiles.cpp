@@ -1,9 +1,9 @@
 #include <algorithm>
 
 #include "Inline.h"
-#include "Scan.h"
 #include "kexa/result.h"
 #include "platform/FileReading.h"
+#include "Scan.h"
 #include "text/Encoding.h"
 #include "text/OptionFileReading.h"
 
@@ -53,9 +53,9 @@ KEXA_COMMAND_INLINE void Scan::readOptionFiles()
         m_arguments.clear();
         for (const OptionFileArgument& argument : file.arguments)
         {
-            m_arguments.push_back({widen(argument.text),
-                                   {given.place.index, m_files->size(),
-                                    static_cast<int>(argument.line)}});
+            m_arguments.push_back(
+                {widen(argument.text),
+                 {given.place.index, m_files->size(), static_cast<int>(argument.line)}});
         }
         walk();
     }

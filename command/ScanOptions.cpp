@@ -63,7 +63,10 @@ KEXA_COMMAND_INLINE void Scan::takeOption(const Argument& argument)
     {
         return;
     }
-    if (definition.isPosix() && looksNegative(argument.text) && !m_state->positionals().empty())
+    // The parser takes what begins with a dash of word processors and names nothing for a text.
+    const bool isText = argument.text.front() != L'-' && !split.name.empty();
+    const bool isNumber = definition.isPosix() && looksNegative(argument.text);
+    if ((isText || isNumber) && !m_state->positionals().empty())
     {
         return takePlain(false);
     }

@@ -138,13 +138,19 @@ KEXA_COMMAND_INLINE void State::prepare()
     m_isPrepared = true;
 }
 
+// A parser that the program has declared options at is kept, and gets only what is new.
+KEXA_COMMAND_INLINE bool State::isRegistered(const Declaration& declaration) const
+{
+    const wchar_t* name = m_rawNames[declaration.index].c_str() + 2;
+    return m_parser->hasOption(name, true, nullptr) || m_parser->hasOption(name, false, nullptr);
+}
+
 KEXA_COMMAND_INLINE void State::makeParser()
 {
     using namespace kexa_3_3;
     if (!m_isShared)
     {
         m_parser.reset();
-        m_registered = 0;
         IParser* parser = nullptr;
         createParser(&parser, flag_unknown_is_error | flag_any_positional_after_marker |
                                   flag_no_hyphen_positional | flag_no_value_lists);
@@ -154,12 +160,11 @@ KEXA_COMMAND_INLINE void State::makeParser()
     m_failures = 0;
     for (const Declaration* declaration : m_all)
     {
-        if (declaration->kind != Kind::subcommand && declaration->index >= m_registered)
+        if (declaration->kind != Kind::subcommand && !(m_isShared && isRegistered(*declaration)))
         {
             registerOption(*declaration);
         }
     }
-    m_registered = m_all.size();
     for (const RelationOfOptions& relation : m_definition->relations)
     {
         if (relation.relation == Core::Relation::together)

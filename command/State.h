@@ -70,6 +70,7 @@ private:
     void addNames(const Declaration& declaration);
     void checkDeclarations() const;
     void makeParser();
+    bool isRegistered(const Declaration& declaration) const;
     void registerOption(const Declaration& declaration);
 
     Core* m_core;
@@ -77,7 +78,6 @@ private:
     bool m_isPrepared = false;
     bool m_isShared = false;
     std::size_t m_failures = 0;
-    std::size_t m_registered = 0; // how many declarations a shared parser has
     std::vector<const Declaration*> m_all;
     std::vector<const Declaration*> m_positionals;
     std::vector<std::wstring> m_rawNames;
