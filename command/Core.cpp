@@ -29,6 +29,14 @@ KEXA_COMMAND_INLINE Core::Core(std::string_view name, std::string_view summary,
     m_state = std::make_unique<State>(*this, *m_definition);
 }
 
+KEXA_COMMAND_INLINE std::shared_ptr<Core> Core::make(std::string_view name,
+                                                     std::string_view summary,
+                                                     StructOperations operations,
+                                                     void (*raise)(const std::string&))
+{
+    return std::make_shared<Core>(name, summary, operations, raise);
+}
+
 KEXA_COMMAND_INLINE Core::~Core()
 {
     m_definition->operations.destroy(m_definition->prototype);
@@ -96,20 +104,22 @@ KEXA_COMMAND_INLINE void Core::allow(Declaration& declaration, vexkit2::variant_
     m_state->invalidate();
 }
 
-KEXA_COMMAND_INLINE void Core::allowNames(Declaration& declaration,
-                                          const std::vector<std::string>& names,
-                                          std::unique_ptr<ValueTable> table) const
+KEXA_COMMAND_INLINE void Core::allowName(Declaration& declaration, ValueTable& table,
+                                         std::string_view name) const
 {
-    declaration.table = std::move(table);
-    for (const std::string& name : names)
+    if (name.empty() ||
+        std::find(table.names.begin(), table.names.end(), name) != table.names.end())
     {
-        if (name.empty() || std::count(names.begin(), names.end(), name) > 1)
-        {
-            misuseOf(*this, *m_definition, declaration,
-                     "the name '" + name + "' of a value is empty or given twice");
-        }
-        allow(declaration, vexkit2::variant_t(widen(name)));
+        misuseOf(*this, *m_definition, declaration,
+                 "the name '" + std::string(name) + "' of a value is empty or given twice");
     }
+    table.names.emplace_back(name);
+    allow(declaration, vexkit2::variant_t(widen(name)));
+}
+
+KEXA_COMMAND_INLINE void Core::addRule(Declaration& declaration, std::unique_ptr<Rule> rule) const
+{
+    declaration.rules.push_back(std::move(rule));
 }
 
 KEXA_COMMAND_INLINE void Core::replaceValue(Declaration& declaration, vexkit2::variant_t old,

@@ -1,5 +1,6 @@
 #include "kexa/command/detail/numbers.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cmath>
 #include <cstdio>
@@ -180,15 +181,49 @@ KEXA_COMMAND_INLINE void readNamed(const Input& input, void* element)
 
 KEXA_COMMAND_INLINE bool passesRules(Input& input, const void* element)
 {
-    for (const auto& rule : input.declaration->rules)
+    input.reason = refuseElement(*input.declaration, element);
+    return input.reason.empty();
+}
+
+KEXA_COMMAND_INLINE std::string refuseElement(const Declaration& declaration, const void* element)
+{
+    std::string reason;
+    for (const auto& rule : declaration.rules)
     {
-        input.reason = rule->refuse(element);
-        if (!input.reason.empty())
+        if (reason.empty())
         {
-            return false;
+            reason = rule->refuse(element);
         }
     }
-    return true;
+    return reason;
+}
+
+KEXA_COMMAND_INLINE void appendElement(std::vector<std::string>& texts,
+                                       const Declaration& declaration, const void* element,
+                                       std::string text)
+{
+    texts.push_back(declaration.table ? declaration.table->nameOf(element) : std::move(text));
+}
+
+KEXA_COMMAND_INLINE void ValueTable::read(std::string_view name, void* element) const
+{
+    const auto found = std::find(names.begin(), names.end(), name);
+    if (found != names.end())
+    {
+        copyTo(static_cast<std::size_t>(found - names.begin()), element);
+    }
+}
+
+KEXA_COMMAND_INLINE std::string ValueTable::nameOf(const void* element) const
+{
+    for (std::size_t i = 0; i < names.size(); ++i)
+    {
+        if (equals(i, element))
+        {
+            return names[i];
+        }
+    }
+    return std::string();
 }
 
 KEXA_COMMAND_INLINE bool splitPair(Input& input, std::wstring_view& key, std::wstring_view& value)

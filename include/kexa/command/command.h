@@ -28,15 +28,15 @@ public:
     // name:    of the program, or of the verb where this becomes a subcommand.
     // summary: one sentence for the help.
     explicit Command(std::string_view name, std::string_view summary = {})
-        : Section<Settings>(std::make_shared<detail::Core>(
-                                name, summary,
-                                detail::StructOperations{[]() -> void* { return new Settings(); },
-                                                         [](void* object)
-                                                         {
-                                                             delete static_cast<Settings*>(object);
-                                                         }},
-                                detail::raiseMisuse),
-                            0)
+        : Section<Settings>(
+              detail::Core::make(name, summary,
+                                 detail::StructOperations{[]() -> void* { return new Settings(); },
+                                                          [](void* object)
+                                                          {
+                                                              delete static_cast<Settings*>(object);
+                                                          }},
+                                 detail::raiseMisuse),
+              0)
     {
     }
     Command(const Command&) = delete;

@@ -93,7 +93,6 @@ public:
     template <class Range>
     Option& valuesOf(const Range& range)
     {
-        std::vector<std::string> names;
         if constexpr (std::is_constructible_v<std::string, decltype(*std::begin(range))>)
         {
             for (const auto& text : range)
@@ -104,14 +103,13 @@ public:
         }
         else
         {
-            std::vector<std::pair<std::string, Element>> pairs;
+            auto table = std::make_unique<detail::NamedValues<Element>>();
             for (const auto& [name, value] : range)
             {
-                names.emplace_back(name);
-                pairs.emplace_back(name, value);
+                m_core->allowName(*m_declaration, *table, name);
+                table->values.push_back(value);
             }
-            m_core->allowNames(*m_declaration, names,
-                               std::make_unique<detail::NamedValues<Element>>(std::move(pairs)));
+            m_declaration->table = std::move(table);
         }
         m_core->checkDefault(*m_declaration);
         return *this;
@@ -145,8 +143,8 @@ public:
     {
         m_declaration->lowest = detail::Element<Element>::text(lowest);
         m_declaration->highest = detail::Element<Element>::text(highest);
-        m_declaration->rules.push_back(
-            std::make_unique<detail::RangeRule<Element>>(std::move(lowest), std::move(highest)));
+        m_core->addRule(*m_declaration, std::make_unique<detail::RangeRule<Element>>(
+                                            std::move(lowest), std::move(highest)));
         m_core->checkDefault(*m_declaration);
         return *this;
     }
@@ -156,8 +154,8 @@ public:
     template <class Function>
     Option& check(Function function)
     {
-        m_declaration->rules.push_back(
-            std::make_unique<detail::FunctionRule<Element, Function>>(std::move(function)));
+        m_core->addRule(*m_declaration, std::make_unique<detail::FunctionRule<Element, Function>>(
+                                            std::move(function)));
         return *this;
     }
 

@@ -44,6 +44,9 @@ public:
     // raise: called with the text that names the wrong declaration; does not return.
     Core(std::string_view name, std::string_view summary, StructOperations operations,
          void (*raise)(const std::string& text));
+    static std::shared_ptr<Core> make(std::string_view name, std::string_view summary,
+                                      StructOperations operations,
+                                      void (*raise)(const std::string& text));
     Core(const Core&) = delete;
     Core& operator=(const Core&) = delete;
     ~Core();
@@ -57,8 +60,8 @@ public:
     // Checks what depends on several parts of a declaration; called after each change of one.
     void checkDefault(const Declaration& declaration) const;
     void allow(Declaration& declaration, vexkit2::variant_t value) const;
-    void allowNames(Declaration& declaration, const std::vector<std::string>& names,
-                    std::unique_ptr<ValueTable> table) const;
+    void allowName(Declaration& declaration, ValueTable& table, std::string_view name) const;
+    void addRule(Declaration& declaration, std::unique_ptr<Rule> rule) const;
     void replaceValue(Declaration& declaration, vexkit2::variant_t old,
                       vexkit2::variant_t replacement) const;
     void replaceValue(Declaration& declaration, std::string_view old,

@@ -48,7 +48,7 @@ public:
     virtual std::string refuse(const void* object) const = 0;
 };
 
-// Names for values.
+// Values that are given by name.
 class ValueTable
 {
 public:
@@ -57,11 +57,17 @@ public:
     ValueTable& operator=(const ValueTable&) = delete;
     virtual ~ValueTable() = default;
 
-    // Copies the value of a declared name into an element. Precondition: the name is in the table.
-    virtual void read(std::string_view name, void* element) const = 0;
+    // Copies the value of a name that is in the table into an element.
+    void read(std::string_view name, void* element) const;
 
     // Returns the name of an element's value, empty where it has none.
-    virtual std::string nameOf(const void* element) const = 0;
+    std::string nameOf(const void* element) const;
+
+    std::vector<std::string> names;
+
+protected:
+    virtual void copyTo(std::size_t index, void* element) const = 0;
+    virtual bool equals(std::size_t index, const void* element) const = 0;
 };
 
 // What the layer does with members of one type. One static table for each type.
@@ -141,6 +147,13 @@ struct Declaration
                table == nullptr;
     }
 };
+
+// Returns why the option's rules refuse an element; empty where none does.
+std::string refuseElement(const Declaration& declaration, const void* element);
+
+// Appends the text of an element: its name where the option has a table.
+void appendElement(std::vector<std::string>& texts, const Declaration& declaration,
+                   const void* element, std::string text);
 
 } // namespace detail
 } // namespace v1

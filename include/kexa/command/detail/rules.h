@@ -83,35 +83,17 @@ template <class T>
 class NamedValues final : public ValueTable
 {
 public:
-    explicit NamedValues(std::vector<std::pair<std::string, T>> values)
-        : m_values(std::move(values))
-    {
-    }
-    void read(std::string_view name, void* element) const override
-    {
-        for (const auto& [known, value] : m_values)
-        {
-            if (known == name)
-            {
-                *static_cast<T*>(element) = value;
-                return;
-            }
-        }
-    }
-    std::string nameOf(const void* element) const override
-    {
-        for (const auto& [known, value] : m_values)
-        {
-            if (value == *static_cast<const T*>(element))
-            {
-                return known;
-            }
-        }
-        return std::string();
-    }
+    std::vector<T> values; // as many as names
 
-private:
-    std::vector<std::pair<std::string, T>> m_values;
+protected:
+    void copyTo(std::size_t index, void* element) const override
+    {
+        *static_cast<T*>(element) = values[index];
+    }
+    bool equals(std::size_t index, const void* element) const override
+    {
+        return values[index] == *static_cast<const T*>(element);
+    }
 };
 
 } // namespace detail
