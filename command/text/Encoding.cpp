@@ -38,7 +38,7 @@ KEXA_COMMAND_LOCAL bool isContinuationByte(char byte) noexcept
 }
 
 // The three bytes of a surrogate, which no well-formed UTF-8 has.
-KEXA_COMMAND_LOCAL bool beginsWithSurrogate(std::string_view text) noexcept
+[[maybe_unused]] KEXA_COMMAND_LOCAL bool beginsWithSurrogate(std::string_view text) noexcept
 {
     return text.size() >= 3 && text[0] == '\xED' && static_cast<unsigned char>(text[1]) >= 0xA0 &&
            isContinuationByte(text[1]) && isContinuationByte(text[2]);

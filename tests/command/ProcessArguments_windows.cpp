@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/Windows.h"
+#include "ChildProgram_windows.h"
 #include "text/Encoding.h"
 
 using namespace kexa::detail;
@@ -11,27 +11,7 @@ using namespace kexa::detail;
 namespace
 {
 
-// The program argument_reader, which is built beside this one.
-std::wstring readerName()
-{
-    std::wstring name(1000, L'\0');
-    name.resize(::GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size())));
-    return name.substr(0, name.find_last_of(L'\\') + 1) + L"argument_reader.exe";
-}
-
-std::string readAll(HANDLE pipe)
-{
-    std::string bytes;
-    char buffer[1000];
-    DWORD count = 0;
-    while (::ReadFile(pipe, buffer, sizeof buffer, &count, nullptr) != FALSE && count != 0)
-    {
-        bytes.append(buffer, count);
-    }
-    return bytes;
-}
-
-// What the program writes when it is started with a command line that ends so.
+// What argument_reader writes when it is started with a command line that ends so.
 std::string outputOf(const std::wstring& arguments)
 {
     SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
@@ -45,20 +25,14 @@ std::string outputOf(const std::wstring& arguments)
     startup.hStdOutput = writeEnd;
     startup.hStdError = ::GetStdHandle(STD_ERROR_HANDLE);
     PROCESS_INFORMATION process = {};
-    const std::wstring name = readerName();
+    const std::wstring name = programBeside(L"argument_reader.exe");
     std::wstring line = L"\"" + name + L"\" " + arguments;
     EXPECT_NE(::CreateProcessW(name.c_str(), line.data(), nullptr, nullptr, TRUE, 0, nullptr,
                                nullptr, &startup, &process),
               FALSE);
     ::CloseHandle(writeEnd);
-    const std::string output = readAll(readEnd);
-    ::CloseHandle(readEnd);
-    ::WaitForSingleObject(process.hProcess, INFINITE);
-    DWORD code = 1;
-    ::GetExitCodeProcess(process.hProcess, &code);
-    EXPECT_EQ(code, 0U);
-    ::CloseHandle(process.hThread);
-    ::CloseHandle(process.hProcess);
+    const std::string output = readToEnd(readEnd);
+    EXPECT_EQ(exitCodeOf(process), 0U);
     return output;
 }
 
