@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "../../../command/text/LineSplitting.h"
 #include "PosixRows.h"
+#include "text/LineSplitting.h"
 
 namespace
 {
