@@ -16,11 +16,11 @@ inline namespace v1
 namespace detail
 {
 
-KEXA_COMMAND_INLINE Binder::Binder(const Definition& definition, const std::vector<Given>& givens,
+KEXA_COMMAND_INLINE Binder::Binder(const std::vector<Given>& givens,
                                    const std::vector<std::string>& files, Source source,
                                    void* object, Outcome& outcome)
-    : m_definition(definition), m_givens(givens), m_files(files), m_source(source),
-      m_object(static_cast<char*>(object)), m_outcome(outcome)
+    : m_givens(givens), m_files(files), m_source(source), m_object(static_cast<char*>(object)),
+      m_outcome(outcome)
 {
 }
 

@@ -26,8 +26,8 @@ class Binder final : public kexa_3_3::EventHandler
 public:
     // givens: in the order in which the parser gets them; must outlive the binder.
     // object: the struct.
-    Binder(const Definition& definition, const std::vector<Given>& givens,
-           const std::vector<std::string>& files, Source source, void* object, Outcome& outcome);
+    Binder(const std::vector<Given>& givens, const std::vector<std::string>& files, Source source,
+           void* object, Outcome& outcome);
 
     bool onOptionParsed(const wchar_t* name) override;
     bool onValueParsed(const wchar_t* name, const kexa_3_3::ValueRecord* record) override;
@@ -46,7 +46,6 @@ private:
     void note(const Given& given, std::string value);
     void noteSource(const Declaration& declaration);
 
-    const Definition& m_definition;
     const std::vector<Given>& m_givens;
     const std::vector<std::string>& m_files;
     Source m_source;
