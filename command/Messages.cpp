@@ -124,6 +124,12 @@ KEXA_COMMAND_INLINE void setFault(Outcome& outcome, int code, std::wstring messa
         message = widen(fault.message);
         code = fault.code;
     }
+    else if (code == 0)
+    {
+        // The parser knows an option that the program has declared at it, and the layer does not.
+        message = L"Unknown option: " + fault.typed;
+        code = fault.code;
+    }
     else if (!fault.raw.empty())
     {
         quoteAsTyped(message, fault.raw.front(), fault.typed);
