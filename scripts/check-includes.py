@@ -7,6 +7,8 @@ import sys
 
 BELOW = {
     "kexa": [],
+    "command": ["kexa"],
+    "detail": ["kexa"],
     "support": ["kexa"],
     "options": ["support", "kexa"],
     "result": ["options", "support", "kexa"],

@@ -56,7 +56,7 @@ check_format()
 
 packages=(
     cmake ninja-build g++ clang clang-format libclang-rt-dev llvm git python3 binutils diffutils
-    valgrind libgtest-dev libgmock-dev googletest zlib1g-dev
+    valgrind libgtest-dev libgmock-dev googletest zlib1g-dev unicode-data
     g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64 wine64-preloader)
 if [[ " ${steps[*]} " == *" bench"* ]]; then
     mapfile -t -O "${#packages[@]}" packages <benchmarks/packages.txt

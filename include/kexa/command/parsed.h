@@ -1,0 +1,130 @@
+// What a parse returns: the struct, or why there is none.
+#ifndef KEXA_COMMAND_PARSED_H
+#define KEXA_COMMAND_PARSED_H
+
+#include <cassert>
+#include <cstddef>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "kexa/command/detail/outcome.h"
+
+namespace kexa
+{
+inline namespace v1
+{
+
+#if KEXA_COMMAND_EXCEPTIONS
+// What valueOrThrow() throws. what() is the message.
+class ParseFailure : public std::runtime_error
+{
+public:
+    explicit ParseFailure(Error error)
+        : std::runtime_error(error.message), m_error(std::move(error))
+    {
+    }
+    const Error& error() const noexcept { return m_error; }
+
+private:
+    Error m_error;
+};
+#endif
+
+template <class Settings>
+class Parsed
+{
+public:
+    // True where there is a struct: the line was right, and asked for no help.
+    explicit operator bool() const noexcept { return m_outcome.status == Status::success; }
+    Status status() const noexcept { return m_outcome.status; }
+
+    // The struct. Precondition: *this is true.
+    const Settings& operator*() const noexcept { return value(); }
+    const Settings* operator->() const noexcept { return &value(); }
+    const Settings& value() const noexcept
+    {
+        assert(*this);
+        return m_settings;
+    }
+    Settings& value() noexcept
+    {
+        assert(*this);
+        return m_settings;
+    }
+
+    // Precondition: status() is Status::error.
+    const Error& error() const noexcept
+    {
+        assert(status() == Status::error);
+        return m_outcome.error;
+    }
+
+    // The text of the help or of the version where the line asked for it; else empty.
+    const std::string& text() const noexcept { return m_outcome.text; }
+
+#if KEXA_COMMAND_EXCEPTIONS
+    // Returns the struct. Throws ParseFailure where there is none; where help or the version was
+    // asked for, its code is 0 and its message that text.
+    Settings& valueOrThrow() &
+    {
+        if (*this)
+        {
+            return m_settings;
+        }
+        Error error = m_outcome.error;
+        if (status() != Status::error)
+        {
+            error.message = m_outcome.text;
+        }
+        throw ParseFailure(std::move(error));
+    }
+    Settings valueOrThrow() &&
+    {
+        return std::move(valueOrThrow());
+    }
+#endif
+
+    // Where a member's value comes from. A second pointer names a member of a nested struct, as in
+    // source(&Settings::selection, &Selection::size).
+    template <class Base, class Member>
+    Source source(Member Base::*member) const
+    {
+        return m_outcome.sourceOf(offsetOf(&(m_settings.*member)));
+    }
+    template <class Base, class Middle, class Inner, class Member>
+    Source source(Middle Base::*middle, Member Inner::*member) const
+    {
+        return m_outcome.sourceOf(offsetOf(&(m_settings.*middle.*member)));
+    }
+
+    // Every value that was given, in the order of the command line.
+    const std::vector<Occurrence>& occurrences() const noexcept
+    {
+        return m_outcome.occurrences;
+    }
+
+    const detail::Outcome& outcome() const noexcept
+    {
+        return m_outcome;
+    }
+
+private:
+    template <class>
+    friend class Command;
+
+    std::size_t offsetOf(const void* member) const noexcept
+    {
+        return static_cast<std::size_t>(static_cast<const char*>(member) -
+                                        reinterpret_cast<const char*>(&m_settings));
+    }
+
+    Settings m_settings{};
+    detail::Outcome m_outcome;
+};
+
+} // namespace v1
+} // namespace kexa
+
+#endif
