@@ -1,50 +1,50 @@
 // The positions and values of one option.
 #include "result/Occurrences.h"
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
-#include <limits>
+#include <memory_resource>
 #include <new>
-#include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
 
-#include "support/Arena.h"
-
 namespace
 {
 
-using kexa_3_3::Arena;
 using kexa_3_3::Occurrence;
 using kexa_3_3::Occurrences;
+using vexkit2::variant_t;
 
 using Positions = std::vector<std::int32_t>;
 
+Occurrence make(std::int32_t number, bool isPosition, bool isValue)
+{
+    Occurrence made;
+    made.position = number;
+    made.isPosition = isPosition;
+    made.isValue = isValue;
+    return made;
+}
 Occurrence position(std::int32_t number)
 {
-    return {.position = number, .parts = Occurrence::position_part};
+    return make(number, true, false);
 }
 Occurrence value(std::int32_t number)
 {
-    return {.position = number, .parts = Occurrence::value_part};
+    return make(number, false, true);
 }
 Occurrence both(std::int32_t number)
 {
-    return {.position = number, .parts = Occurrence::both_parts};
+    return make(number, true, true);
 }
 
-void add(Occurrences& occurrences, const Occurrence& occurrence, Arena& arena)
-{
-    occurrences.reserveMore(1, arena);
-    occurrences.append(occurrence);
-}
-
-// What is left from a place on, by one of the ways to step.
+// What follows a place, by one of the ways to step.
 using Step = const Occurrence* (Occurrences::*)(Occurrences::Place&) const;
-Positions from(const Occurrences& occurrences, Occurrences::Place place, Step step)
+Positions from(const Occurrences& occurrences, Occurrences::Place place,
+               Step step = &Occurrences::next)
 {
     Positions positions;
     while (const Occurrence* const occurrence = (occurrences.*step)(place))
@@ -56,16 +56,9 @@ Positions from(const Occurrences& occurrences, Occurrences::Place place, Step st
 }
 Positions allOf(const Occurrences& occurrences)
 {
-    Occurrences::Place place = occurrences.begin();
-    for (bool ended = false; !ended;)
-    {
-        const bool saysSo = occurrences.isEnd(place);
-        ended = occurrences.next(place) == nullptr;
-        EXPECT_EQ(saysSo, ended);
-    }
-    return from(occurrences, occurrences.begin(), &Occurrences::next);
+    return from(occurrences, occurrences.begin());
 }
-Positions upTo(std::int32_t end, std::int32_t first = 0)
+Positions range(std::int32_t first, std::int32_t end)
 {
     Positions positions;
     for (std::int32_t number = first; number < end; ++number)
@@ -75,103 +68,49 @@ Positions upTo(std::int32_t end, std::int32_t first = 0)
     return positions;
 }
 
-// An arena that tells whether anything was taken from it.
-class WatchedArena
+class OccurrencesTest : public testing::Test
 {
-public:
-    [[nodiscard]] Arena& arena() noexcept { return m_arena; }
-    // To be asked once.
-    [[nodiscard]] bool isUntouched() { return m_arena.take(1, 1) == m_memory.data(); }
+protected:
+    void fill(Occurrences& list, std::int32_t first, std::int32_t end)
+    {
+        for (std::int32_t number = first; number < end; ++number)
+        {
+            list.append(both(number));
+        }
+    }
 
-private:
-    std::array<std::byte, 4096> m_memory = {};
-    Arena m_arena{std::span(m_memory)};
+    std::pmr::memory_resource& memory = *std::pmr::new_delete_resource();
+    Occurrences occurrences{memory};
 };
 
-TEST(Occurrences, NewListIsEmpty)
+TEST_F(OccurrencesTest, NewListIsEmpty)
 {
-    const Occurrences occurrences;
     EXPECT_EQ(occurrences.size(), 0U);
     EXPECT_FALSE(occurrences.hasPositions());
     EXPECT_FALSE(occurrences.hasValues());
     EXPECT_EQ(allOf(occurrences), Positions());
-    EXPECT_EQ(from(occurrences, occurrences.end(), &Occurrences::next), Positions());
-    EXPECT_EQ(from(occurrences, occurrences.placeOf(0), &Occurrences::nextValue), Positions());
+    EXPECT_EQ(from(occurrences, occurrences.end()), Positions());
 }
 
-TEST(Occurrences, FirstOneTakesNoMemory)
+TEST_F(OccurrencesTest, AreWalkedInTheOrderOfAppending)
 {
-    WatchedArena memory;
-    Occurrences occurrences;
-    occurrences.reserveMore(0, memory.arena());
-    add(occurrences, both(7), memory.arena());
-    EXPECT_TRUE(memory.isUntouched());
-    EXPECT_EQ(allOf(occurrences), Positions{7});
-
-    WatchedArena another;
-    add(occurrences, both(8), another.arena());
-    EXPECT_FALSE(another.isUntouched());
-}
-
-TEST(Occurrences, FirstOneIsToldOnceItIsThere)
-{
-    Arena arena(64);
-    Occurrences occurrences;
-    EXPECT_EQ(occurrences.first(), nullptr);
-    occurrences.reserveMore(3, arena);
-    EXPECT_EQ(occurrences.first(), nullptr);
-    add(occurrences, value(7), arena);
-    const Occurrence* const first = occurrences.first();
-    ASSERT_NE(first, nullptr);
-    EXPECT_EQ(first->position, 7);
-    for (std::int32_t number = 8; number < 20; ++number)
+    for (const std::int32_t number : {7, 3, 3, 9})
     {
-        add(occurrences, both(number), arena);
-        EXPECT_EQ(occurrences.first(), first);
+        occurrences.append(both(number));
     }
+    EXPECT_EQ(occurrences.size(), 4U);
+    EXPECT_EQ(allOf(occurrences), (Positions{7, 3, 3, 9}));
 }
 
-TEST(Occurrences, PlaceBehindTheFirstIsThatOfTheSecond)
-{
-    Arena arena(64);
-    Occurrences occurrences;
-    add(occurrences, both(0), arena);
-    const Occurrences::Place place = occurrences.behindFirst();
-    for (std::int32_t count = 1; count < 20; ++count)
-    {
-        EXPECT_EQ(from(occurrences, place, &Occurrences::next), upTo(count, 1));
-        EXPECT_EQ(from(occurrences, occurrences.behindFirst(), &Occurrences::nextValue),
-                  upTo(count, 1));
-        add(occurrences, both(count), arena);
-    }
-}
-
-TEST(Occurrences, KeepTheOrderOverManyPieces)
-{
-    constexpr std::int32_t count = 20000; // several pieces of the largest size
-    Arena arena(64);
-    Occurrences occurrences;
-    for (std::int32_t number = 0; number < count; ++number)
-    {
-        add(occurrences, both(number), arena);
-        ASSERT_EQ(occurrences.size(), static_cast<std::size_t>(number) + 1);
-    }
-    EXPECT_EQ(allOf(occurrences), upTo(count));
-    EXPECT_EQ(from(occurrences, occurrences.begin(), &Occurrences::nextValue), upTo(count));
-    EXPECT_EQ(from(occurrences, occurrences.begin(), &Occurrences::nextPosition), upTo(count));
-}
-
-// Every list of some hundred is looked at from every place that it ever had.
-TEST(Occurrences, PlacesStayGoodWhileTheListGrows)
+TEST_F(OccurrencesTest, PlacesStayValidWhileTheListGrows)
 {
     constexpr std::int32_t count = 300;
-    Arena arena(64);
-    Occurrences occurrences;
     std::vector<Occurrences::Place> ends = {occurrences.end()};
     std::vector<const Occurrence*> entries;
     for (std::int32_t number = 0; number < count; ++number)
     {
-        add(occurrences, both(number), arena);
+        EXPECT_EQ(from(occurrences, ends.back()), Positions());
+        occurrences.append(both(number));
         Occurrences::Place place = ends.back();
         entries.push_back(occurrences.next(place));
         ASSERT_NE(entries.back(), nullptr) << number;
@@ -180,67 +119,37 @@ TEST(Occurrences, PlacesStayGoodWhileTheListGrows)
     for (std::int32_t number = 0; number <= count; ++number)
     {
         const auto index = static_cast<std::size_t>(number);
-        ASSERT_EQ(from(occurrences, ends[index], &Occurrences::next), upTo(count, number));
+        ASSERT_EQ(from(occurrences, ends[index]), range(number, count));
         if (number < count)
         {
             Occurrences::Place place = ends[index];
             ASSERT_EQ(occurrences.next(place), entries[index]) << "moved: " << number;
-            ASSERT_EQ(entries[index]->position, number);
         }
     }
 }
 
-TEST(Occurrences, EveryIndexHasItsPlace)
+TEST_F(OccurrencesTest, PlaceBehindACountIsFollowedByTheRest)
 {
-    Arena arena(64);
-    Occurrences occurrences;
-    for (std::int32_t count = 0; count < 200; ++count)
+    fill(occurrences, 0, 10);
+    for (std::int32_t number = 0; number <= 10; ++number)
     {
-        for (std::int32_t number = 0; number <= count; ++number)
-        {
-            ASSERT_EQ(from(occurrences, occurrences.placeOf(static_cast<std::size_t>(number)),
-                           &Occurrences::next),
-                      upTo(count, number))
-                << number << " of " << count;
-        }
-        add(occurrences, both(count), arena);
+        EXPECT_EQ(from(occurrences, occurrences.placeBehind(static_cast<std::size_t>(number))),
+                  range(number, 10));
     }
 }
 
-TEST(Occurrences, PlaceOfTheEndIsThatOfWhatComesNext)
+TEST_F(OccurrencesTest, PositionsAndValuesAreWalkedApart)
 {
-    Arena arena(64);
-    Occurrences occurrences;
-    for (std::int32_t number = 0; number < 100; ++number)
-    {
-        Occurrences::Place byIndex = occurrences.placeOf(static_cast<std::size_t>(number));
-        Occurrences::Place byEnd = occurrences.end();
-        ASSERT_EQ(occurrences.next(byIndex), nullptr);
-        ASSERT_EQ(occurrences.next(byEnd), nullptr);
-        add(occurrences, both(number), arena);
-        const Occurrence* const added = occurrences.next(byIndex);
-        ASSERT_NE(added, nullptr);
-        EXPECT_EQ(added->position, number);
-        EXPECT_EQ(occurrences.next(byEnd), added);
-    }
-}
-
-TEST(Occurrences, PositionsAndValuesAreWalkedApart)
-{
-    Arena arena(64);
-    Occurrences occurrences;
     Positions all;
     Positions positions;
     Positions values;
-    for (std::int32_t number = 0; number < 1000; ++number)
+    for (std::int32_t number = 0; number < 60; ++number)
     {
-        // Stretches of each kind that reach over whole pieces, and all kinds in turn.
-        const std::int32_t kind = (number < 400 ? number : number / 100) % 3;
-        add(occurrences,
-            kind == 0   ? position(number)
-            : kind == 1 ? value(number)
-                        : both(number),
-            arena);
+        // Each kind by turns, then several of a kind in a row.
+        const std::int32_t kind = (number < 30 ? number : number / 10) % 3;
+        occurrences.append(kind == 0   ? position(number)
+                           : kind == 1 ? value(number)
+                                       : both(number));
         all.push_back(number);
         if (kind != 1)
         {
@@ -256,7 +165,7 @@ TEST(Occurrences, PositionsAndValuesAreWalkedApart)
     EXPECT_EQ(from(occurrences, occurrences.begin(), &Occurrences::nextValue), values);
 }
 
-TEST(Occurrences, TellWhetherThereArePositionsAndValues)
+TEST_F(OccurrencesTest, ListHasPositionsAndValuesIfOneOccurrenceHas)
 {
     const struct
     {
@@ -270,101 +179,95 @@ TEST(Occurrences, TellWhetherThereArePositionsAndValues)
                 {{value(1), position(2)}, true, true}};
     for (const auto& row : rows)
     {
-        Arena arena(64);
-        Occurrences occurrences;
+        Occurrences appended(memory);
+        Occurrences list(memory);
         for (const Occurrence& occurrence : row.added)
         {
-            add(occurrences, occurrence, arena);
+            list.append(Occurrence(occurrence));
         }
-        EXPECT_EQ(occurrences.hasPositions(), row.hasPositions);
-        EXPECT_EQ(occurrences.hasValues(), row.hasValues);
+        EXPECT_EQ(list.hasPositions(), row.hasPositions);
+        EXPECT_EQ(list.hasValues(), row.hasValues);
+        appended.append(std::move(list));
+        EXPECT_EQ(appended.hasPositions(), row.hasPositions);
+        EXPECT_EQ(appended.hasValues(), row.hasValues);
     }
 }
 
-// Rooms of all sizes, asked for ahead: what is left of one is used before the next.
-TEST(Occurrences, RoomMadeOnceSufficesForAll)
+TEST_F(OccurrencesTest, AnotherListIsAppendedBehindTheOwnOnes)
 {
-    for (const std::size_t first : {1U, 2U, 3U, 5U, 40U, 5000U})
+    for (const std::int32_t own : {0, 1, 5})
     {
-        for (const std::size_t second : {0U, 1U, 7U, 100U, 6000U})
+        for (const std::int32_t others : {0, 1, 5})
         {
-            SCOPED_TRACE(std::to_string(first) + ", then " + std::to_string(second));
-            Arena arena(64);
-            Occurrences occurrences;
-            occurrences.reserveMore(first, arena);
-            std::int32_t number = 0;
-            // Half of them, so that the second room is asked for while the first one lasts.
-            for (std::size_t half = (first + 1) / 2; half != 0; --half)
-            {
-                occurrences.append(both(number++));
-            }
-            occurrences.reserveMore(second, arena);
-            for (std::size_t left = second; left != 0; --left)
-            {
-                occurrences.append(both(number++));
-            }
-            add(occurrences, both(number++), arena);
-            EXPECT_EQ(occurrences.size(), static_cast<std::size_t>(number));
-            EXPECT_EQ(allOf(occurrences), upTo(number));
+            SCOPED_TRACE(std::to_string(own) + " and " + std::to_string(others));
+            Occurrences list(memory);
+            Occurrences other(memory);
+            fill(list, 0, own);
+            fill(other, own, own + others);
+            const Occurrences::Place end = list.end();
+            list.append(std::move(other));
+            EXPECT_EQ(from(list, end), range(own, own + others));
+            list.append(both(own + others));
+            EXPECT_EQ(allOf(list), range(0, own + others + 1));
+            EXPECT_EQ(list.size(), static_cast<std::size_t>(own + others + 1));
         }
     }
 }
 
-// Room may be made twice before it is used: the pieces behind the last occurrence are empty.
-TEST(Occurrences, RoomThatIsNotUsedYetIsNotSeen)
+TEST_F(OccurrencesTest, CopyGrowsByItself)
 {
-    Arena arena(64);
-    Occurrences occurrences;
-    occurrences.reserveMore(3, arena);
-    occurrences.reserveMore(100, arena);
-    for (std::int32_t count = 0; count < 100; ++count)
-    {
-        ASSERT_EQ(allOf(occurrences), upTo(count));
-        Occurrences::Place byIndex = occurrences.placeOf(occurrences.size());
-        Occurrences::Place byEnd = occurrences.end();
-        ASSERT_EQ(occurrences.next(byIndex), nullptr);
-        ASSERT_EQ(occurrences.next(byEnd), nullptr);
-        occurrences.append(both(count));
-        ASSERT_EQ(from(occurrences, byIndex, &Occurrences::next), Positions{count});
-        ASSERT_EQ(from(occurrences, byEnd, &Occurrences::next), Positions{count});
-    }
+    fill(occurrences, 0, 3);
+    Occurrences copy(occurrences);
+    occurrences.append(both(3));
+    copy.append(both(4));
+    EXPECT_EQ(allOf(occurrences), (Positions{0, 1, 2, 3}));
+    EXPECT_EQ(allOf(copy), (Positions{0, 1, 2, 4}));
+    EXPECT_TRUE(copy.hasValues());
 }
 
-TEST(Occurrences, RoomThatIsThereIsNotMadeAgain)
+// Changes a counter when it is destroyed.
+class Watched final : public vexkit2::polymorphic_t
 {
-    Arena arena(64);
-    Occurrences occurrences;
-    occurrences.reserveMore(50, arena);
-    WatchedArena memory;
-    occurrences.reserveMore(50, memory.arena());
-    for (std::int32_t number = 0; number < 50; ++number)
+public:
+    explicit Watched(int& destroyed) : m_destroyed(destroyed) {}
+    Watched(const Watched&) = delete;
+    Watched& operator=(const Watched&) = delete;
+    ~Watched() override { ++m_destroyed; }
+
+private:
+    int& m_destroyed;
+};
+
+TEST_F(OccurrencesTest, ListOwnsTheValues)
+{
+    int destroyed = 0;
     {
-        add(occurrences, both(number), memory.arena());
+        Occurrences list(memory);
+        Occurrences other(memory);
+        for (Occurrences* const target : {&list, &list, &other})
+        {
+            Occurrence occurrence = value(0);
+            occurrence.value = variant_t::object(new Watched(destroyed));
+            target->append(std::move(occurrence));
+        }
+        list.append(std::move(other));
+        const Occurrences copy(list); // shares the objects
+        EXPECT_EQ(copy.size(), 3U);
+        EXPECT_EQ(destroyed, 0);
     }
-    EXPECT_TRUE(memory.isUntouched());
-    EXPECT_EQ(allOf(occurrences), upTo(50));
+    EXPECT_EQ(destroyed, 3);
 }
 
-TEST(Occurrences, RoomThatCannotBeMadeChangesNothing)
+TEST(Occurrences, AppendingWithoutMemoryChangesNothing)
 {
-    Arena arena(64);
-    Occurrences occurrences;
-    add(occurrences, both(0), arena);
-    add(occurrences, both(1), arena);
-    const std::size_t tooMany[] = {(std::size_t{1} << 32) + 8, std::size_t{1} << 60,
-                                   std::numeric_limits<std::size_t>::max() / sizeof(Occurrence),
-                                   std::numeric_limits<std::size_t>::max()};
-    for (const std::size_t count : tooMany)
-    {
-        EXPECT_THROW(occurrences.reserveMore(count, arena), std::bad_alloc) << count;
-        EXPECT_EQ(occurrences.size(), 2U);
-        EXPECT_EQ(allOf(occurrences), upTo(2));
-    }
-    for (std::int32_t number = 2; number < 40; ++number)
-    {
-        add(occurrences, both(number), arena);
-    }
-    EXPECT_EQ(allOf(occurrences), upTo(40));
+    Occurrences occurrences(*std::pmr::null_memory_resource());
+    Occurrence added = both(7);
+    added.value = variant_t(L"text");
+    EXPECT_THROW(occurrences.append(std::move(added)), std::bad_alloc);
+    EXPECT_EQ(added.value, variant_t(L"text"));
+    EXPECT_EQ(occurrences.size(), 0U);
+    EXPECT_FALSE(occurrences.hasPositions());
+    EXPECT_EQ(allOf(occurrences), Positions());
 }
 
 } // namespace
