@@ -36,13 +36,14 @@ void OptionResultTable::store(const OptionDescription& option, OptionResult& rec
     assert(!option.names.empty());
     Occurrences added = makeOccurrences(record);
     std::optional<Occurrence> byDefault = makeDefault(record);
+    const bool isFirst = m_names.find(option.names.front()) == nullptr;
     StoredOption* const shared = sharedRecord(option);
     if (shared == nullptr)
     {
         storeApart(option, added);
         return;
     }
-    if (shared->empty())
+    if (isFirst)
     {
         shared->byDefault = std::move(byDefault);
     }
@@ -54,13 +55,14 @@ void OptionResultTable::storeValue(const OptionDescription& option, ValueEntry& 
     assert(!option.names.empty());
     Occurrence occurrence = makeOccurrence(value);
     occurrence.isPosition = true;
-    if (StoredOption* const shared = sharedRecord(option))
-    {
-        shared->occurrences.append(std::move(occurrence));
-        return;
-    }
+    // Allocated before a record is made: where there is no memory, the option stays unknown.
     Occurrences added(m_strings.memory());
     added.append(std::move(occurrence));
+    if (StoredOption* const shared = sharedRecord(option))
+    {
+        shared->occurrences.append(std::move(added));
+        return;
+    }
     storeApart(option, added);
 }
 
