@@ -36,6 +36,16 @@ RegisteredOptionStorage::RegisteredOptionStorage(Garbage& owner, wchar_t default
 {
 }
 
+RegisteredOptionStorage::~RegisteredOptionStorage()
+{
+    // The order in which a deque destroys its elements is unspecified, and differs between
+    // libraries.
+    while (!m_options.empty())
+    {
+        m_options.pop_front();
+    }
+}
+
 const Registration& RegisteredOptionStorage::registerOption(const wchar_t* names,
                                                             const wchar_t* keywords,
                                                             const wchar_t* description,

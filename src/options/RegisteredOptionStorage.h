@@ -28,7 +28,7 @@ public:
     // defaultSeparator: given to every new option.
     // Throws std::bad_alloc.
     RegisteredOptionStorage(Garbage& owner, wchar_t defaultSeparator);
-    ~RegisteredOptionStorage() = default;
+    ~RegisteredOptionStorage(); // frees the options in the order of their declaration
     RegisteredOptionStorage(const RegisteredOptionStorage&) = delete;
     RegisteredOptionStorage& operator=(const RegisteredOptionStorage&) = delete;
 

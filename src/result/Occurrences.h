@@ -74,11 +74,16 @@ public:
         }
     }
 
-    // Moves all that another list holds to the end of this one. Precondition: reserveMore() made
-    // room.
+    // Moves all that another list of the same memory holds to the end of this one. Precondition:
+    // this list is empty, or reserveMore() made room.
     void append(Occurrences&& other) noexcept
     {
-        assert(m_list.capacity() - m_list.size() >= other.m_list.size());
+        assert(m_list.get_allocator() == other.m_list.get_allocator());
+        assert(m_list.empty() || m_list.capacity() - m_list.size() >= other.m_list.size());
+        if (m_list.empty())
+        {
+            m_list.swap(other.m_list);
+        }
         m_list.insert(m_list.end(), std::move_iterator(other.m_list.begin()),
                       std::move_iterator(other.m_list.end()));
         m_hasPositions = m_hasPositions || other.m_hasPositions;

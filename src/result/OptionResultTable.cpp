@@ -35,33 +35,27 @@ void OptionResultTable::store(const OptionDescription& option, OptionResult& rec
 {
     assert(!option.names.empty());
     Occurrences added = makeOccurrences(record);
-    std::optional<Occurrence> byDefault = makeDefault(record);
-    StoredOption* const shared = sharedRecord(option);
-    if (shared == nullptr)
+    if (StoredOption* const shared = findShared(option))
     {
-        storeApart(option, added);
+        shared->occurrences.reserveMore(added.size());
+        shared->occurrences.append(std::move(added));
         return;
     }
-    if (shared->empty())
-    {
-        shared->byDefault = std::move(byDefault);
-    }
-    shared->occurrences.reserveMore(added.size());
-    shared->occurrences.append(std::move(added));
+    storeElsewhere(option, std::move(added), makeDefault(record));
 }
 
 void OptionResultTable::storeValue(const OptionDescription& option, ValueEntry& value)
 {
     assert(!option.names.empty());
     const wchar_t* const text = keepText(value);
-    if (StoredOption* const shared = sharedRecord(option))
+    if (StoredOption* const shared = findShared(option))
     {
         shared->occurrences.appendValue(text, value.value, value.position, true);
         return;
     }
     Occurrences added(m_strings.memory());
     added.appendValue(text, value.value, value.position, true);
-    storeApart(option, added);
+    storeElsewhere(option, std::move(added), std::nullopt);
 }
 
 const StoredOption* OptionResultTable::find(HashedText name) const noexcept
@@ -77,27 +71,34 @@ bool OptionResultTable::isFilledFrom(std::uint64_t identity) const noexcept
                        { return stored.source.index == identity; });
 }
 
-// The record that all names of the option find and no other name, made where the first name is
-// unknown; null where the names lead to several records, or to one that others find too.
-StoredOption* OptionResultTable::sharedRecord(const OptionDescription& option)
+// The record that all names of the option find and no other name, or null.
+StoredOption* OptionResultTable::findShared(const OptionDescription& option) noexcept
 {
-    const NamedRecord* const found = m_names.find(option.names.front());
-    if (found == nullptr)
-    {
-        return &makeShared(option);
-    }
     // A record that was made for the option stays its own until a name of it comes to lead
     // elsewhere, or the option gets another name.
-    StoredOption* const record = found->record;
-    return record->source == option.identity() && record->source.index != 0 &&
-                   record->names == option.names.size()
-               ? record
-               : nullptr;
+    const NamedRecord* const found = m_names.find(option.names.front());
+    const bool isShared = found != nullptr && found->record->source.index != 0 &&
+                          found->record->source == option.identity() &&
+                          found->record->names == option.names.size();
+    return isShared ? found->record : nullptr;
+}
+
+void OptionResultTable::storeElsewhere(const OptionDescription& option, Occurrences added,
+                                       std::optional<Occurrence> byDefault)
+{
+    if (m_names.find(option.names.front()) != nullptr)
+    {
+        storeApart(option, added);
+        return;
+    }
+    StoredOption& record = makeShared(option);
+    record.byDefault = std::move(byDefault);
+    record.occurrences.append(std::move(added));
 }
 
 // Makes an empty record for an option whose first name is unknown. Other names of it may have led to
-// another option before. Where this throws, some names may lead to an empty record, which queries
-// take for none.
+// another option before. Where this throws, some of those may lead to an empty record, in which
+// queries find nothing.
 StoredOption& OptionResultTable::makeShared(const OptionDescription& option)
 {
     m_names.reserveMore(option.names.size());

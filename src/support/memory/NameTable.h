@@ -111,11 +111,18 @@ private:
         return 2 * std::bit_ceil(entries);
     }
 
+    // The slot where a search begins: the highest bits of the hash, as many as the mask has. Lower
+    // ones do not depend on all characters of the text.
+    [[nodiscard]] static std::size_t firstPlace(std::uint32_t hash, std::size_t mask) noexcept
+    {
+        return hash >> std::countl_zero(static_cast<std::uint32_t>(mask));
+    }
+
     // The slot of the name, or the free one where it belongs.
     [[nodiscard]] std::size_t placeOf(HashedText name) const noexcept
     {
         const Slot* const slots = m_slots.data();
-        std::size_t place = name.hash() & m_mask;
+        std::size_t place = firstPlace(name.hash(), m_mask);
         while (slots[place].number != no_entry &&
                (slots[place].hash != name.hash() || m_entries[slots[place].number].name != name))
         {
@@ -128,7 +135,7 @@ private:
                                                  std::uint32_t hash) noexcept
     {
         const std::size_t mask = slots.size() - 1;
-        std::size_t place = hash & mask;
+        std::size_t place = firstPlace(hash, mask);
         while (slots[place].number != no_entry)
         {
             place = (place + 1) & mask;
