@@ -6,8 +6,8 @@
 #include <optional>
 #include <string>
 
-#include "support/ConsoleStreams.h"
 #include "support/memory/Garbage.h"
+#include "support/platform/ConsoleStreams.h"
 #include "support/text/Text.h"
 
 namespace kexa_3_3

@@ -6,7 +6,7 @@
 
 #include "parser/ArgumentLines.h"
 #include "result/ParseResult.h"
-#include "support/FileLoading.h"
+#include "support/platform/FileLoading.h"
 #include "support/text/Text.h"
 
 namespace kexa_3_3
