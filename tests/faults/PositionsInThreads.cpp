@@ -8,7 +8,7 @@
 #include <thread>
 #include <vector>
 
-#include "../interface/Host.h"
+#include "Host.h"
 
 using namespace kexa_3_3;
 using namespace toolbox;
