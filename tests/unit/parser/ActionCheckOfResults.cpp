@@ -246,8 +246,8 @@ std::wstring walk(const std::vector<std::wstring>& entries, const RegisteredOpti
                                              }))
         {
             return outcome(2, L"Action '-" + std::wstring(option->primaryName()) +
-                                 L"' and action '-" + std::wstring(chosen->primaryName()) +
-                                 L"' were defined, but only one action possible.");
+                                  L"' and action '-" + std::wstring(chosen->primaryName()) +
+                                  L"' were defined, but only one action possible.");
         }
     }
     if (chosen == nullptr)
@@ -264,8 +264,8 @@ std::wstring walk(const std::vector<std::wstring>& entries, const RegisteredOpti
         if (!accepted)
         {
             return outcome(2, L"Action '-" + std::wstring(chosen->primaryName()) +
-                                 L"' doesn't accept option '-" +
-                                 std::wstring(option->primaryName()) + L"'");
+                                  L"' doesn't accept option '-" +
+                                  std::wstring(option->primaryName()) + L"'");
         }
     }
     return passes;

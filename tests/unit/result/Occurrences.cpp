@@ -147,9 +147,7 @@ TEST_F(OccurrencesTest, PositionsAndValuesAreWalkedApart)
     {
         // Each kind by turns, then several of a kind in a row.
         const std::int32_t kind = (number < 30 ? number : number / 10) % 3;
-        occurrences.append(kind == 0   ? position(number)
-                           : kind == 1 ? value(number)
-                                       : both(number));
+        occurrences.append(kind == 0 ? position(number) : kind == 1 ? value(number) : both(number));
         all.push_back(number);
         if (kind != 1)
         {

@@ -24,7 +24,7 @@ constexpr std::int32_t lowest = std::numeric_limits<std::int32_t>::min();
 
 // The outcome of a query: "code text value position".
 std::wstring outcome(int code, std::wstring_view text = L"none", const variant_t& value = {},
-                    std::int32_t position = no_position)
+                     std::int32_t position = no_position)
 {
     return std::to_wstring(code) + L" " + std::wstring(text) + L" " + valueText(value) + L" " +
            std::to_wstring(position);
@@ -114,7 +114,7 @@ private:
     [[nodiscard]] std::wstring defaultOutcome() const
     {
         return outcome(0, m_entry.defaultText, m_entry.defaultValue,
-                      static_cast<std::int32_t>(m_entry.defaultPosition));
+                       static_cast<std::int32_t>(m_entry.defaultPosition));
     }
 
     const OptionResult& m_entry;
