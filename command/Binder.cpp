@@ -60,9 +60,13 @@ KEXA_COMMAND_INLINE bool Binder::onOptionParsed(const wchar_t*)
 {
     if (m_next == m_givens.size())
     {
-        return true; // of an option that the program declared on its own
+        return true; // of an argument that makes the parser tell a mistake
     }
     const Given& given = m_givens[m_next++];
+    if (given.declaration == nullptr)
+    {
+        return true;
+    }
     const Declaration& declaration = *given.declaration;
     if (declaration.kind == Kind::action)
     {
@@ -83,6 +87,10 @@ KEXA_COMMAND_INLINE bool Binder::onValueParsed(const wchar_t*, const kexa_3_3::V
 {
     assert(m_next > 0);
     const Given& given = m_givens[m_next - 1];
+    if (given.declaration == nullptr)
+    {
+        return true;
+    }
 #if KEXA_COMMAND_EXCEPTIONS
     try
     {

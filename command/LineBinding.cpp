@@ -52,7 +52,7 @@ LineBinding::runParser(const std::vector<const wchar_t*>& arguments, Binder& bin
     {
         parser.createParseResult(&made);
     }
-    const std::unique_ptr<kexa_3_3::IParseResult, Releaser> result(made);
+    std::unique_ptr<kexa_3_3::IParseResult, Releaser> result(made);
     parser.addEventHandler(&binder);
     const kexa_3_3::result_t code =
         parser.parse(static_cast<std::int32_t>(arguments.size()), arguments.data(), made);
@@ -62,6 +62,10 @@ LineBinding::runParser(const std::vector<const wchar_t*>& arguments, Binder& bin
         m_state.countFailure();
     }
     binder.rethrow();
+    if (m_state.isShared() && checksActions)
+    {
+        m_outcome.result = std::move(result);
+    }
     return code;
 }
 
@@ -78,7 +82,10 @@ KEXA_COMMAND_INLINE bool LineBinding::parseGiven()
     for (const Given& given : givens)
     {
         arguments.push_back(given.raw.c_str());
-        m_sources[given.declaration->index] = Source::given;
+        if (given.declaration != nullptr)
+        {
+            m_sources[given.declaration->index] = Source::given;
+        }
     }
     for (const std::wstring& raw : fault.raw)
     {
@@ -88,6 +95,15 @@ KEXA_COMMAND_INLINE bool LineBinding::parseGiven()
     const kexa_3_3::result_t code = runParser(arguments, binder, true);
     const std::wstring message =
         code == 0 ? std::wstring() : std::wstring(m_state.parser().getErrorMessage());
+    if (code != 0)
+    {
+        const std::size_t faulty = binder.begun() - (isValueMessage(message) ? 1 : 0);
+        if (faulty < givens.size() && givens[faulty].declaration == nullptr)
+        {
+            setErrorBeneath(m_outcome, code, message, givens, faulty, m_files);
+            return false;
+        }
+    }
     if (code != 0 && isValueMessage(message) && binder.begun() > 0)
     {
         const Given& given = givens[binder.begun() - 1];
@@ -101,7 +117,7 @@ KEXA_COMMAND_INLINE bool LineBinding::parseGiven()
     }
     if (code != 0)
     {
-        setActionError(m_outcome, code, message, m_scan, m_files);
+        setActionError(m_outcome, code, message, m_state);
         return false;
     }
     return true;

@@ -31,12 +31,13 @@ public:
         m_outcome.program = m_state.definition().path;
         m_outcome.helpName =
             m_state.helpOption() == nullptr ? std::string() : spelled(*m_state.helpOption());
-        return parseGiven() && parseEnvironment() && checkMissing() && checkRelations() &&
-               bindInner() && checkStruct();
+        return parseGiven() && checkAccepted() && parseEnvironment() && checkMissing() &&
+               checkRelations() && bindInner() && checkStruct();
     }
 
 private:
     bool parseGiven();
+    bool checkAccepted();
     bool parseEnvironment();
     bool checkMissing();
     bool checkRelations();

@@ -18,6 +18,46 @@ KEXA_COMMAND_INLINE bool LineBinding::isChosen(const std::vector<std::size_t>& a
                        [this](std::size_t action) { return m_sources[action] == Source::given; });
 }
 
+// The first by name, as in the parser's messages. Returns null where nothing is wanted.
+template <class Wanted>
+const Declaration* firstByName(const std::vector<const Declaration*>& declarations,
+                               const Wanted& wanted)
+{
+    const Declaration* first = nullptr;
+    for (const Declaration* declaration : declarations)
+    {
+        if (wanted(*declaration) &&
+            (first == nullptr || declaration->names.front() < first->names.front()))
+        {
+            first = declaration;
+        }
+    }
+    return first;
+}
+
+// The parser would ask the first of several actions only; here it is enough that one of those
+// given accepts the option.
+KEXA_COMMAND_INLINE bool LineBinding::checkAccepted()
+{
+    const auto isGiven = [this](const Declaration& each)
+    {
+        return m_sources[each.index] == Source::given;
+    };
+    const Declaration* action = firstByName(m_state.declarations(), [&](const Declaration& each)
+                                            { return each.kind == Kind::action && isGiven(each); });
+    if (action == nullptr)
+    {
+        return true;
+    }
+    const Declaration* refused =
+        firstByName(m_state.declarations(), [&](const Declaration& each)
+                    { return !each.actions.empty() && isGiven(each) && !isChosen(each.actions); });
+    return refused == nullptr ||
+           refuse("Action '-" + action->names.front() + "' doesn't accept option '-" +
+                      refused->names.front() + "'",
+                  refused);
+}
+
 KEXA_COMMAND_INLINE bool LineBinding::checkMissing()
 {
     const Definition& definition = m_state.definition();

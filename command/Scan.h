@@ -34,9 +34,9 @@ struct Argument
 // One option, action or positional argument of the line.
 struct Given
 {
-    const Declaration* declaration = nullptr;
-    std::wstring raw;   // the argument for the parser
-    std::wstring typed; // the argument for messages, as the user typed it
+    const Declaration* declaration = nullptr; // null for an option of the parser beneath
+    std::wstring raw;                         // the argument for the parser
+    std::wstring typed;                       // the argument for messages, as the user typed it
     Place place;
     bool isEmptyText = false;
 };
@@ -82,6 +82,7 @@ private:
     void walk();
     void takeOption(const Argument& argument);
     void takeMatched(const NameEntry& entry, std::wstring_view value, bool hasEquals);
+    void takeOptionBeneath();
     void takeFlag(const NameEntry& entry, std::wstring_view value);
     void takeValue(const Declaration& declaration, std::wstring_view value, bool hasEquals);
     void takeNextValue(const Declaration& declaration);

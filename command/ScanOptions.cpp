@@ -29,8 +29,10 @@ KEXA_COMMAND_INLINE NameMatch Scan::match(std::wstring_view name) const
 // Whether an argument that begins with a hyphen means an option, or several.
 KEXA_COMMAND_INLINE bool Scan::resolves(std::wstring_view argument) const
 {
-    const NameMatch found = match(splitArgument(argument).name);
+    const std::wstring_view name = splitArgument(argument).name;
+    const NameMatch found = match(name);
     return found.entry != nullptr || !found.candidates.empty() ||
+           m_state->isDeclaredBeneath(name) ||
            (m_state->definition().isPosix() && isBundle(argument));
 }
 
@@ -42,6 +44,10 @@ KEXA_COMMAND_INLINE void Scan::takeOption(const Argument& argument)
     if (exact != nullptr)
     {
         return takeMatched(*exact, split.value, split.hasEquals);
+    }
+    if (m_state->isDeclaredBeneath(split.name))
+    {
+        return takeOptionBeneath();
     }
     if (definition.isPosix() && isBundle(argument.text))
     {
@@ -71,6 +77,17 @@ KEXA_COMMAND_INLINE void Scan::takeOption(const Argument& argument)
         return takePlain(false);
     }
     failUnknown(argument);
+    ++m_next;
+}
+
+// The parser gets the argument as it is. Whether the option takes a value is not known here, so the
+// next argument is none.
+KEXA_COMMAND_INLINE void Scan::takeOptionBeneath()
+{
+    if (!m_fault.isFound)
+    {
+        m_givens.push_back({nullptr, current().text, current().text, current().place, false});
+    }
     ++m_next;
 }
 

@@ -34,6 +34,19 @@ KEXA_COMMAND_INLINE kexa_3_3::IParser& State::sharedParser()
     return *m_parser;
 }
 
+KEXA_COMMAND_INLINE bool State::isDeclaredBeneath(std::wstring_view name) const
+{
+    if (!m_isShared)
+    {
+        return false;
+    }
+    const std::wstring whole(name);
+    return m_parser->hasOption(whole.c_str(), true, nullptr) ||
+           m_parser->hasOption(whole.c_str(), false, nullptr) ||
+           (whole.compare(0, 3, L"no-") == 0 &&
+            m_parser->hasOption(whole.c_str() + 3, false, nullptr));
+}
+
 // --help and --version take those of their names that are free.
 KEXA_COMMAND_INLINE std::unique_ptr<Declaration>
 State::declareBuiltIn(Kind kind, const std::string& names, const char* description)
@@ -205,17 +218,11 @@ KEXA_COMMAND_INLINE void State::registerOption(const Declaration& declaration)
     const std::wstring name = m_rawNames[declaration.index].substr(2);
     const std::wstring description = widen(declaration.description);
     const std::wstring group = declaration.hidden ? L"kexa_hidden" : widen(declaration.group);
-    std::wstring keywords;
-    for (const std::size_t action : declaration.actions)
-    {
-        keywords += (keywords.empty() ? L"" : L",") + widen(m_all[action]->names.front());
-    }
     const std::int32_t type = rawTypeOf(declaration);
     const kexa_3_3::Registration& registration =
         declaration.kind == Kind::action
             ? m_parser->addSwitch(name.c_str(), description.c_str(), type, group.c_str())
-            : m_parser->addOptionWithKeywords(name.c_str(), keywords.c_str(), description.c_str(),
-                                              type, group.c_str());
+            : m_parser->addOption(name.c_str(), description.c_str(), type, group.c_str());
     assert(registration.option != nullptr);
     kexa_3_3::IOption& option = *registration.option;
     for (std::size_t i = 1; i < declaration.names.size(); ++i)

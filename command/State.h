@@ -63,6 +63,11 @@ public:
 
     // For a program that declares on its own.
     kexa_3_3::IParser& sharedParser();
+    bool isShared() const { return m_isShared; }
+
+    // Whether the program has declared an option of this name, or that which a name behind "no-"
+    // negates, at the parser.
+    bool isDeclaredBeneath(std::wstring_view name) const;
 
 private:
     std::unique_ptr<Declaration> declareBuiltIn(Kind kind, const std::string& names,

@@ -105,6 +105,14 @@ public:
         return m_outcome.occurrences;
     }
 
+    // What the parser beneath has read, for options that the program has declared at
+    // Command::parser(). Null where the program has not called that before the parse. Belongs to
+    // this object, and is not to be used after the Command is gone.
+    kexa_3_3::IParseResult* result() const noexcept
+    {
+        return m_outcome.result.get();
+    }
+
     const detail::Outcome& outcome() const noexcept
     {
         return m_outcome;

@@ -3,10 +3,12 @@
 #define KEXA_COMMAND_DETAIL_OUTCOME_H
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "kexa/command/error.h"
+#include "kexa/parse_result.h"
 
 namespace kexa
 {
@@ -24,6 +26,9 @@ struct Outcome
     std::string helpName; // of the option for help as it is typed; empty where there is none
 
     std::vector<Occurrence> occurrences;
+
+    // Of the parser beneath, where the program shares it.
+    std::shared_ptr<kexa_3_3::IParseResult> result;
 
     // Which members, by their offset in the struct, have their value from where.
     struct MemberSource
