@@ -76,49 +76,45 @@ KEXA_COMMAND_LOCAL bool holdsName(const Declaration& declaration, std::string_vi
            declaration.names.end();
 }
 
-// Returns the reason why a name of the given kind of declaration cannot be had besides another
-// declaration; empty where it can.
-KEXA_COMMAND_LOCAL std::string collision(std::string_view name, bool negates,
-                                         const Declaration& other)
+KEXA_COMMAND_LOCAL bool isNegatable(const Definition& definition, const std::string& name)
 {
-    if (holdsName(other, name))
+    const auto found = definition.options.find(name);
+    return found != definition.options.end() && hasNegation(*found->second);
+}
+
+// Returns the reason why a name of the given declaration cannot be had besides the others; empty
+// where it can.
+KEXA_COMMAND_LOCAL std::string collision(const Definition& definition,
+                                         const Declaration& declaration, const std::string& name)
+{
+    const auto& taken = isPositional(declaration) ? definition.positionals : definition.options;
+    if (taken.count(name) != 0)
     {
         return "is taken already";
     }
-    if (hasNegation(other) && name.substr(0, 3) == "no-" && holdsName(other, name.substr(3)))
+    if (isPositional(declaration))
     {
-        return "is the 'no-' form of '" + std::string(name.substr(3)) + "'";
+        return std::string();
     }
-    if (negates && holdsName(other, "no-" + std::string(name)))
+    if (name.compare(0, 3, "no-") == 0 && isNegatable(definition, name.substr(3)))
     {
-        return "has a 'no-' form that is taken already";
+        return "is the 'no-' form of '" + name.substr(3) + "'";
     }
-    return std::string();
+    return hasNegation(declaration) && taken.count("no-" + name) != 0
+               ? "has a 'no-' form that is taken already"
+               : std::string();
 }
 
 KEXA_COMMAND_LOCAL void checkName(const Core& core, const Definition& definition,
-                                  const Declaration& declaration, std::string_view name,
+                                  const Declaration& declaration, const std::string& name,
                                   std::string_view names)
 {
-    const std::string prefix = "kexa: command '" + definition.name + "', declaration '" +
-                               std::string(names) + "': the name '" + std::string(name) + "' ";
     const char* fault = faultOf(name);
-    if (fault != nullptr)
+    const std::string reason = fault != nullptr ? fault : collision(definition, declaration, name);
+    if (!reason.empty())
     {
-        core.misuse(prefix + fault);
-    }
-    for (const auto& other : definition.declarations)
-    {
-        if (isNamedOption(*other) != isNamedOption(declaration) ||
-            isPositional(*other) != isPositional(declaration))
-        {
-            continue;
-        }
-        const std::string reason = collision(name, hasNegation(declaration), *other);
-        if (!reason.empty())
-        {
-            core.misuse(prefix + reason);
-        }
+        core.misuse("kexa: command '" + definition.name + "', declaration '" + std::string(names) +
+                    "': the name '" + name + "' " + reason);
     }
 }
 
@@ -140,7 +136,7 @@ KEXA_COMMAND_INLINE Declaration& Core::declare(Kind kind, std::string_view names
     declaration->member = member;
     declaration->index = m_definition->declarations.size();
     const bool isList = member != nullptr && member->list;
-    declaration->maximum = isList ? static_cast<std::size_t>(-1) : 1;
+    declaration->maximum = isList ? static_cast<std::size_t>(-1) : 1; // see isUnlimited()
     if (kind != Kind::subcommand) // which has the name of its command
     {
         for (std::string& name : splitNames(names))
@@ -164,12 +160,24 @@ KEXA_COMMAND_INLINE Declaration& Core::declare(Kind kind, std::string_view names
         for (const auto& other : m_definition->declarations)
         {
             if (other->kind == Kind::rest ||
-                (kind == Kind::rest && isPositional(*other) && other->member->list))
+                (kind == Kind::rest && isPositional(*other) && isUnlimited(*other)))
             {
                 misuseOf(*this, *m_definition, *declaration,
                          "never gets an argument: '" + other->names.front() + "' takes all");
             }
         }
+    }
+    for (const std::string& name : declaration->names)
+    {
+        if (m_definition->verbs)
+        {
+            checkVerb(*declaration, name);
+        }
+    }
+    for (const std::string& name : declaration->names)
+    {
+        (isPositional(*declaration) ? m_definition->positionals : m_definition->options)
+            .emplace(name, declaration.get());
     }
     m_state->invalidate();
     m_definition->declarations.push_back(std::move(declaration));
@@ -185,6 +193,11 @@ KEXA_COMMAND_INLINE void Core::addAlias(Declaration& declaration, std::string_vi
     for (std::string& name : splitNames(names))
     {
         checkName(*this, *m_definition, declaration, name, names);
+        if (m_definition->verbs)
+        {
+            checkVerb(declaration, name);
+        }
+        m_definition->options.emplace(name, &declaration);
         declaration.names.push_back(std::move(name));
     }
     m_state->invalidate();
@@ -234,6 +247,12 @@ KEXA_COMMAND_INLINE void Core::setCounting(Declaration& declaration, void (*incr
     {
         misuseOf(*this, *m_definition, declaration, "only an option with an integer can count");
     }
+    if (!declaration.environment.empty() || declaration.isImplicit || !declaration.rules.empty() ||
+        !declaration.allowed.empty())
+    {
+        misuseOf(*this, *m_definition, declaration,
+                 "counts, and so has no values, rules, implicit value or environment variable");
+    }
     declaration.kind = Kind::count;
     declaration.increment = increment;
 }
@@ -253,6 +272,11 @@ KEXA_COMMAND_INLINE void Core::setTimes(Declaration& declaration, std::size_t mi
 
 KEXA_COMMAND_INLINE void Core::setRequired(Declaration& declaration) const
 {
+    if (declaration.isFlag() || declaration.kind == Kind::count)
+    {
+        misuseOf(*this, *m_definition, declaration,
+                 "takes no value: only what takes one can be required");
+    }
     declaration.required = true;
     if (isPositional(declaration))
     {
@@ -267,6 +291,12 @@ KEXA_COMMAND_INLINE void Core::acceptWith(Declaration& declaration, const Core* 
     {
         misuseOf(*this, *m_definition, declaration,
                  "the action '" + spelled(action) + "' belongs to another command");
+    }
+    if (std::find(declaration.actions.begin(), declaration.actions.end(), action.index) !=
+        declaration.actions.end())
+    {
+        misuseOf(*this, *m_definition, declaration,
+                 "the action '" + spelled(action) + "' is named twice");
     }
     declaration.actions.push_back(action.index);
 }

@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -36,6 +37,9 @@ struct Definition
     void (*misuse)(const std::string&) = nullptr;
 
     std::vector<std::unique_ptr<Declaration>> declarations;
+    std::unordered_map<std::string, const Declaration*> options; // by each of their names
+    std::unordered_map<std::string, const Declaration*> positionals;
+    std::vector<std::string> subcommands; // their names
     std::vector<RelationOfOptions> relations;
     std::vector<std::unique_ptr<Rule>> rules; // over the whole struct
 
@@ -73,6 +77,12 @@ inline bool hasNegation(const Declaration& declaration)
 inline bool isPositional(const Declaration& declaration)
 {
     return declaration.kind == Kind::positional || declaration.kind == Kind::rest;
+}
+
+// Whether a positional list takes any number of arguments.
+inline bool isUnlimited(const Declaration& declaration)
+{
+    return declaration.maximum == static_cast<std::size_t>(-1);
 }
 
 // Whether the option is written with hyphens.

@@ -105,7 +105,7 @@ KEXA_COMMAND_INLINE void setValueError(Outcome& outcome, int code, std::wstring 
                                        const Given& given, const std::string& reason,
                                        const std::vector<std::string>& files)
 {
-    quoteAsTyped(message, given.raw, given.typed);
+    quoteAsTyped(message, given.argument(), *given.typed);
     removeMarks(message);
     if (!reason.empty())
     {
@@ -123,7 +123,7 @@ KEXA_COMMAND_INLINE void setErrorBeneath(Outcome& outcome, int code, std::wstrin
     // An option without its value looks at the argument behind it.
     if (index + 1 < givens.size())
     {
-        quoteAsTyped(message, givens[index + 1].raw, givens[index + 1].typed);
+        quoteAsTyped(message, givens[index + 1].argument(), *givens[index + 1].typed);
     }
     removeMarks(message);
     setError(outcome, code, std::move(message), nullptr, givens[index].place, files);
@@ -166,15 +166,6 @@ KEXA_COMMAND_INLINE std::string hintOfActions(const State& state)
         }
     }
     return list;
-}
-
-KEXA_COMMAND_INLINE void setActionError(Outcome& outcome, int code, std::wstring message,
-                                        const State& state)
-{
-    const std::string hint =
-        message == L"No action defined." ? hintOfActions(state) : std::string();
-    setError(outcome, code, std::move(message), nullptr, Place(), {});
-    outcome.error.hint = hint;
 }
 
 } // namespace detail

@@ -36,9 +36,6 @@ void setErrorBeneath(Outcome& outcome, int code, std::wstring message,
 void setFault(Outcome& outcome, int code, std::wstring message, const Fault& fault,
               const std::vector<std::string>& files);
 
-// For the parser's errors that concern no single argument.
-void setActionError(Outcome& outcome, int code, std::wstring message, const State& state);
-
 // The actions or verbs that can be given.
 std::string hintOfActions(const State& state);
 

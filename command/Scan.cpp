@@ -97,13 +97,22 @@ KEXA_COMMAND_INLINE void Scan::add(const Declaration& declaration, std::wstring 
     m_isActionGiven = m_isActionGiven || declaration.kind == Kind::action;
     if (!m_fault.isFound)
     {
-        m_givens.push_back({&declaration, std::move(raw), current().text, current().place, false});
+        m_givens.push_back({&declaration, std::move(raw), &current().text, current().place, false});
     }
+}
+
+KEXA_COMMAND_INLINE std::wstring Scan::rawArgument(const Declaration& declaration,
+                                                   std::wstring_view value) const
+{
+    const std::wstring& name = m_state->rawName(declaration);
+    std::wstring raw;
+    raw.reserve(name.size() + 1 + value.size());
+    return raw.append(name).append(1, L'=').append(value);
 }
 
 KEXA_COMMAND_INLINE void Scan::addEmptyText(const Declaration& declaration)
 {
-    add(declaration, m_state->rawName(declaration) + L"=" + mark);
+    add(declaration, rawArgument(declaration, std::wstring_view(&mark, 1)));
     if (!m_fault.isFound)
     {
         m_givens.back().isEmptyText = true;
@@ -138,7 +147,7 @@ KEXA_COMMAND_INLINE void Scan::takePlain(bool isBehindMarker)
     if (!m_fault.isFound)
     {
         m_plain.push_back(m_givens.size());
-        m_givens.push_back({nullptr, std::wstring(), current().text, current().place, false});
+        m_givens.push_back({nullptr, std::wstring(), &current().text, current().place, false});
     }
     ++m_next;
 }
@@ -263,9 +272,9 @@ KEXA_COMMAND_INLINE void Scan::distribute()
         {
             Given& given = m_givens[m_plain[next]];
             given.declaration = declaration;
-            given.isEmptyText = given.typed.empty();
-            given.raw = m_state->rawName(*declaration) + L"=" +
-                        (given.isEmptyText ? std::wstring(1, mark) : given.typed);
+            given.isEmptyText = given.typed->empty();
+            given.raw = rawArgument(*declaration,
+                                    given.isEmptyText ? std::wstring_view(&mark, 1) : *given.typed);
         }
     }
     if (next < m_plain.size())
@@ -275,16 +284,16 @@ KEXA_COMMAND_INLINE void Scan::distribute()
         m_givens.resize(m_plain[next]);
         m_fault = Fault();
         m_fault.isFound = true;
-        m_fault.typed = given.typed;
+        m_fault.typed = *given.typed;
         m_fault.place = given.place;
         if (!m_state->positionals().empty())
         {
-            m_fault.message = "too many arguments: '" + narrow(given.typed) + "'";
+            m_fault.message = "too many arguments: '" + narrow(*given.typed) + "'";
         }
         else
         {
-            m_fault.raw = {given.typed};
-            m_fault.hint = hintOfNames(m_state->names(), given.typed, true);
+            m_fault.raw = {*given.typed};
+            m_fault.hint = hintOfNames(m_state->names(), *given.typed, true);
         }
     }
 }

@@ -128,8 +128,8 @@ public:
         return *this;
     }
 
-    // The option itself is deprecated: the help says so and what to do instead, such as
-    // "use --new".
+    // The option itself is deprecated: the help and a warning for each line that gives it say so
+    // and what to do instead, such as "use --new". See Parsed::warnings().
     Option& deprecated(std::string_view instead)
     {
         return m_declaration->deprecation = instead, *this;
