@@ -58,6 +58,10 @@ struct Definition
 // Returns the pieces between the commas.
 std::vector<std::string> splitNames(std::string_view names);
 
+// Tells a name that the declaration cannot have, of those that the program gave as `names`.
+void checkName(const Core& core, const Definition& definition, const Declaration& declaration,
+               const std::string& name, std::string_view names);
+
 // Returns the option as messages name it: "--list", "-l", or the bare name of a positional
 // argument.
 std::string spelled(const Declaration& declaration);

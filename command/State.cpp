@@ -165,7 +165,9 @@ KEXA_COMMAND_INLINE void State::prepare()
     m_names.sort();
     m_verbs.sort();
     m_rawNames.clear();
+    m_rawNames.reserve(m_all.size());
     std::vector<std::string> primaryNames;
+    primaryNames.reserve(m_all.size());
     for (const Declaration* declaration : m_all)
     {
         primaryNames.push_back(declaration->names.front());
