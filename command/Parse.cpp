@@ -35,6 +35,7 @@ KEXA_COMMAND_LOCAL void parseArguments(State& state, std::vector<Argument> argum
         }
     }
     LineBinding(scan, files, object, outcome).bind();
+    outcome.files = std::move(files);
 }
 
 KEXA_COMMAND_LOCAL std::vector<Argument> numbered(std::vector<std::wstring> texts)

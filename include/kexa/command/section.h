@@ -7,6 +7,7 @@
 #include <optional>
 #include <string_view>
 
+#include "kexa/command/detail/erased.h"
 #include "kexa/command/option.h"
 
 namespace kexa
