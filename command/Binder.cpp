@@ -60,7 +60,8 @@ KEXA_COMMAND_INLINE bool Binder::onOptionParsed(const wchar_t*)
 {
     if (m_next == m_givens.size())
     {
-        return true; // of an option that the program declared on its own
+        m_isForeign = true;
+        return true;
     }
     const Given& given = m_givens[m_next++];
     const Declaration& declaration = *given.declaration;
@@ -81,6 +82,10 @@ KEXA_COMMAND_INLINE bool Binder::onOptionParsed(const wchar_t*)
 
 KEXA_COMMAND_INLINE bool Binder::onValueParsed(const wchar_t*, const kexa_3_3::ValueRecord* record)
 {
+    if (m_isForeign)
+    {
+        return true;
+    }
     assert(m_next > 0);
     const Given& given = m_givens[m_next - 1];
 #if KEXA_COMMAND_EXCEPTIONS
