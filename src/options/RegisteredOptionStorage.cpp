@@ -155,50 +155,6 @@ OptionGroup RegisteredOptionStorage::enterGroup(std::wstring_view groupText)
     return m_lastGroup;
 }
 
-// Gives the last option its names and makes it known by them. Throws std::bad_alloc; the index is
-// unchanged then.
-void RegisteredOptionStorage::enter(OptionDescription& option, const DeclaredNames& names)
-{
-    assert(&option == &m_options.back());
-    const bool boolean = option.valueType == value_type_boolean;
-    option.names.reserve(names.size());
-    for (const HashedText name : names)
-    {
-        option.names.push_back(m_index.keep(name, boolean));
-    }
-    m_index.reserveMore(names.size());
-
-    // Nothing fails from here on.
-    const std::size_t number = m_options.size() - 1;
-    for (const HashedText name : option.names)
-    {
-        m_index.add(name, number, boolean);
-    }
-    option.enterInto(m_index, number);
-    m_hasActions = m_hasActions || !option.takesValue();
-}
-
-// Returns the group that a declaration names, with the text that it was first declared with.
-OptionGroup RegisteredOptionStorage::enterGroup(const wchar_t* groupText)
-{
-    TextHash hash;
-    const wchar_t* end = groupText;
-    for (; *end != L':' && *end != L'\0'; ++end)
-    {
-        hash.add(*end);
-    }
-    const HashedText name({groupText, static_cast<std::size_t>(end - groupText)}, hash);
-    if (const NamedGroup* const known = m_groups.find(name))
-    {
-        return {known->name.text(), known->text};
-    }
-    const std::wstring_view text(*end == L':' ? end + 1 : end);
-    const OptionGroup group = {m_owner.keep(name.text()), m_owner.keep(text)};
-    m_groups.reserveMore(1);
-    m_groups.findOrAdd(name.movedTo(group.name)).text = group.text;
-    return group;
-}
-
 std::vector<OptionGroup> RegisteredOptionStorage::groups() const
 {
     std::vector<OptionGroup> groups;

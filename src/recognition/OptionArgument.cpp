@@ -9,17 +9,35 @@ WhiteSpace::WhiteSpace()
 {
 }
 
-HashedText WhiteSpace::nameIn(std::wstring_view text) const
+namespace
+{
+
+// The beginning of the text up to the first character that ends a name.
+template <class EndsName>
+HashedText beginningOf(std::wstring_view text, EndsName endsName)
 {
     TextHash hash;
-    const auto isPart = [this](wchar_t character)
-    { return character != L'=' && !contains(character); };
     std::size_t length = 0;
-    for (; length < text.size() && isPart(text[length]); ++length)
+    for (; length < text.size() && !endsName(text[length]); ++length)
     {
         hash.add(text[length]);
     }
-    return HashedText(text.substr(0, length), hash);
+    return HashedText({text.data(), length}, hash);
+}
+
+} // namespace
+
+HashedText WhiteSpace::nameIn(std::wstring_view text) const
+{
+    if (m_facet == nullptr)
+    {
+        // All that ends a name stands below the letters.
+        return beginningOf(
+            text, [](wchar_t character)
+            { return character <= L'=' && (character == L'=' || isClassicSpace(character)); });
+    }
+    return beginningOf(text, [this](wchar_t character)
+                       { return character == L'=' || contains(character); });
 }
 
 OptionArgument splitOptionArgument(std::wstring_view argument, const WhiteSpace& whiteSpace)

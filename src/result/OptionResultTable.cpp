@@ -46,21 +46,21 @@ void OptionResultTable::store(const OptionDescription& option, OptionResult& rec
     {
         shared->byDefault = std::move(byDefault);
     }
+    shared->occurrences.reserveMore(added.size());
     shared->occurrences.append(std::move(added));
 }
 
 void OptionResultTable::storeValue(const OptionDescription& option, ValueEntry& value)
 {
     assert(!option.names.empty());
-    Occurrence occurrence = makeOccurrence(value);
-    occurrence.isPosition = true;
+    const wchar_t* const text = keepText(value);
     if (StoredOption* const shared = sharedRecord(option))
     {
-        shared->occurrences.append(std::move(occurrence));
+        shared->occurrences.appendValue(text, value.value, value.position, true);
         return;
     }
     Occurrences added(m_strings.memory());
-    added.append(std::move(occurrence));
+    added.appendValue(text, value.value, value.position, true);
     storeApart(option, added);
 }
 
@@ -146,11 +146,12 @@ void OptionResultTable::storeApart(const OptionDescription& option, const Occurr
             continue;
         }
         const NamedRecord* const known = m_names.find(name);
-        StoredOption* const record = known == nullptr          ? &copyRecord(first)
+        StoredOption* const record = known == nullptr           ? &copyRecord(first)
                                      : known->record->names > 1 ? &copyRecord(*known->record)
                                                                 : known->record;
         const HashedText kept =
             known == nullptr ? name.movedTo(m_strings.keep(name.text())) : known->name;
+        record->occurrences.reserveMore(added.size());
         steps.push_back({kept, record, added});
     }
     m_names.reserveMore(steps.size());
@@ -165,11 +166,10 @@ void OptionResultTable::storeApart(const OptionDescription& option, const Occurr
 
 StoredOption& OptionResultTable::copyRecord(const StoredOption& from)
 {
-    Occurrences occurrences(from.occurrences);
-    StoredOption& copy = m_records.emplace_back(OptionIdentity(), m_strings.memory());
-    copy.occurrences.append(std::move(occurrences));
-    copy.byDefault = from.byDefault;
-    return copy;
+    StoredOption copy(from);
+    copy.source = OptionIdentity();
+    copy.names = 0;
+    return m_records.emplace_back(std::move(copy));
 }
 
 // Lets a name lead to a record. A name that is new is kept, and there is room for it.
@@ -197,33 +197,22 @@ Occurrences OptionResultTable::makeOccurrences(OptionResult& record)
     {
         for (const std::int32_t position : record.positions)
         {
-            Occurrence occurrence;
-            occurrence.position = position;
-            occurrence.isPosition = true;
-            occurrences.append(std::move(occurrence));
+            occurrences.appendPosition(position);
         }
     }
     for (ValueEntry& entry : record.values)
     {
-        Occurrence occurrence = makeOccurrence(entry);
-        occurrence.isPosition = paired;
-        occurrences.append(std::move(occurrence));
+        occurrences.appendValue(keepText(entry), entry.value, entry.position, paired);
     }
     return occurrences;
 }
 
-// Moves a value out of an entry.
-Occurrence OptionResultTable::makeOccurrence(ValueEntry& entry)
+// Returns the text of a value as long as the result lives. A string value holds its own, in a block
+// that never moves.
+const wchar_t* OptionResultTable::keepText(const ValueEntry& entry)
 {
-    Occurrence occurrence;
-    // A string value holds its own text, in a block that never moves.
-    occurrence.text = entry.value.kind() == vexkit2::kind_wide_text
-                          ? entry.value.get<const wchar_t*>()
-                          : m_strings.keep(entry.text).data();
-    occurrence.value = std::move(entry.value);
-    occurrence.position = entry.position;
-    occurrence.isValue = true;
-    return occurrence;
+    return entry.value.kind() == vexkit2::kind_wide_text ? entry.value.get<const wchar_t*>()
+                                                         : m_strings.keep(entry.text).data();
 }
 
 // The default that a record brings, or none.

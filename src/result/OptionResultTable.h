@@ -68,7 +68,7 @@ private:
     [[nodiscard]] StoredOption& copyRecord(const StoredOption& from);
     void bind(HashedText name, StoredOption& record) noexcept;
     [[nodiscard]] Occurrences makeOccurrences(OptionResult& record);
-    [[nodiscard]] Occurrence makeOccurrence(ValueEntry& entry);
+    [[nodiscard]] const wchar_t* keepText(const ValueEntry& entry);
     [[nodiscard]] std::optional<Occurrence> makeDefault(const OptionResult& record);
 
     Garbage& m_strings;

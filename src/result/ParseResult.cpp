@@ -129,8 +129,8 @@ bool ParseResult::beginQuery(const wchar_t* name, std::int32_t from, std::int32_
     {
         return false;
     }
-    m_valueCursor = m_currentOption->occurrences.begin();
-    m_positionCursor = m_currentOption->occurrences.begin();
+    m_valueCursor = 0;
+    m_positionCursor = 0;
     return true;
 }
 

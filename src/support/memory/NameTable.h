@@ -102,6 +102,7 @@ private:
             }
         }
         m_slots.swap(slots);
+        m_mask = m_slots.size() - 1;
     }
 
     // A power of two, at least twice the number of entries: searches end after few steps.
@@ -113,12 +114,12 @@ private:
     // The slot of the name, or the free one where it belongs.
     [[nodiscard]] std::size_t placeOf(HashedText name) const noexcept
     {
-        const std::size_t mask = m_slots.size() - 1;
-        std::size_t place = name.hash() & mask;
-        while (m_slots[place].number != no_entry &&
-               (m_slots[place].hash != name.hash() || m_entries[m_slots[place].number].name != name))
+        const Slot* const slots = m_slots.data();
+        std::size_t place = name.hash() & m_mask;
+        while (slots[place].number != no_entry &&
+               (slots[place].hash != name.hash() || m_entries[slots[place].number].name != name))
         {
-            place = (place + 1) & mask;
+            place = (place + 1) & m_mask;
         }
         return place;
     }
@@ -137,6 +138,7 @@ private:
 
     std::pmr::vector<Entry> m_entries;
     std::pmr::vector<Slot> m_slots;
+    std::size_t m_mask = m_slots.size() - 1;
 };
 
 } // namespace kexa_3_3
