@@ -73,7 +73,7 @@ protected:
 
 TEST_F(RandomCommands, GiveWhatTheParserGives)
 {
-    ASSERT_NO_FATAL_FAILURE(compareMany(1200, 15));
+    ASSERT_NO_FATAL_FAILURE(compareMany(800, 15));
     // Most lines are compared, and all kinds of outcome are among them.
     EXPECT_GT(m_counts[Rule::none], m_lines * 3 / 4);
     EXPECT_GT(m_accepted, m_lines / 8);
