@@ -191,6 +191,17 @@ void declare(kexa::Command<DrawnSettings>& command, const DrawnDeclarations& dec
 namespace
 {
 
+// One by one: a declaration takes three names at most, and a short third one.
+void addFurtherNames(IOption& option, const std::string& names)
+{
+    for (std::size_t comma = names.find(','); comma != std::string::npos;)
+    {
+        const std::size_t next = names.find(',', comma + 1);
+        option.addName(wide(names.substr(comma + 1, next - comma - 1)).c_str());
+        comma = next;
+    }
+}
+
 // Gives the option the member's initialiser as its default; lists have none.
 template <class Type>
 void setDefault(IOption& option, const Type& value)
@@ -241,8 +252,8 @@ void declare(RawParser& raw, const DrawnDeclarations& declarations)
                                    : kexa::detail::Erased<Type>::operations.rawType;
                        IOption& option =
                            *parser
-                                .addOptionWithKeywords(wide(drawn.names).c_str(), keywords.c_str(),
-                                                       L"", type, L"")
+                                .addOptionWithKeywords(wide(drawn.primaryName()).c_str(),
+                                                       keywords.c_str(), L"", type, L"")
                                 .option;
                        if (drawn.member == member_mode || drawn.member == member_modes)
                        {
@@ -258,6 +269,7 @@ void declare(RawParser& raw, const DrawnDeclarations& declarations)
                                option.addAllowedValue(kexa::detail::variantOf(level));
                            }
                        }
+                       addFurtherNames(option, drawn.names);
                        // Last, because allowed values set a separator.
                        option.setSeparator(drawn.isSeparated ? L',' : L'\0');
                        if (!isCount)
