@@ -56,7 +56,8 @@ KEXA_COMMAND_INLINE bool Binder::onOptionParsed(const wchar_t*)
 {
     if (m_next == m_givens.size())
     {
-        return true; // of an argument that makes the parser tell a mistake
+        m_isForeign = true; // of an argument that makes the parser report a mistake
+        return true;
     }
     const Given& given = m_givens[m_next++];
     if (given.declaration == nullptr)
@@ -81,6 +82,10 @@ KEXA_COMMAND_INLINE bool Binder::onOptionParsed(const wchar_t*)
 
 KEXA_COMMAND_INLINE bool Binder::onValueParsed(const wchar_t*, const kexa_3_3::ValueRecord* record)
 {
+    if (m_isForeign)
+    {
+        return true;
+    }
     assert(m_next > 0);
     const Given& given = m_givens[m_next - 1];
     if (given.declaration == nullptr)

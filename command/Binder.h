@@ -54,6 +54,7 @@ private:
     char* m_object;
     Outcome& m_outcome;
     std::size_t m_next = 0;
+    bool m_isForeign = false; // come to an option that the program declared on its own
     std::string m_reason;
 #if KEXA_COMMAND_EXCEPTIONS
     std::exception_ptr m_exception;

@@ -84,8 +84,9 @@ KEXA_COMMAND_INLINE void Scan::distribute()
         }
         else
         {
-            m_fault.raw = {*given.typed};
-            m_fault.hint = hintOfNames(m_state->names(), *given.typed, true);
+            // Not told by the parser: behind the marker the text may name an option.
+            m_fault.message = "Unknown option: " + narrow(*given.typed);
+            m_fault.hint = hintOfNames(m_state->names(), splitArgument(*given.typed).name, true);
         }
     }
 }
