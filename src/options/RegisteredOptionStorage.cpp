@@ -43,10 +43,10 @@ const Registration& RegisteredOptionStorage::registerOption(const wchar_t* names
                                                             const wchar_t* groupText)
 {
     m_lastRegistration = {nullptr, refused};
-    bool isMade = false;
+    const std::size_t before = m_options.size();
     try
     {
-        const OptionGroup group = enterGroup(viewOf(groupText));
+        const OptionGroup group = enterGroup(groupText == nullptr ? L"" : groupText);
         const DeclaredNames declared(names == nullptr ? L"" : names);
         if (!declared.areAcceptable())
         {
@@ -59,14 +59,10 @@ const Registration& RegisteredOptionStorage::registerOption(const wchar_t* names
             return m_lastRegistration;
         }
         OptionDescription& option = m_options.emplace_back(group, isSwitch, m_owner);
-        isMade = true;
         option.description = m_owner.keep(viewOf(description));
         option.separator = m_defaultSeparator;
         option.valueType = valueType;
-        if (keywords != nullptr)
-        {
-            option.addKeywords(keywords);
-        }
+        option.addKeywords(keywords);
         if (isSwitch)
         {
             option.addKeywords(names);
@@ -77,7 +73,7 @@ const Registration& RegisteredOptionStorage::registerOption(const wchar_t* names
     catch (const std::exception&)
     {
         // There is no memory: a failed declaration like any other.
-        if (isMade)
+        if (m_options.size() > before)
         {
             m_options.pop_back();
         }
@@ -106,53 +102,6 @@ const OptionDescription* RegisteredOptionStorage::find(HashedText name) const no
 {
     const std::optional<std::size_t> number = m_index.findNamed(name);
     return number ? &m_options[*number] : nullptr;
-}
-
-// Gives the last option its names and makes it known by them. Throws std::bad_alloc; the index is
-// unchanged then.
-void RegisteredOptionStorage::enter(OptionDescription& option, const DeclaredNames& names)
-{
-    assert(&option == &m_options.back());
-    const bool boolean = option.valueType == value_type_boolean;
-    option.names.reserve(names.size());
-    for (const HashedText name : names)
-    {
-        option.names.push_back(m_index.keep(name, boolean));
-    }
-    m_index.reserveMore(names.size());
-
-    // Nothing fails from here on.
-    const std::size_t number = m_options.size() - 1;
-    for (const HashedText name : option.names)
-    {
-        m_index.add(name, number, boolean);
-    }
-    option.enterInto(m_index, number);
-    m_hasActions = m_hasActions || !option.takesValue();
-}
-
-// Returns the group that a declaration names, with the text that it was first declared with.
-OptionGroup RegisteredOptionStorage::enterGroup(std::wstring_view groupText)
-{
-    const std::size_t colon = std::min(groupText.find(L':'), groupText.size());
-    // Declarations of a group usually follow each other.
-    if (groupText.substr(0, colon) != m_lastGroup.name || m_groups.empty())
-    {
-        const HashedText name(groupText.substr(0, colon));
-        const NamedGroup* group = m_groups.find(name);
-        if (group == nullptr)
-        {
-            const std::wstring_view text = groupText.substr(std::min(colon + 1, groupText.size()));
-            const HashedText kept = name.movedTo(m_owner.keep(name.text()));
-            m_groups.reserveMore(1);
-            const std::wstring_view keptText = m_owner.keep(text);
-            NamedGroup& added = m_groups.findOrAdd(kept);
-            added.text = keptText;
-            group = &added;
-        }
-        m_lastGroup = {group->name.text(), group->text};
-    }
-    return m_lastGroup;
 }
 
 // Gives the last option its names and makes it known by them. Throws std::bad_alloc; the index is

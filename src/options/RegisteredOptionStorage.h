@@ -94,13 +94,12 @@ private:
         std::wstring_view text;
     };
 
-    [[nodiscard]] OptionGroup enterGroup(std::wstring_view groupText);
+    [[nodiscard]] OptionGroup enterGroup(const wchar_t* groupText);
     void enter(OptionDescription& option, const DeclaredNames& names);
 
     wchar_t m_defaultSeparator;
     std::pmr::deque<OptionDescription> m_options; // the elements never move
     NameTable<NamedGroup> m_groups;
-    OptionGroup m_lastGroup; // of the last declaration
     Garbage& m_owner;
     Registration m_lastRegistration = {nullptr, 1};
     OptionIndex m_index;

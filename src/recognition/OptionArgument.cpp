@@ -3,6 +3,16 @@
 namespace kexa_3_3
 {
 
+namespace
+{
+
+bool isClassicNameEnd(wchar_t character) noexcept
+{
+    return character == L'=' || isClassicSpace(character);
+}
+
+} // namespace
+
 WhiteSpace::WhiteSpace()
     : m_facet(m_locale == std::locale::classic() ? nullptr
                                                  : &std::use_facet<std::ctype<wchar_t>>(m_locale))
@@ -12,14 +22,16 @@ WhiteSpace::WhiteSpace()
 HashedText WhiteSpace::nameIn(std::wstring_view text) const
 {
     TextHash hash;
-    const auto isPart = [this](wchar_t character)
-    { return character != L'=' && !contains(character); };
     std::size_t length = 0;
-    for (; length < text.size() && isPart(text[length]); ++length)
+    // Letters and digits of the classic locale stand above all that ends a name.
+    while (length < text.size() &&
+           (m_facet == nullptr ? text[length] > L'=' || !isClassicNameEnd(text[length])
+                               : text[length] != L'=' && !contains(text[length])))
     {
         hash.add(text[length]);
+        ++length;
     }
-    return HashedText(text.substr(0, length), hash);
+    return HashedText({text.data(), length}, hash);
 }
 
 OptionArgument splitOptionArgument(std::wstring_view argument, const WhiteSpace& whiteSpace)

@@ -54,15 +54,13 @@ public:
         }
     }
 
-    // Throws std::bad_alloc, changing nothing.
-    void appendPosition(std::int32_t position) { append({nullptr, {}, position, true, false}); }
-
-    // value: moved away, unless this throws.
-    // text:  null-terminated; outlives the list.
-    void appendValue(const wchar_t* text, vexkit2::variant_t& value, std::int32_t position,
-                     bool isPosition)
+    // Throws std::bad_alloc, changing nothing; the occurrence then is as before.
+    void append(Occurrence&& occurrence)
     {
-        append({text, std::move(value), position, isPosition, true});
+        m_last = m_list.insert_after(m_last, std::move(occurrence));
+        ++m_size;
+        m_hasPositions = m_hasPositions || m_last->isPosition;
+        m_hasValues = m_hasValues || m_last->isValue;
     }
 
     // Moves all that another list of the same memory holds to the end of this one.
@@ -131,14 +129,6 @@ public:
     }
 
 private:
-    void append(Occurrence&& occurrence)
-    {
-        m_last = m_list.insert_after(m_last, std::move(occurrence));
-        ++m_size;
-        m_hasPositions = m_hasPositions || m_last->isPosition;
-        m_hasValues = m_hasValues || m_last->isValue;
-    }
-
     List m_list;
     List::iterator m_last = m_list.before_begin();
     std::size_t m_size = 0;
