@@ -1,5 +1,5 @@
 // Fuzzes the conversion of UTF-8 to wide text and back: compares it with the reference decoder.
-#include "support/Utf8.h"
+#include "support/text/Utf8.h"
 
 #include <cstring>
 #include <string>

@@ -48,8 +48,8 @@ run_cppcheck()
         --suppressions-list=.cppcheck-suppressions --inline-suppr --error-exitcode=1 --quiet \
         -j "$jobs" -Iinclude -Isrc -DKEXA_BUILDING "$@" src include
 }
-run_cppcheck --platform=unix64 -D__linux__ -i src/support/FileLoading_windows.cpp \
-    -i src/support/ConsoleStreams_windows.cpp
-run_cppcheck --platform=win64 -D_WIN32 -i src/support/FileLoading_posix.cpp \
-    -i src/support/ConsoleStreams_posix.cpp
+run_cppcheck --platform=unix64 -D__linux__ -i src/support/platform/FileLoading_windows.cpp \
+    -i src/support/platform/ConsoleStreams_windows.cpp
+run_cppcheck --platform=win64 -D_WIN32 -i src/support/platform/FileLoading_posix.cpp \
+    -i src/support/platform/ConsoleStreams_posix.cpp
 echo "cppcheck finds nothing, for Linux and for Windows"

@@ -89,7 +89,8 @@ public:
     [[nodiscard]] bool takesValue() const noexcept { return valueMode != 0; }
     [[nodiscard]] bool isPositional() const noexcept
     {
-        return takesValue() && (marked || keywords().contains(positional_keyword));
+        return takesValue() && (marked || (m_keywords.get() != nullptr &&
+                                            m_keywords.get()->contains(positional_keyword)));
     }
 
     // Makes the option one of an index, which learns from then on of further names and of the

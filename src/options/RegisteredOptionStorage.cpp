@@ -6,8 +6,8 @@
 #include <optional>
 #include <string>
 
-#include "support/ConsoleStreams.h"
 #include "support/memory/Garbage.h"
+#include "support/platform/ConsoleStreams.h"
 #include "support/text/Text.h"
 
 namespace kexa_3_3
@@ -36,6 +36,16 @@ RegisteredOptionStorage::RegisteredOptionStorage(Garbage& owner, wchar_t default
 {
 }
 
+RegisteredOptionStorage::~RegisteredOptionStorage()
+{
+    // The order in which a deque destroys its elements is unspecified, and differs between
+    // libraries.
+    while (!m_options.empty())
+    {
+        m_options.pop_front();
+    }
+}
+
 const Registration& RegisteredOptionStorage::registerOption(const wchar_t* names,
                                                             const wchar_t* keywords,
                                                             const wchar_t* description,
@@ -43,10 +53,10 @@ const Registration& RegisteredOptionStorage::registerOption(const wchar_t* names
                                                             const wchar_t* groupText)
 {
     m_lastRegistration = {nullptr, refused};
-    const std::size_t before = m_options.size();
+    bool isMade = false;
     try
     {
-        const OptionGroup group = enterGroup(groupText == nullptr ? L"" : groupText);
+        const OptionGroup group = enterGroup(viewOf(groupText));
         const DeclaredNames declared(names == nullptr ? L"" : names);
         if (!declared.areAcceptable())
         {
@@ -59,10 +69,14 @@ const Registration& RegisteredOptionStorage::registerOption(const wchar_t* names
             return m_lastRegistration;
         }
         OptionDescription& option = m_options.emplace_back(group, isSwitch, m_owner);
+        isMade = true;
         option.description = m_owner.keep(viewOf(description));
         option.separator = m_defaultSeparator;
         option.valueType = valueType;
-        option.addKeywords(keywords);
+        if (keywords != nullptr)
+        {
+            option.addKeywords(keywords);
+        }
         if (isSwitch)
         {
             option.addKeywords(names);
@@ -73,7 +87,7 @@ const Registration& RegisteredOptionStorage::registerOption(const wchar_t* names
     catch (const std::exception&)
     {
         // There is no memory: a failed declaration like any other.
-        if (m_options.size() > before)
+        if (isMade)
         {
             m_options.pop_back();
         }
@@ -128,24 +142,27 @@ void RegisteredOptionStorage::enter(OptionDescription& option, const DeclaredNam
 }
 
 // Returns the group that a declaration names, with the text that it was first declared with.
-OptionGroup RegisteredOptionStorage::enterGroup(const wchar_t* groupText)
+OptionGroup RegisteredOptionStorage::enterGroup(std::wstring_view groupText)
 {
-    TextHash hash;
-    const wchar_t* end = groupText;
-    for (; *end != L':' && *end != L'\0'; ++end)
+    const std::size_t colon = std::min(groupText.find(L':'), groupText.size());
+    // Declarations of a group usually follow each other.
+    if (groupText.substr(0, colon) != m_lastGroup.name || m_groups.empty())
     {
-        hash.add(*end);
+        const HashedText name(groupText.substr(0, colon));
+        const NamedGroup* group = m_groups.find(name);
+        if (group == nullptr)
+        {
+            const std::wstring_view text = groupText.substr(std::min(colon + 1, groupText.size()));
+            const HashedText kept = name.movedTo(m_owner.keep(name.text()));
+            m_groups.reserveMore(1);
+            const std::wstring_view keptText = m_owner.keep(text);
+            NamedGroup& added = m_groups.findOrAdd(kept);
+            added.text = keptText;
+            group = &added;
+        }
+        m_lastGroup = {group->name.text(), group->text};
     }
-    const HashedText name({groupText, static_cast<std::size_t>(end - groupText)}, hash);
-    if (const NamedGroup* const known = m_groups.find(name))
-    {
-        return {known->name.text(), known->text};
-    }
-    const std::wstring_view text(*end == L':' ? end + 1 : end);
-    const OptionGroup group = {m_owner.keep(name.text()), m_owner.keep(text)};
-    m_groups.reserveMore(1);
-    m_groups.findOrAdd(name.movedTo(group.name)).text = group.text;
-    return group;
+    return m_lastGroup;
 }
 
 std::vector<OptionGroup> RegisteredOptionStorage::groups() const

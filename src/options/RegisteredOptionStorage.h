@@ -28,7 +28,7 @@ public:
     // defaultSeparator: given to every new option.
     // Throws std::bad_alloc.
     RegisteredOptionStorage(Garbage& owner, wchar_t defaultSeparator);
-    ~RegisteredOptionStorage() = default;
+    ~RegisteredOptionStorage(); // frees the options in the order of their declaration
     RegisteredOptionStorage(const RegisteredOptionStorage&) = delete;
     RegisteredOptionStorage& operator=(const RegisteredOptionStorage&) = delete;
 
@@ -94,12 +94,13 @@ private:
         std::wstring_view text;
     };
 
-    [[nodiscard]] OptionGroup enterGroup(const wchar_t* groupText);
+    [[nodiscard]] OptionGroup enterGroup(std::wstring_view groupText);
     void enter(OptionDescription& option, const DeclaredNames& names);
 
     wchar_t m_defaultSeparator;
     std::pmr::deque<OptionDescription> m_options; // the elements never move
     NameTable<NamedGroup> m_groups;
+    OptionGroup m_lastGroup; // of the last declaration
     Garbage& m_owner;
     Registration m_lastRegistration = {nullptr, 1};
     OptionIndex m_index;

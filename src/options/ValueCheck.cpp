@@ -7,8 +7,8 @@
 #include "options/ValueConversion.h"
 #include "options/ValueText.h"
 #include "options/ValueType.h"
-#include "support/ConsoleStreams.h"
 #include "support/memory/SharedTexts.h"
+#include "support/platform/ConsoleStreams.h"
 #include "support/text/Text.h"
 
 namespace kexa_3_3

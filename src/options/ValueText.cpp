@@ -6,7 +6,7 @@
 #include <cstring>
 #include <string_view>
 
-#include "support/Utf8.h"
+#include "support/text/Utf8.h"
 
 namespace kexa_3_3
 {

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "support/text/Text.h"
-#include "support/Utf8.h"
+#include "support/text/Utf8.h"
 
 namespace kexa_3_3
 {

@@ -10,8 +10,8 @@
 #include "recognition/PositionalOptionsParser.h"
 #include "recognition/Runs.h"
 #include "result/ParseResult.h"
+#include "support/platform/Trace.h"
 #include "support/text/Text.h"
-#include "support/Trace.h"
 
 namespace kexa_3_3
 {

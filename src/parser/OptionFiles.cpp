@@ -6,7 +6,7 @@
 
 #include "parser/ArgumentLines.h"
 #include "result/ParseResult.h"
-#include "support/FileLoading.h"
+#include "support/platform/FileLoading.h"
 #include "support/text/Text.h"
 
 namespace kexa_3_3
@@ -65,13 +65,8 @@ result_t readFile(const std::wstring& name, const OptionFiles::ParseFile& parseF
 } // namespace
 
 OptionFiles::OptionFiles(ParseResult& result)
-    : m_result(result), m_outer(result.openFiles()), m_next(occurrenceCount()), m_record(record()),
-      m_placeIndex(m_next)
+    : m_result(result), m_outer(result.openFiles()), m_next(occurrenceCount())
 {
-    if (m_record != nullptr)
-    {
-        m_place = m_record->occurrences.end();
-    }
     if (m_outer != nullptr)
     {
         m_outer->m_inner.push_back({m_next, m_next});
@@ -112,19 +107,7 @@ const Occurrence* OptionFiles::nextOccurrence()
     {
         return nullptr;
     }
-    if (record() != m_record)
-    {
-        m_record = record();
-        m_place = m_record->occurrences.begin();
-        m_placeIndex = 0;
-    }
-    for (; m_placeIndex < m_next; ++m_placeIndex)
-    {
-        static_cast<void>(m_record->occurrences.next(m_place));
-    }
-    ++m_next;
-    ++m_placeIndex;
-    return m_record->occurrences.next(m_place);
+    return record()->occurrences.next(m_next);
 }
 
 result_t OptionFiles::readAll(const ParseFile& parseFile, std::wstring& message)

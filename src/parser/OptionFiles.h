@@ -60,11 +60,7 @@ private:
     OptionFiles* m_outer;       // of the parse during which this one began, or null
     std::vector<Range> m_inner; // what parses inside this one stored, in order
     std::size_t m_passed = 0;   // how many of those lie before m_next
-    std::size_t m_next;         // the first occurrence that was not looked at
-
-    const StoredOption* m_record; // the one that was walked last, or null
-    Occurrences::Place m_place;   // in it, behind so many occurrences:
-    std::size_t m_placeIndex;
+    Occurrences::Place m_next;  // the first occurrence that was not looked at
     std::set<std::wstring> m_read;
 };
 

@@ -12,7 +12,7 @@
 #include "options/OptionDescription.h"
 #include "recognition/ArgumentQueue.h"
 #include "recognition/ParseStatus.h"
-#include "support/Trace.h"
+#include "support/platform/Trace.h"
 
 namespace kexa_3_3
 {

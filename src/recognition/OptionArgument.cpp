@@ -3,35 +3,41 @@
 namespace kexa_3_3
 {
 
-namespace
-{
-
-bool isClassicNameEnd(wchar_t character) noexcept
-{
-    return character == L'=' || isClassicSpace(character);
-}
-
-} // namespace
-
 WhiteSpace::WhiteSpace()
     : m_facet(m_locale == std::locale::classic() ? nullptr
                                                  : &std::use_facet<std::ctype<wchar_t>>(m_locale))
 {
 }
 
-HashedText WhiteSpace::nameIn(std::wstring_view text) const
+namespace
+{
+
+// The beginning of the text up to the first character that ends a name.
+template <class EndsName>
+HashedText beginningOf(std::wstring_view text, EndsName endsName)
 {
     TextHash hash;
     std::size_t length = 0;
-    // Letters and digits of the classic locale stand above all that ends a name.
-    while (length < text.size() &&
-           (m_facet == nullptr ? text[length] > L'=' || !isClassicNameEnd(text[length])
-                               : text[length] != L'=' && !contains(text[length])))
+    for (; length < text.size() && !endsName(text[length]); ++length)
     {
         hash.add(text[length]);
-        ++length;
     }
     return HashedText({text.data(), length}, hash);
+}
+
+} // namespace
+
+HashedText WhiteSpace::nameIn(std::wstring_view text) const
+{
+    if (m_facet == nullptr)
+    {
+        // All that ends a name stands below the letters.
+        return beginningOf(
+            text, [](wchar_t character)
+            { return character <= L'=' && (character == L'=' || isClassicSpace(character)); });
+    }
+    return beginningOf(text, [this](wchar_t character)
+                       { return character == L'=' || contains(character); });
 }
 
 OptionArgument splitOptionArgument(std::wstring_view argument, const WhiteSpace& whiteSpace)

@@ -13,9 +13,9 @@
 #include "recognition/IArgumentParser.h"
 #include "recognition/Runs.h"
 #include "result/ParseResult.h"
-#include "support/Trace.h"
 #include "support/memory/Garbage.h"
 #include "support/memory/SharedTexts.h"
+#include "support/platform/Trace.h"
 #include "support/text/Text.h"
 
 namespace kexa_3_3

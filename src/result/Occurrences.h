@@ -1,13 +1,14 @@
 // The positions and values that a parse result holds of one option.
 #pragma once
 
+#include <algorithm>
 #include <cassert>
 #include <cstddef>
 #include <cstdint>
-#include <forward_list>
 #include <iterator>
 #include <memory_resource>
 #include <utility>
+#include <vector>
 
 #include "kexa/variant.h"
 
@@ -25,85 +26,78 @@ struct Occurrence
     bool isValue = false;
 };
 
-// The occurrences of an option in the order stored. They never move: places in the list stay valid
-// while it grows.
+// The occurrences of an option in the order stored.
 class Occurrences
 {
-    using List = std::pmr::forward_list<Occurrence>;
-
 public:
-    // A place in a walk: an occurrence that was visited, or before the first one. What is appended
-    // later comes behind it.
-    using Place = List::const_iterator;
+    // A place in a walk: the number of occurrences before it. It stays valid while the list grows,
+    // and what is appended comes behind it.
+    using Place = std::size_t;
 
     // memory: outlives the list.
     explicit Occurrences(std::pmr::memory_resource& memory) noexcept : m_list(&memory) {}
     ~Occurrences() = default;
-    Occurrences(Occurrences&& other) noexcept : m_list(other.m_list.get_allocator())
-    {
-        append(std::move(other));
-    }
+    Occurrences(Occurrences&&) noexcept = default;
     Occurrences& operator=(const Occurrences&) = delete;
 
     // A copy in the same memory. Throws std::bad_alloc.
-    Occurrences(const Occurrences& other) : m_list(other.m_list.get_allocator())
+    Occurrences(const Occurrences& other)
+        : m_list(other.m_list, other.m_list.get_allocator()), m_hasPositions(other.m_hasPositions),
+          m_hasValues(other.m_hasValues)
     {
-        for (const Occurrence& occurrence : other.m_list)
+    }
+
+    // Throws std::bad_alloc, changing nothing.
+    void appendPosition(std::int32_t position)
+    {
+        m_list.push_back({nullptr, {}, position, true, false});
+        m_hasPositions = true;
+    }
+
+    // text:  null-terminated; outlives the list.
+    // value: moved away.
+    // Throws std::bad_alloc, changing nothing but the value.
+    void appendValue(const wchar_t* text, vexkit2::variant_t& value, std::int32_t position,
+                     bool isPosition)
+    {
+        m_list.push_back({text, std::move(value), position, isPosition, true});
+        m_hasPositions = m_hasPositions || isPosition;
+        m_hasValues = true;
+    }
+
+    // Makes room for `count` further occurrences. Throws std::bad_alloc, changing nothing.
+    void reserveMore(std::size_t count)
+    {
+        if (m_list.capacity() - m_list.size() < count)
         {
-            append(Occurrence(occurrence));
+            m_list.reserve(std::max(m_list.size() + count, 2 * m_list.size()));
         }
     }
 
-    // Throws std::bad_alloc, changing nothing; the occurrence then is as before.
-    void append(Occurrence&& occurrence)
-    {
-        m_last = m_list.insert_after(m_last, std::move(occurrence));
-        ++m_size;
-        m_hasPositions = m_hasPositions || m_last->isPosition;
-        m_hasValues = m_hasValues || m_last->isValue;
-    }
-
-    // Moves all that another list of the same memory holds to the end of this one.
+    // Moves all that another list of the same memory holds to the end of this one. Precondition:
+    // this list is empty, or reserveMore() made room.
     void append(Occurrences&& other) noexcept
     {
-        if (other.m_list.empty())
-        {
-            return;
-        }
-        const List::iterator last = other.m_last;
         assert(m_list.get_allocator() == other.m_list.get_allocator());
-        m_list.splice_after(m_last, std::move(other.m_list));
-        m_last = last;
-        m_size += other.m_size;
+        assert(m_list.empty() || m_list.capacity() - m_list.size() >= other.m_list.size());
+        if (m_list.empty())
+        {
+            m_list.swap(other.m_list);
+        }
+        m_list.insert(m_list.end(), std::move_iterator(other.m_list.begin()),
+                      std::move_iterator(other.m_list.end()));
         m_hasPositions = m_hasPositions || other.m_hasPositions;
         m_hasValues = m_hasValues || other.m_hasValues;
-        other.m_last = other.m_list.before_begin();
-        other.m_size = 0;
     }
 
     [[nodiscard]] bool hasPositions() const noexcept { return m_hasPositions; }
     [[nodiscard]] bool hasValues() const noexcept { return m_hasValues; }
-    [[nodiscard]] std::size_t size() const noexcept { return m_size; }
+    [[nodiscard]] std::size_t size() const noexcept { return m_list.size(); }
 
-    [[nodiscard]] Place begin() const noexcept { return m_list.before_begin(); }
-    [[nodiscard]] Place end() const noexcept { return m_last; }
-
-    // The place behind `count` occurrences. Takes time that grows with count.
-    [[nodiscard]] Place placeBehind(std::size_t count) const noexcept
-    {
-        return std::next(begin(), static_cast<std::ptrdiff_t>(count));
-    }
-
-    // Steps to the next occurrence and returns it; null at the end, where the place stays.
+    // Returns the occurrence at the place, which then is behind it; null at the end.
     [[nodiscard]] const Occurrence* next(Place& place) const noexcept
     {
-        const Place following = std::next(place);
-        if (following == m_list.end())
-        {
-            return nullptr;
-        }
-        place = following;
-        return &*following;
+        return place < m_list.size() ? &m_list[place++] : nullptr;
     }
 
     // As next, passing by those that hold no value.
@@ -129,9 +123,7 @@ public:
     }
 
 private:
-    List m_list;
-    List::iterator m_last = m_list.before_begin();
-    std::size_t m_size = 0;
+    std::pmr::vector<Occurrence> m_list;
     bool m_hasPositions = false;
     bool m_hasValues = false;
 };

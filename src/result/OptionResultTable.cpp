@@ -35,33 +35,27 @@ void OptionResultTable::store(const OptionDescription& option, OptionResult& rec
 {
     assert(!option.names.empty());
     Occurrences added = makeOccurrences(record);
-    std::optional<Occurrence> byDefault = makeDefault(record);
-    StoredOption* const shared = sharedRecord(option);
-    if (shared == nullptr)
+    if (StoredOption* const shared = findShared(option))
     {
-        storeApart(option, added);
+        shared->occurrences.reserveMore(added.size());
+        shared->occurrences.append(std::move(added));
         return;
     }
-    if (shared->empty())
-    {
-        shared->byDefault = std::move(byDefault);
-    }
-    shared->occurrences.append(std::move(added));
+    storeElsewhere(option, std::move(added), makeDefault(record));
 }
 
 void OptionResultTable::storeValue(const OptionDescription& option, ValueEntry& value)
 {
     assert(!option.names.empty());
-    Occurrence occurrence = makeOccurrence(value);
-    occurrence.isPosition = true;
-    if (StoredOption* const shared = sharedRecord(option))
+    const wchar_t* const text = keepText(value);
+    if (StoredOption* const shared = findShared(option))
     {
-        shared->occurrences.append(std::move(occurrence));
+        shared->occurrences.appendValue(text, value.value, value.position, true);
         return;
     }
     Occurrences added(m_strings.memory());
-    added.append(std::move(occurrence));
-    storeApart(option, added);
+    added.appendValue(text, value.value, value.position, true);
+    storeElsewhere(option, std::move(added), std::nullopt);
 }
 
 const StoredOption* OptionResultTable::find(HashedText name) const noexcept
@@ -77,27 +71,34 @@ bool OptionResultTable::isFilledFrom(std::uint64_t identity) const noexcept
                        { return stored.source.index == identity; });
 }
 
-// The record that all names of the option find and no other name, made where the first name is
-// unknown; null where the names lead to several records, or to one that others find too.
-StoredOption* OptionResultTable::sharedRecord(const OptionDescription& option)
+// The record that all names of the option find and no other name, or null.
+StoredOption* OptionResultTable::findShared(const OptionDescription& option) noexcept
 {
-    const NamedRecord* const found = m_names.find(option.names.front());
-    if (found == nullptr)
-    {
-        return &makeShared(option);
-    }
     // A record that was made for the option stays its own until a name of it comes to lead
     // elsewhere, or the option gets another name.
-    StoredOption* const record = found->record;
-    return record->source == option.identity() && record->source.index != 0 &&
-                   record->names == option.names.size()
-               ? record
-               : nullptr;
+    const NamedRecord* const found = m_names.find(option.names.front());
+    const bool isShared = found != nullptr && found->record->source.index != 0 &&
+                          found->record->source == option.identity() &&
+                          found->record->names == option.names.size();
+    return isShared ? found->record : nullptr;
+}
+
+void OptionResultTable::storeElsewhere(const OptionDescription& option, Occurrences added,
+                                       std::optional<Occurrence> byDefault)
+{
+    if (m_names.find(option.names.front()) != nullptr)
+    {
+        storeApart(option, added);
+        return;
+    }
+    StoredOption& record = makeShared(option);
+    record.byDefault = std::move(byDefault);
+    record.occurrences.append(std::move(added));
 }
 
 // Makes an empty record for an option whose first name is unknown. Other names of it may have led to
-// another option before. Where this throws, some names may lead to an empty record, which queries
-// take for none.
+// another option before. Where this throws, some of those may lead to an empty record, in which
+// queries find nothing.
 StoredOption& OptionResultTable::makeShared(const OptionDescription& option)
 {
     m_names.reserveMore(option.names.size());
@@ -146,11 +147,12 @@ void OptionResultTable::storeApart(const OptionDescription& option, const Occurr
             continue;
         }
         const NamedRecord* const known = m_names.find(name);
-        StoredOption* const record = known == nullptr          ? &copyRecord(first)
+        StoredOption* const record = known == nullptr           ? &copyRecord(first)
                                      : known->record->names > 1 ? &copyRecord(*known->record)
                                                                 : known->record;
         const HashedText kept =
             known == nullptr ? name.movedTo(m_strings.keep(name.text())) : known->name;
+        record->occurrences.reserveMore(added.size());
         steps.push_back({kept, record, added});
     }
     m_names.reserveMore(steps.size());
@@ -165,11 +167,10 @@ void OptionResultTable::storeApart(const OptionDescription& option, const Occurr
 
 StoredOption& OptionResultTable::copyRecord(const StoredOption& from)
 {
-    Occurrences occurrences(from.occurrences);
-    StoredOption& copy = m_records.emplace_back(OptionIdentity(), m_strings.memory());
-    copy.occurrences.append(std::move(occurrences));
-    copy.byDefault = from.byDefault;
-    return copy;
+    StoredOption copy(from);
+    copy.source = OptionIdentity();
+    copy.names = 0;
+    return m_records.emplace_back(std::move(copy));
 }
 
 // Lets a name lead to a record. A name that is new is kept, and there is room for it.
@@ -197,33 +198,22 @@ Occurrences OptionResultTable::makeOccurrences(OptionResult& record)
     {
         for (const std::int32_t position : record.positions)
         {
-            Occurrence occurrence;
-            occurrence.position = position;
-            occurrence.isPosition = true;
-            occurrences.append(std::move(occurrence));
+            occurrences.appendPosition(position);
         }
     }
     for (ValueEntry& entry : record.values)
     {
-        Occurrence occurrence = makeOccurrence(entry);
-        occurrence.isPosition = paired;
-        occurrences.append(std::move(occurrence));
+        occurrences.appendValue(keepText(entry), entry.value, entry.position, paired);
     }
     return occurrences;
 }
 
-// Moves a value out of an entry.
-Occurrence OptionResultTable::makeOccurrence(ValueEntry& entry)
+// Returns the text of a value as long as the result lives. A string value holds its own, in a block
+// that never moves.
+const wchar_t* OptionResultTable::keepText(const ValueEntry& entry)
 {
-    Occurrence occurrence;
-    // A string value holds its own text, in a block that never moves.
-    occurrence.text = entry.value.kind() == vexkit2::kind_wide_text
-                          ? entry.value.get<const wchar_t*>()
-                          : m_strings.keep(entry.text).data();
-    occurrence.value = std::move(entry.value);
-    occurrence.position = entry.position;
-    occurrence.isValue = true;
-    return occurrence;
+    return entry.value.kind() == vexkit2::kind_wide_text ? entry.value.get<const wchar_t*>()
+                                                         : m_strings.keep(entry.text).data();
 }
 
 // The default that a record brings, or none.

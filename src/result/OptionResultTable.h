@@ -62,13 +62,15 @@ public:
     [[nodiscard]] bool isFilledFrom(std::uint64_t identity) const noexcept;
 
 private:
-    [[nodiscard]] StoredOption* sharedRecord(const OptionDescription& option);
+    [[nodiscard]] StoredOption* findShared(const OptionDescription& option) noexcept;
+    void storeElsewhere(const OptionDescription& option, Occurrences added,
+                        std::optional<Occurrence> byDefault);
     [[nodiscard]] StoredOption& makeShared(const OptionDescription& option);
     void storeApart(const OptionDescription& option, const Occurrences& added);
     [[nodiscard]] StoredOption& copyRecord(const StoredOption& from);
     void bind(HashedText name, StoredOption& record) noexcept;
     [[nodiscard]] Occurrences makeOccurrences(OptionResult& record);
-    [[nodiscard]] Occurrence makeOccurrence(ValueEntry& entry);
+    [[nodiscard]] const wchar_t* keepText(const ValueEntry& entry);
     [[nodiscard]] std::optional<Occurrence> makeDefault(const OptionResult& record);
 
     Garbage& m_strings;

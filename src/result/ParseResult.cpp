@@ -2,6 +2,7 @@
 
 #include <cassert>
 #include <stdexcept>
+#include <utility>
 
 #include "support/text/HashedText.h"
 
@@ -17,11 +18,15 @@ result_t fill(Value* out, const Occurrence* found)
     const result_t status = found == nullptr ? result_nothing : result_success;
     if (out != nullptr)
     {
+        // Released last: the destructor of an object in it may begin another query.
+        const vexkit2::variant_t before(std::move(out->value));
         out->status = status;
         out->data = found == nullptr ? nullptr : found->text;
         out->position = found == nullptr ? no_position : found->position;
-        // Last: the destructor of an object that goes may begin another query.
-        out->value = found == nullptr ? vexkit2::variant_t() : found->value;
+        if (found != nullptr)
+        {
+            out->value = found->value;
+        }
     }
     return status;
 }
@@ -129,8 +134,8 @@ bool ParseResult::beginQuery(const wchar_t* name, std::int32_t from, std::int32_
     {
         return false;
     }
-    m_valueCursor = m_currentOption->occurrences.begin();
-    m_positionCursor = m_currentOption->occurrences.begin();
+    m_valueCursor = 0;
+    m_positionCursor = 0;
     return true;
 }
 

@@ -72,8 +72,8 @@ private:
     Garbage m_strings; // keeps every text handed out, so it is destroyed after what refers to it
     OptionResultTable m_options;
 
-    Occurrences::Place m_valueCursor;
-    Occurrences::Place m_positionCursor;
+    Occurrences::Place m_valueCursor = 0;
+    Occurrences::Place m_positionCursor = 0;
     std::int32_t m_rangeFrom = 0;
     std::int32_t m_rangeTo = no_position;
     const StoredOption* m_currentOption = nullptr;

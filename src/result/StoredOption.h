@@ -21,8 +21,6 @@ struct StoredOption
     {
     }
 
-    [[nodiscard]] bool empty() const noexcept { return occurrences.size() == 0 && !byDefault; }
-
     // The declaration that the record was made for, under all names that this had then. Nothing but
     // what belongs to that declaration is in it as long as `names` is their number.
     OptionIdentity source;

@@ -32,7 +32,12 @@ public:
     std::wstring_view internText(std::wstring_view text);
 
     // Returns a null-terminated copy of the text, which equal texts do not share.
-    std::wstring_view keep(std::wstring_view text);
+    std::wstring_view keep(std::wstring_view text)
+    {
+        wchar_t* const copy = roomFor(text.size());
+        text.copy(copy, text.size());
+        return {copy, text.size()};
+    }
 
     // As keep, of two texts one behind the other.
     std::wstring_view keepJoined(std::wstring_view first, std::wstring_view second);
@@ -41,7 +46,14 @@ public:
     [[nodiscard]] Arena& memory() noexcept { return m_memory; }
 
 private:
-    [[nodiscard]] wchar_t* roomFor(std::size_t length);
+    // Room for a text of `length` characters, with the zero behind it.
+    [[nodiscard]] wchar_t* roomFor(std::size_t length)
+    {
+        void* const memory = m_memory.take((length + 1) * sizeof(wchar_t), alignof(wchar_t));
+        auto* const room = static_cast<wchar_t*>(memory);
+        room[length] = L'\0';
+        return room;
+    }
 
     Arena m_memory;
     std::pmr::set<std::wstring_view> m_interned;

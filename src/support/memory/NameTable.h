@@ -102,6 +102,7 @@ private:
             }
         }
         m_slots.swap(slots);
+        m_mask = m_slots.size() - 1;
     }
 
     // A power of two, at least twice the number of entries: searches end after few steps.
@@ -110,15 +111,22 @@ private:
         return 2 * std::bit_ceil(entries);
     }
 
+    // The slot where a search begins: the highest bits of the hash, as many as the mask has. Lower
+    // ones do not depend on all characters of the text.
+    [[nodiscard]] static std::size_t firstPlace(std::uint32_t hash, std::size_t mask) noexcept
+    {
+        return hash >> std::countl_zero(static_cast<std::uint32_t>(mask));
+    }
+
     // The slot of the name, or the free one where it belongs.
     [[nodiscard]] std::size_t placeOf(HashedText name) const noexcept
     {
-        const std::size_t mask = m_slots.size() - 1;
-        std::size_t place = name.hash() & mask;
-        while (m_slots[place].number != no_entry &&
-               (m_slots[place].hash != name.hash() || m_entries[m_slots[place].number].name != name))
+        const Slot* const slots = m_slots.data();
+        std::size_t place = firstPlace(name.hash(), m_mask);
+        while (slots[place].number != no_entry &&
+               (slots[place].hash != name.hash() || m_entries[slots[place].number].name != name))
         {
-            place = (place + 1) & mask;
+            place = (place + 1) & m_mask;
         }
         return place;
     }
@@ -127,7 +135,7 @@ private:
                                                  std::uint32_t hash) noexcept
     {
         const std::size_t mask = slots.size() - 1;
-        std::size_t place = hash & mask;
+        std::size_t place = firstPlace(hash, mask);
         while (slots[place].number != no_entry)
         {
             place = (place + 1) & mask;
@@ -137,6 +145,7 @@ private:
 
     std::pmr::vector<Entry> m_entries;
     std::pmr::vector<Slot> m_slots;
+    std::size_t m_mask = m_slots.size() - 1;
 };
 
 } // namespace kexa_3_3

@@ -13,9 +13,10 @@ namespace kexa_3_3
 {
 
 // The hash of a text, taken character by character. Two steps a character, since each waits for the
-// one before; the product at the end spreads what they gathered over all bits (multiplicative
-// hashing by the golden ratio: D. E. Knuth, The Art of Computer Programming, 6.4). Only texts that a
-// host declares are stored in tables, so the hash need not withstand an enemy who chooses them.
+// one before; the product at the end gathers in its highest bits what depends on all characters
+// (multiplicative hashing by the golden ratio: D. E. Knuth, The Art of Computer Programming, 6.4).
+// Only texts that a host declares are stored in tables, so the hash need not withstand an enemy who
+// chooses them.
 class TextHash
 {
 public:

@@ -9,27 +9,21 @@
 namespace unit
 {
 
-// Makes the option known to the index as a registry does. From then on the index learns of further
-// names, of values and of the option becoming positional.
+// Makes the option known to the index as a registry does. The index learns from then on of further
+// names and of the option becoming positional.
 //
-// tableIndex: what the index tells the option by, which no other has.
+// number: the option's place in table order, which no other option of the index has.
 inline void enterOption(kexa_3_3::OptionDescription& option, kexa_3_3::OptionIndex& index,
-                        std::size_t tableIndex)
+                        std::size_t number)
 {
-    index.reserve(option.names.size());
-    option.setPlace(index, tableIndex);
-    for (const kexa_3_3::HashedText& name : option.names)
+    const bool boolean = option.valueType == kexa_3_3::value_type_boolean;
+    index.reserveMore(option.names.size());
+    for (kexa_3_3::HashedText& name : option.names)
     {
-        index.add(name, tableIndex, option.valueType == kexa_3_3::value_type_boolean);
+        name = index.keep(name, boolean);
+        index.add(name, number, boolean);
     }
-    if (option.isPositional())
-    {
-        index.notePositional(tableIndex);
-    }
-    if (option.holdsValues())
-    {
-        index.noteValues();
-    }
+    option.enterInto(index, number);
 }
 
 } // namespace unit

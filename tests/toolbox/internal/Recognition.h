@@ -14,10 +14,11 @@
 #include "options/RegisteredOptionStorage.h"
 #include "recognition/IArgumentParser.h"
 #include "result/IResultCollector.h"
-#include "support/Garbage.h"
-#include "support/SharedTexts.h"
+#include "support/memory/Garbage.h"
+#include "support/memory/SharedTexts.h"
 
 #include "GivenArguments.h"
+#include "HeapOnly.h"
 #include "TextPrinting.h"
 
 namespace unit
@@ -77,7 +78,7 @@ protected:
     };
     Outcome run(kexa_3_3::IArgumentParser& parser, const Texts& arguments);
 
-    kexa_3_3::Garbage pool{4096};
+    kexa_3_3::Garbage pool{unit::heap_only};
     kexa_3_3::RegisteredOptionStorage options{pool, L','};
     Handler handler;
     Collector collector;

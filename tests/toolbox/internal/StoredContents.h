@@ -2,36 +2,17 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
-#include <string_view>
 #include <vector>
-
-#include "kexa/variant.h"
 
 #include "result/StoredOption.h"
 
 namespace unit
 {
 
-struct StoredValue
-{
-    const wchar_t* text;
-    vexkit2::variant_t value;
-    std::int32_t position;
-};
-
-inline StoredValue storedValueOf(const kexa_3_3::Occurrence& occurrence)
-{
-    StoredValue stored = {occurrence.text, {}, occurrence.position};
-    kexa_3_3::SharedTexts none;
-    occurrence.copyValueTo(stored.value, none);
-    return stored;
-}
-
 inline std::vector<std::int32_t> positionsOf(const kexa_3_3::StoredOption& option)
 {
     std::vector<std::int32_t> positions;
-    kexa_3_3::Occurrences::Place place = option.occurrences.begin();
+    kexa_3_3::Occurrences::Place place = 0;
     while (const kexa_3_3::Occurrence* const occurrence = option.occurrences.nextPosition(place))
     {
         positions.push_back(occurrence->position);
@@ -39,13 +20,13 @@ inline std::vector<std::int32_t> positionsOf(const kexa_3_3::StoredOption& optio
     return positions;
 }
 
-inline std::vector<StoredValue> valuesOf(const kexa_3_3::StoredOption& option)
+inline std::vector<kexa_3_3::Occurrence> valuesOf(const kexa_3_3::StoredOption& option)
 {
-    std::vector<StoredValue> values;
-    kexa_3_3::Occurrences::Place place = option.occurrences.begin();
+    std::vector<kexa_3_3::Occurrence> values;
+    kexa_3_3::Occurrences::Place place = 0;
     while (const kexa_3_3::Occurrence* const occurrence = option.occurrences.nextValue(place))
     {
-        values.push_back(storedValueOf(*occurrence));
+        values.push_back(*occurrence);
     }
     return values;
 }

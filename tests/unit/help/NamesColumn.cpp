@@ -4,8 +4,9 @@
 
 #include "help/OptionListing.h"
 #include "options/OptionDescription.h"
-#include "support/Garbage.h"
+#include "support/memory/Garbage.h"
 
+#include "HeapOnly.h"
 #include "TextPrinting.h"
 
 namespace
@@ -19,7 +20,7 @@ const OptionGroup no_group;
 std::wstring column(std::int32_t valueType, const std::function<void(IOption&)>& build,
                     bool isSwitch = false)
 {
-    Garbage pool(4096);
+    Garbage pool{unit::heap_only};
     OptionDescription option(no_group, isSwitch, pool);
     option.valueType = valueType;
     build(option);

@@ -6,8 +6,9 @@
 #include <vector>
 
 #include "options/OptionDescription.h"
-#include "support/Garbage.h"
+#include "support/memory/Garbage.h"
 
+#include "HeapOnly.h"
 #include "TextPrinting.h"
 
 namespace
@@ -32,7 +33,7 @@ protected:
         return option;
     }
 
-    Garbage pool{4096};
+    Garbage pool{unit::heap_only};
     std::deque<OptionGroup> groups;
     std::deque<OptionDescription> options;
     std::vector<const OptionDescription*> entries;

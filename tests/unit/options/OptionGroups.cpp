@@ -4,8 +4,9 @@
 #include <vector>
 
 #include "options/RegisteredOptionStorage.h"
-#include "support/Garbage.h"
+#include "support/memory/Garbage.h"
 
+#include "HeapOnly.h"
 #include "TextPrinting.h"
 
 namespace
@@ -13,7 +14,17 @@ namespace
 
 using namespace kexa_3_3;
 
-using Groups = std::vector<OptionGroup>;
+using Groups = std::vector<std::pair<std::wstring, std::wstring>>;
+
+Groups groupsOf(const RegisteredOptionStorage& options)
+{
+    Groups groups;
+    for (const OptionGroup& group : options.groups())
+    {
+        groups.emplace_back(group.name, group.text);
+    }
+    return groups;
+}
 
 class OptionGroups : public testing::Test
 {
@@ -23,7 +34,7 @@ protected:
         return options.registerOption(names, nullptr, L"", false, value_type_string, groupText);
     }
 
-    Garbage pool{4096};
+    Garbage pool{unit::heap_only};
     RegisteredOptionStorage options{pool, L','};
 };
 
@@ -38,19 +49,19 @@ TEST_F(OptionGroups, GroupIsCutAtItsFirstColon)
     add(L"g", L":Of no group");
     add(L"h", L"");
     add(L"i", L"Advanced:");
-    EXPECT_EQ(options.groups(), (Groups{{L"advanced", L"Advanced options"},
+    EXPECT_EQ(groupsOf(options), (Groups{{L"advanced", L"Advanced options"},
                                         {L"plain", L""},
                                         {L"x", L"y:z"},
                                         {L"", L"Of no group"},
                                         {L"Advanced", L""}}));
     for (const std::size_t index : {0U, 1U, 2U})
     {
-        EXPECT_EQ(options[index].group(), L"advanced") << index;
-        EXPECT_EQ(options[index].groupText(), L"Advanced options") << index;
+        EXPECT_EQ(options[index].group.name, L"advanced") << index;
+        EXPECT_EQ(options[index].group.text, L"Advanced options") << index;
     }
-    EXPECT_EQ(options[4].groupText(), L"");
-    EXPECT_EQ(options[5].groupText(), L"y:z");
-    EXPECT_EQ(options[7].groupText(), L"Of no group");
+    EXPECT_EQ(options[4].group.text, L"");
+    EXPECT_EQ(options[5].group.text, L"y:z");
+    EXPECT_EQ(options[7].group.text, L"Of no group");
 }
 
 TEST_F(OptionGroups, DeclarationsOfOneGroupMayStandTogetherOrApart)
@@ -65,10 +76,10 @@ TEST_F(OptionGroups, DeclarationsOfOneGroupMayStandTogetherOrApart)
     {
         add(std::to_wstring(found.size()).c_str(), groupText);
         const OptionDescription& option = options[found.size()];
-        found.emplace_back(option.group(), option.groupText());
+        found.emplace_back(option.group.name, option.group.text);
     }
     EXPECT_EQ(found, expected);
-    EXPECT_EQ(options.groups(), (Groups{{L"x", L""}, {L"y", L"Why"}, {L"", L""}, {L"z", L""}}));
+    EXPECT_EQ(groupsOf(options), (Groups{{L"x", L""}, {L"y", L"Why"}, {L"", L""}, {L"z", L""}}));
 }
 
 TEST_F(OptionGroups, ManyGroupsAreEachListedOnce)
@@ -83,8 +94,8 @@ TEST_F(OptionGroups, ManyGroupsAreEachListedOnce)
     for (std::size_t number = 0; number < 300; ++number)
     {
         const std::wstring number7 = std::to_wstring(number * 7 % 100);
-        ASSERT_EQ(options[number].group(), L"g" + number7);
-        ASSERT_EQ(options[number].groupText(), L"text " + std::to_wstring(number % 100));
+        ASSERT_EQ(options[number].group.name, L"g" + number7);
+        ASSERT_EQ(options[number].group.text, L"text " + std::to_wstring(number % 100));
     }
 }
 

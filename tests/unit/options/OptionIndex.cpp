@@ -1,27 +1,32 @@
 // The index of names, compared with a walk over all of them.
 #include "options/OptionIndex.h"
 
-#include <deque>
+#include <optional>
 #include <random>
 #include <string>
 #include <vector>
 
+#include "support/memory/Garbage.h"
+
+#include "HeapOnly.h"
 #include "TextPrinting.h"
 
 namespace
 {
 
+using kexa_3_3::Garbage;
 using kexa_3_3::HashedText;
 using kexa_3_3::OptionIndex;
 using toolbox::toUtf8;
 
 using Texts = std::vector<std::wstring>;
 
+using Found = std::optional<std::size_t>;
+
 struct Option
 {
     bool boolean;
-    std::deque<std::wstring> names; // a name stays where it is when others come
-    std::deque<HashedText> hashedNames = {};
+    Texts names;
 };
 
 bool beginsWith(const std::wstring& text, const std::wstring& beginning)
@@ -33,19 +38,19 @@ bool beginsWith(const std::wstring& text, const std::wstring& beginning)
 class NaiveTable
 {
 public:
-    std::deque<Option> options;
+    std::vector<Option> options;
 
-    [[nodiscard]] std::int64_t findNamed(const std::wstring& text) const
+    [[nodiscard]] Found findNamed(const std::wstring& text) const
     {
         return find(text, false);
     }
-    [[nodiscard]] std::int64_t findAnswering(const std::wstring& text) const
+    [[nodiscard]] Found findCandidate(const std::wstring& text) const
     {
         return find(text, true);
     }
 
-    // The matching candidates in table order; the option of the last goes to `option`.
-    [[nodiscard]] Texts candidates(const std::wstring& beginning, std::int64_t& option) const
+    // The candidates that begin with a text, in table order; `option` receives that of the last.
+    [[nodiscard]] Texts candidates(const std::wstring& beginning, std::size_t& option) const
     {
         Texts matches;
         for (std::size_t index = 0; index < options.size(); ++index)
@@ -58,7 +63,7 @@ public:
                         beginsWith(prefix + name, beginning))
                     {
                         matches.push_back(prefix + name);
-                        option = static_cast<std::int64_t>(index);
+                        option = index;
                     }
                 }
             }
@@ -67,7 +72,7 @@ public:
     }
 
 private:
-    [[nodiscard]] std::int64_t find(const std::wstring& text, bool negations) const
+    [[nodiscard]] Found find(const std::wstring& text, bool negations) const
     {
         for (std::size_t index = 0; index < options.size(); ++index)
         {
@@ -75,28 +80,33 @@ private:
             {
                 if (name == text || (negations && options[index].boolean && L"no-" + name == text))
                 {
-                    return static_cast<std::int64_t>(index);
+                    return index;
                 }
             }
         }
-        return OptionIndex::none;
+        return std::nullopt;
     }
 };
+
+Texts listPrefix(const OptionIndex& index, std::wstring_view beginning)
+{
+    const std::vector<std::wstring_view> texts = index.listPrefix(beginning);
+    return Texts(texts.begin(), texts.end());
+}
 
 void expectAgreement(const OptionIndex& index, const NaiveTable& table, const std::wstring& text)
 {
     ASSERT_EQ(index.findNamed(HashedText(text)), table.findNamed(text)) << toUtf8(text);
-    ASSERT_EQ(index.findAnswering(text), table.findAnswering(text)) << toUtf8(text);
-    std::int64_t option = OptionIndex::none;
+    ASSERT_EQ(index.findCandidate(HashedText(text)), table.findCandidate(text)) << toUtf8(text);
+    std::size_t option = 0;
     const Texts candidates = table.candidates(text, option);
-    ASSERT_EQ(index.listPrefix(text), candidates) << toUtf8(text);
+    ASSERT_EQ(listPrefix(index, text), candidates) << toUtf8(text);
     const OptionIndex::PrefixMatches matches = index.matchPrefix(text);
     ASSERT_EQ(matches.count, candidates.size()) << toUtf8(text);
     if (matches.count == 1)
     {
         ASSERT_EQ(matches.option, option) << toUtf8(text);
-        ASSERT_EQ((matches.negated ? L"no-" : L"") + std::wstring(matches.name), candidates[0])
-            << toUtf8(text);
+        ASSERT_EQ(matches.candidate, candidates[0]) << toUtf8(text);
     }
 }
 
@@ -104,8 +114,9 @@ void addName(OptionIndex& index, NaiveTable& table, std::size_t option, const st
 {
     Option& target = table.options[option];
     target.names.push_back(name);
-    index.reserve(1);
-    index.add(target.hashedNames.emplace_back(target.names.back()), option, target.boolean);
+    const HashedText kept = index.keep(HashedText(name), target.boolean);
+    index.reserveMore(1);
+    index.add(kept, option, target.boolean);
 }
 
 // Short texts over few characters, so that names meet, begin each other and look like negations.
@@ -131,12 +142,21 @@ private:
     std::mt19937_64 m_random;
 };
 
+class OptionIndexTest : public testing::Test
+{
+protected:
+    Garbage pool{unit::heap_only};
+    OptionIndex index{pool};
+    NaiveTable table;
+};
+
 TEST(OptionIndex, AgreesWithAWalkOverTheTable)
 {
     for (unsigned seed = 0; seed < 60; ++seed)
     {
         RandomTexts random(seed);
-        OptionIndex index;
+        Garbage pool{unit::heap_only};
+        OptionIndex index(pool);
         NaiveTable table;
         for (int step = 0; step < 60; ++step)
         {
@@ -168,81 +188,70 @@ TEST(OptionIndex, AgreesWithAWalkOverTheTable)
     }
 }
 
-TEST(OptionIndex, EmptyIndexFindsNothing)
+TEST_F(OptionIndexTest, EmptyIndexFindsNothing)
 {
-    const OptionIndex index;
     for (const wchar_t* const text : {L"", L"a", L"no-", L"no-a"})
     {
-        EXPECT_EQ(index.findNamed(HashedText(text)), OptionIndex::none);
-        EXPECT_EQ(index.findAnswering(text), OptionIndex::none);
+        EXPECT_FALSE(index.findNamed(HashedText(text)));
+        EXPECT_FALSE(index.findCandidate(HashedText(text)));
         EXPECT_EQ(index.matchPrefix(text).count, 0U);
-        EXPECT_EQ(index.matchPrefix(text).option, OptionIndex::none);
-        EXPECT_EQ(index.listPrefix(text), Texts());
+        EXPECT_EQ(listPrefix(index, text), Texts());
     }
-    EXPECT_EQ(index.firstPositional(), OptionIndex::none);
+    EXPECT_FALSE(index.firstPositional());
 }
 
-TEST(OptionIndex, ListIsInTableOrderWhateverTheOrderOfAdding)
+TEST_F(OptionIndexTest, ListIsInTableOrderWhateverTheOrderOfAdding)
 {
-    OptionIndex index;
-    NaiveTable table;
     table.options = {{true, {}}, {false, {}}, {true, {}}};
     addName(index, table, 2, L"no");
     addName(index, table, 0, L"note");
-    EXPECT_EQ(index.listPrefix(L"no"), (Texts{L"note", L"no-note", L"no", L"no-no"}));
+    EXPECT_EQ(listPrefix(index, L"no"), (Texts{L"note", L"no-note", L"no", L"no-no"}));
     addName(index, table, 1, L"north");
     addName(index, table, 0, L"nothing");
-    EXPECT_EQ(index.listPrefix(L"no"),
+    EXPECT_EQ(listPrefix(index, L"no"),
               (Texts{L"note", L"no-note", L"nothing", L"no-nothing", L"north", L"no", L"no-no"}));
-    EXPECT_EQ(index.listPrefix(L"no-no"), (Texts{L"no-note", L"no-nothing", L"no-no"}));
+    EXPECT_EQ(listPrefix(index, L"no-no"), (Texts{L"no-note", L"no-nothing", L"no-no"}));
 }
 
-TEST(OptionIndex, NameAndNegationOfTwoOptionsGoToTheFirst)
+TEST_F(OptionIndexTest, NameAndNegationOfTwoOptionsGoToTheFirst)
 {
-    OptionIndex index;
-    NaiveTable table;
     table.options = {{false, {}}, {true, {}}, {false, {}}};
     addName(index, table, 2, L"no-a");
     addName(index, table, 1, L"a");
-    EXPECT_EQ(index.findAnswering(L"no-a"), 1);
-    EXPECT_EQ(index.findNamed(HashedText(L"no-a")), 2);
+    EXPECT_EQ(index.findCandidate(HashedText(L"no-a")), Found(1));
+    EXPECT_EQ(index.findNamed(HashedText(L"no-a")), Found(2));
     addName(index, table, 0, L"no-a");
-    EXPECT_EQ(index.findAnswering(L"no-a"), 0);
+    EXPECT_EQ(index.findCandidate(HashedText(L"no-a")), Found(0));
 }
 
-TEST(OptionIndex, SharedNameGoesToTheFirstAndItsNegationToTheFirstBooleanOption)
+TEST_F(OptionIndexTest, SharedNameGoesToTheFirstAndItsNegationToTheFirstBooleanOption)
 {
-    OptionIndex index;
-    NaiveTable table;
     table.options = {{false, {}}, {true, {}}, {false, {}}, {true, {}}};
-    const auto expectFound = [&index](std::int64_t named, std::int64_t negated)
+    const auto expectFound = [this](Found named, Found negated)
     {
         EXPECT_EQ(index.findNamed(HashedText(L"a")), named);
-        EXPECT_EQ(index.findAnswering(L"no-a"), negated);
-        EXPECT_EQ(index.listPrefix(L"no-").size(), negated == OptionIndex::none ? 0U : 1U);
+        EXPECT_EQ(index.findCandidate(HashedText(L"no-a")), negated);
+        EXPECT_EQ(index.matchPrefix(L"no-").count, negated ? 1U : 0U);
     };
     addName(index, table, 2, L"a");
-    expectFound(2, OptionIndex::none);
-    EXPECT_FALSE(index.sharesNames());
+    expectFound(2, std::nullopt);
     addName(index, table, 0, L"a");
-    expectFound(0, OptionIndex::none);
-    EXPECT_TRUE(index.sharesNames());
+    expectFound(0, std::nullopt);
     addName(index, table, 3, L"a");
     expectFound(0, 3);
     addName(index, table, 1, L"a");
-    EXPECT_EQ(index.findAnswering(L"no-a"), 1);
-    EXPECT_EQ(index.listPrefix(L""), (Texts{L"a", L"a", L"no-a", L"a", L"a", L"no-a"}));
+    EXPECT_EQ(index.findCandidate(HashedText(L"no-a")), Found(1));
+    EXPECT_EQ(listPrefix(index, L""), (Texts{L"a", L"a", L"no-a", L"a", L"a", L"no-a"}));
 }
 
-TEST(OptionIndex, FirstPositionalIsTheFirstInTableOrder)
+TEST_F(OptionIndexTest, FirstPositionalIsTheFirstInTableOrder)
 {
-    OptionIndex index;
     index.notePositional(7);
-    EXPECT_EQ(index.firstPositional(), 7);
+    EXPECT_EQ(index.firstPositional(), Found(7));
     index.notePositional(9);
-    EXPECT_EQ(index.firstPositional(), 7);
+    EXPECT_EQ(index.firstPositional(), Found(7));
     index.notePositional(0);
-    EXPECT_EQ(index.firstPositional(), 0);
+    EXPECT_EQ(index.firstPositional(), Found(0));
 }
 
 } // namespace

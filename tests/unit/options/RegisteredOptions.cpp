@@ -1,11 +1,13 @@
 // The registry of options.
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "options/RegisteredOptionStorage.h"
-#include "support/Garbage.h"
+#include "support/memory/Garbage.h"
 
 #include "ConsoleCapture.h"
+#include "HeapOnly.h"
 #include "TextPrinting.h"
 
 namespace
@@ -17,17 +19,35 @@ using toolbox::toUtf8;
 using vexkit2::variant_t;
 
 using Texts = std::vector<std::wstring>;
-using Groups = std::vector<OptionGroup>;
+using Groups = std::vector<std::pair<std::wstring, std::wstring>>;
 
+std::wstring_view textOf(std::wstring_view text)
+{
+    return text;
+}
+std::wstring_view textOf(const HashedText& text)
+{
+    return text.text();
+}
 template <class Container>
 Texts textsOf(const Container& container)
 {
     Texts texts;
-    for (const std::wstring_view text : container)
+    for (const auto& text : container)
     {
-        texts.emplace_back(text);
+        texts.emplace_back(textOf(text));
     }
     return texts;
+}
+
+Groups groupsOf(const RegisteredOptionStorage& options)
+{
+    Groups groups;
+    for (const OptionGroup& group : options.groups())
+    {
+        groups.emplace_back(group.name, group.text);
+    }
+    return groups;
 }
 
 class RegisteredOptions : public testing::Test
@@ -38,7 +58,7 @@ protected:
         return options.registerOption(names, nullptr, L"", false, value_type_string, groupText);
     }
 
-    Garbage pool{4096};
+    Garbage pool{unit::heap_only};
     RegisteredOptionStorage options{pool, L','};
 };
 
@@ -53,9 +73,9 @@ TEST_F(RegisteredOptions, FullRegistrationSetsEveryMember)
     EXPECT_EQ(registration.status, 3);
     EXPECT_EQ(option.kind, 0);
     EXPECT_EQ(textsOf(option.names), (Texts{L"output", L"o"}));
-    EXPECT_EQ(textsOf(option.keywords), (Texts{L"a", L"b"}));
-    EXPECT_EQ(option.group(), L"files");
-    EXPECT_EQ(option.groupText(), L"All files");
+    EXPECT_EQ(textsOf(option.keywords()), (Texts{L"a", L"b"}));
+    EXPECT_EQ(option.group.name, L"files");
+    EXPECT_EQ(option.group.text, L"All files");
     EXPECT_EQ(option.description, L"where to write");
     EXPECT_EQ(option.valueMode, 1U);
     EXPECT_EQ(option.valueType, 6);
@@ -73,10 +93,10 @@ TEST_F(RegisteredOptions, SwitchHasItsNamesAsKeywords)
     EXPECT_EQ(options[0].valueMode, 0U);
     EXPECT_EQ(options[0].valueType, 0);
     EXPECT_EQ(options[0].description, L"lists");
-    EXPECT_EQ(options[0].group(), L"actions");
-    EXPECT_EQ(textsOf(options[0].keywords), (Texts{L"l", L"list", L"ls"}));
+    EXPECT_EQ(options[0].group.name, L"actions");
+    EXPECT_EQ(textsOf(options[0].keywords()), (Texts{L"l", L"list", L"ls"}));
     EXPECT_EQ(options[1].valueMode, 0U);
-    EXPECT_EQ(textsOf(options[1].keywords), (Texts{L"list", L"p", L"pack", L"zip"}));
+    EXPECT_EQ(textsOf(options[1].keywords()), (Texts{L"list", L"p", L"pack", L"zip"}));
 }
 
 TEST_F(RegisteredOptions, ValueOptionHasItsKeywordsOnly)
@@ -86,17 +106,17 @@ TEST_F(RegisteredOptions, ValueOptionHasItsKeywordsOnly)
     EXPECT_EQ(options[0].valueMode, 1U);
     EXPECT_EQ(options[0].valueType, 7);
     EXPECT_EQ(options[0].description, L"how much");
-    EXPECT_EQ(options[0].group(), L"g");
-    EXPECT_EQ(textsOf(options[0].keywords), (Texts{L"pack"}));
+    EXPECT_EQ(options[0].group.name, L"g");
+    EXPECT_EQ(textsOf(options[0].keywords()), (Texts{L"pack"}));
 }
 
 TEST_F(RegisteredOptions, NullTextsAreEmpty)
 {
     options.registerOption(L"out", nullptr, nullptr, false, 13, nullptr);
     ASSERT_EQ(options.size(), 1U);
-    EXPECT_EQ(textsOf(options[0].keywords), Texts());
+    EXPECT_EQ(textsOf(options[0].keywords()), Texts());
     EXPECT_EQ(options[0].description, L"");
-    EXPECT_EQ(options[0].group(), L"");
+    EXPECT_EQ(options[0].group.name, L"");
     EXPECT_EQ(add(nullptr).status, 1);
 }
 
@@ -113,9 +133,9 @@ TEST_F(RegisteredOptions, TextsAreCopied)
         text->assign(text->size(), L'x');
     }
     EXPECT_EQ(textsOf(options[0].names), (Texts{L"output", L"o"}));
-    EXPECT_EQ(textsOf(options[0].keywords), (Texts{L"key"}));
+    EXPECT_EQ(textsOf(options[0].keywords()), (Texts{L"key"}));
     EXPECT_EQ(options[0].description, L"text");
-    EXPECT_EQ(options.groups(), (Groups{{L"files", L"All"}}));
+    EXPECT_EQ(groupsOf(options), (Groups{{L"files", L"All"}}));
     EXPECT_EQ(options.find(L"output"), &options[0]);
 }
 
@@ -143,7 +163,7 @@ TEST_F(RegisteredOptions, CountOfNamesDecides)
                 {L"a,a", {L"a", L"a"}}};
     for (const auto& row : rows)
     {
-        Garbage texts(4096);
+        Garbage texts{unit::heap_only};
         RegisteredOptionStorage registry(texts, L',');
         const std::string output = captureOutput(
             [&] { registry.registerOption(row.names, nullptr, L"", false, 13, L""); });
@@ -174,9 +194,9 @@ TEST_F(RegisteredOptions, FailureLeavesANewGroupOnly)
     {
         EXPECT_EQ(options.find(name), nullptr) << toUtf8(name);
     }
-    EXPECT_EQ(options.index().listPrefix(L""), (Texts{L"out", L"o"}));
+    EXPECT_EQ(textsOf(options.index().listPrefix(L"")), (Texts{L"out", L"o"}));
     EXPECT_EQ(
-        options.groups(),
+        groupsOf(options),
         (Groups{
             {L"first", L"First"}, {L"gx,out", L"text"}, {L"g", L"text"}, {L"ga,b,cde", L"text"}}));
     EXPECT_EQ(add(L"x").status, 3);
@@ -234,7 +254,7 @@ TEST_F(RegisteredOptions, FindsTheFirstOptionWithTheWholeName)
     }
 }
 
-TEST_F(RegisteredOptions, KnowsWhetherAnActionIsDeclared)
+TEST_F(RegisteredOptions, HasActionsOnceASwitchIsDeclared)
 {
     EXPECT_FALSE(options.hasActions());
     options.registerValueOption(L"a", L"k", L"", value_type_boolean, L"");
@@ -264,7 +284,7 @@ TEST(RegisteredOptionsGrowth, NamesOfOneDeclarationStayTogether)
 {
     for (int before = 0; before < 140; ++before)
     {
-        Garbage pool{4096};
+        Garbage pool{unit::heap_only};
         RegisteredOptionStorage options(pool, L',');
         const auto add = [&options](const std::wstring& names)
         {
@@ -289,7 +309,7 @@ TEST(RegisteredOptionsGrowth, NamesOfOneDeclarationStayTogether)
             const std::wstring name = L"n" + std::to_wstring(number);
             ASSERT_EQ(options.find(name), &options[number]) << before;
             ASSERT_EQ(options[number].names.size(), 1U) << before;
-            ASSERT_TRUE(options[number].answersTo(name)) << before;
+            ASSERT_TRUE(options[number].hasName(name)) << before;
         }
     }
 }
@@ -313,7 +333,7 @@ TEST(RegisteredOptionsLife, OptionsAreFreedInTheOrderOfRegistration)
 {
     std::vector<int> destroyed;
     {
-        Garbage pool(4096);
+        Garbage pool{unit::heap_only};
         RegisteredOptionStorage options(pool, L',');
         for (int number = 0; number < 8; ++number)
         {
@@ -358,7 +378,7 @@ TEST(RegisteredOptionsLife, OneValueOfAnyKindIsFreed)
     int number = 0;
     for (const Give give : ways)
     {
-        Garbage pool(4096);
+        Garbage pool{unit::heap_only};
         RegisteredOptionStorage options(pool, L',');
         options.registerOption(L"before", nullptr, L"", false, 13, L"");
         IOption& option = *options.registerSwitch(L"holder", L"", 0, L"").option;

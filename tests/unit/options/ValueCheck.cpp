@@ -5,10 +5,11 @@
 
 #include "options/OptionDescription.h"
 #include "options/ValueConversion.h"
-#include "support/Garbage.h"
-#include "support/SharedTexts.h"
+#include "support/memory/Garbage.h"
+#include "support/memory/SharedTexts.h"
 
 #include "ConsoleCapture.h"
+#include "HeapOnly.h"
 #include "TextPrinting.h"
 
 namespace
@@ -66,7 +67,7 @@ protected:
         EXPECT_EQ(warning, "") << toUtf8(text);
     }
 
-    Garbage pool{4096};
+    Garbage pool{unit::heap_only};
     OptionDescription option{no_group, false, pool};
     ValueVerdict verdict = ValueVerdict::refused;
     variant_t value;
@@ -110,19 +111,6 @@ TEST_F(ValueCheck, CompletedTextIsOwnedByTheValue)
         EXPECT_EQ(convertAndCheck(shortLived, L"f", value), ValueVerdict::changed);
     }
     EXPECT_EQ(value, variant_t(L"fast"));
-}
-
-// The text typed is of no use behind its completion, so it must not take room in a result.
-TEST_F(ValueCheck, AbbreviationLeavesNothingBesideItsCompletion)
-{
-    option.addAllowedValue(variant_t(L"automatic"));
-    SharedTexts texts;
-    variant_t probe = texts.add(L"a text that takes the place of the next one");
-    const wchar_t* const place = probe.get<const wchar_t*>();
-    texts.discard(probe);
-    ASSERT_EQ(convertAndCheck(option, L"auto", value, &texts), ValueVerdict::changed);
-    EXPECT_EQ(value, variant_t(L"automatic"));
-    EXPECT_EQ(value.get<const wchar_t*>(), place);
 }
 
 TEST_F(ValueCheck, ReferencesAndNarrowTextsAreCompletedToOwnedText)
@@ -223,7 +211,7 @@ TEST_F(ValueCheckOfIntegers, ValuesAreComparedAcrossKinds)
 
 TEST(ValueCheckOfNamelessOption, MessagesHaveAnEmptyName)
 {
-    Garbage pool(1024);
+    Garbage pool{unit::heap_only};
     OptionDescription option(no_group, false, pool);
     option.valueType = value_type_double;
     variant_t value;

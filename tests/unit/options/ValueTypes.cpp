@@ -4,8 +4,9 @@
 #include "options/OptionDescription.h"
 #include "options/ValueConversion.h"
 #include "options/ValueType.h"
-#include "support/Garbage.h"
+#include "support/memory/Garbage.h"
 
+#include "HeapOnly.h"
 #include "TextPrinting.h"
 
 namespace
@@ -47,7 +48,7 @@ TEST(ValueTypes, SevenTypesHaveAName)
             break;
         }
         EXPECT_EQ(std::wstring(typeName(type)), expected) << type;
-        Garbage pool(1024);
+        Garbage pool{unit::heap_only};
         OptionDescription option(no_group, false, pool);
         option.valueType = type;
         EXPECT_EQ(std::wstring(typeName(option)), expected) << type;

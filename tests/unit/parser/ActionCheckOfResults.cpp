@@ -11,8 +11,9 @@
 #include "options/OptionDescription.h"
 #include "options/RegisteredOptionStorage.h"
 #include "result/ParseResult.h"
-#include "support/Garbage.h"
+#include "support/memory/Garbage.h"
 
+#include "HeapOnly.h"
 #include "TextPrinting.h"
 
 namespace
@@ -66,7 +67,7 @@ protected:
         return answer(code, message);
     }
 
-    Garbage pool{4096};
+    Garbage pool{unit::heap_only};
     RegisteredOptionStorage options{pool, L','};
     ParseResult result;
     ActionGroups groups;
@@ -256,10 +257,10 @@ std::wstring walk(const std::vector<std::wstring>& entries, const RegisteredOpti
     for (const std::wstring& name : entries)
     {
         const OptionDescription* const option = options.find(name);
-        const bool accepted = option->valueMode == 0 || option->keywords.empty() ||
-                              std::any_of(option->keywords.begin(), option->keywords.end(),
+        const bool accepted = option->valueMode == 0 || option->keywords().empty() ||
+                              std::any_of(option->keywords().begin(), option->keywords().end(),
                                           [chosen](std::wstring_view keyword)
-                                          { return chosen->keywords.contains(keyword); });
+                                          { return chosen->keywords().contains(keyword); });
         if (!accepted)
         {
             return answer(2, L"Action '-" + std::wstring(chosen->primaryName()) +
@@ -281,7 +282,7 @@ TEST(ActionCheckComparison, EveryResultIsCheckedAsAWalkDoes)
             return static_cast<unsigned>(random() % bound);
         };
         const std::wstring names[] = {L"a", L"b", L"c", L"d", L"e", L"f", L"g", L"h"};
-        Garbage pool(4096);
+        Garbage pool{unit::heap_only};
         RegisteredOptionStorage options(pool, L',');
         for (unsigned first = 0; first + 1 < 8; first += 2)
         {

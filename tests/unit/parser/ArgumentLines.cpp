@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "support/Utf8.h"
+#include "support/text/Utf8.h"
 
 #include "GivenArguments.h"
 #include "TextPrinting.h"

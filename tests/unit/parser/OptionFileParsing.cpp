@@ -8,9 +8,10 @@
 
 #include "options/OptionDescription.h"
 #include "result/ParseResult.h"
-#include "support/Garbage.h"
+#include "support/memory/Garbage.h"
 
 #include "GivenArguments.h"
+#include "HeapOnly.h"
 #include "TemporaryFolder.h"
 #include "TextPrinting.h"
 
@@ -51,7 +52,7 @@ protected:
     }
 
     toolbox::TemporaryFolder folder;
-    Garbage pool{4096};
+    Garbage pool{unit::heap_only};
     OptionDescription option{no_group, false, pool};
     ParseResult result;
 

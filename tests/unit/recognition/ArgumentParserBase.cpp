@@ -1,7 +1,7 @@
 // The common base of the argument parsers.
 #include "recognition/AbbreviationParser.h"
 #include "recognition/PositionalOptionsParser.h"
-#include "support/Trace.h"
+#include "support/platform/Trace.h"
 
 #include "ConsoleCapture.h"
 #include "Recognition.h"

@@ -12,15 +12,9 @@ namespace
 using kexa_3_3::HashedText;
 using kexa_3_3::hyphenPrefixLength;
 using kexa_3_3::OptionArgument;
+using kexa_3_3::splitOptionArgument;
 using kexa_3_3::WhiteSpace;
 using toolbox::toUtf8;
-
-OptionArgument split(std::wstring_view argument, const WhiteSpace& whiteSpace)
-{
-    OptionArgument parts = {HashedText(L"before"), L"before", argument.empty()};
-    kexa_3_3::splitOptionArgument(argument, whiteSpace, parts);
-    return parts;
-}
 
 TEST(HyphenPrefix, SixCharactersCount)
 {
@@ -62,8 +56,8 @@ void expectSplit(const std::vector<Row>& rows)
     const WhiteSpace whiteSpace;
     for (const Row& row : rows)
     {
-        const OptionArgument parts = split(row.argument, whiteSpace);
-        EXPECT_EQ(std::wstring(parts.name), row.name) << toUtf8(row.argument);
+        const OptionArgument parts = splitOptionArgument(row.argument, whiteSpace);
+        EXPECT_EQ(parts.name.text(), row.name) << toUtf8(row.argument);
         EXPECT_EQ(parts.name.hash(), HashedText(row.name).hash()) << toUtf8(row.argument);
         EXPECT_EQ(parts.hasValue, row.hasValue) << toUtf8(row.argument);
         EXPECT_EQ(std::wstring(parts.value), row.value) << toUtf8(row.argument);
@@ -95,10 +89,10 @@ TEST(OptionArgument, CharactersBehindTheArgumentAreNoPartOfIt)
     for (std::size_t length = 0; length <= text.size(); ++length)
     {
         const std::wstring alone(text.substr(0, length));
-        const OptionArgument parts = split(text.substr(0, length), whiteSpace);
-        const OptionArgument expected = split(alone, whiteSpace);
+        const OptionArgument parts = splitOptionArgument(text.substr(0, length), whiteSpace);
+        const OptionArgument expected = splitOptionArgument(alone, whiteSpace);
         EXPECT_EQ(parts.name, expected.name) << length;
-        EXPECT_EQ(parts.name.data() - text.data(), expected.name.data() - alone.data()) << length;
+        EXPECT_EQ(parts.name.text().data() - text.data(), expected.name.text().data() - alone.data()) << length;
         EXPECT_EQ(parts.value, expected.value) << length;
         EXPECT_EQ(parts.hasValue, expected.hasValue) << length;
     }
@@ -195,10 +189,10 @@ TEST(WhiteSpace, IsKeptWhenTheLocaleIsDestroyed)
     }();
     EXPECT_TRUE(odd.contains(L'_'));
     EXPECT_FALSE(odd.contains(L' '));
-    const OptionArgument parts = split(L"--name__ value", odd);
+    const OptionArgument parts = splitOptionArgument(L"--name__ value", odd);
     EXPECT_EQ(parts.name, HashedText(L"name"));
     EXPECT_EQ(parts.value, L" value");
-    EXPECT_EQ(split(L"--na me=x", odd).name, HashedText(L"na me"));
+    EXPECT_EQ(splitOptionArgument(L"--na me=x", odd).name, HashedText(L"na me"));
 }
 
 } // namespace

@@ -7,8 +7,9 @@
 #include "options/OptionDescription.h"
 #include "options/ValueText.h"
 #include "result/ParseResult.h"
-#include "support/Garbage.h"
+#include "support/memory/Garbage.h"
 
+#include "HeapOnly.h"
 #include "TextPrinting.h"
 
 namespace
@@ -221,7 +222,7 @@ void expectAgreement(ParseResult& result, Walk& walk, RandomEntries& random)
 // or positions only.
 TEST(RangeQueries, EveryWalkOverSeveralRecordsFollowsItsSteps)
 {
-    Garbage pool(1024);
+    Garbage pool{unit::heap_only};
     OptionDescription option(no_group, false, pool);
     option.addName(L"name").addName(L"n");
     for (unsigned seed = 0; seed < 1500; ++seed)
@@ -248,7 +249,7 @@ TEST(RangeQueries, EveryWalkOverSeveralRecordsFollowsItsSteps)
 
 TEST(RangeQueries, EveryWalkFollowsItsSteps)
 {
-    Garbage pool(1024);
+    Garbage pool{unit::heap_only};
     OptionDescription option(no_group, false, pool);
     option.addName(L"name").addName(L"n");
     for (unsigned seed = 0; seed < 1500; ++seed)
@@ -267,7 +268,7 @@ TEST(RangeQueries, EveryWalkFollowsItsSteps)
 
 TEST(RangeQueries, NullOutAdvancesAllTheSame)
 {
-    Garbage pool(1024);
+    Garbage pool{unit::heap_only};
     OptionDescription option(no_group, false, pool);
     option.addName(L"name");
     ParseResult result;
@@ -288,7 +289,7 @@ TEST(RangeQueries, NullOutAdvancesAllTheSame)
 
 TEST(RangeQueries, UnknownNameEndsTheWalk)
 {
-    Garbage pool(1024);
+    Garbage pool{unit::heap_only};
     OptionDescription option(no_group, false, pool);
     option.addName(L"name");
     ParseResult result;

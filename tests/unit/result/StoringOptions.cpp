@@ -1,18 +1,17 @@
 // What a result keeps of the records that it is given.
 #include <cstdint>
-#include <memory>
 #include <stdexcept>
 #include <string>
-#include <unordered_map>
 #include <vector>
 
 #include "options/OptionDescription.h"
 #include "options/OptionIndex.h"
 #include "result/ParseResult.h"
-#include "support/Garbage.h"
-#include "support/HashedText.h"
+#include "support/memory/Garbage.h"
 
 #include "EnteredOption.h"
+#include "EqualHashes.h"
+#include "HeapOnly.h"
 #include "StoredContents.h"
 #include "TextPrinting.h"
 
@@ -48,7 +47,7 @@ protected:
     }
     const StoredOption* stored(std::wstring_view name) { return result.options().find(name); }
 
-    Garbage pool{4096};
+    Garbage pool{unit::heap_only};
     OptionDescription option{no_group, false, pool};
     ParseResult result;
 };
@@ -67,7 +66,7 @@ TEST_F(StoringOptions, OptionWithoutNamesIsOutOfRange)
     {
         EXPECT_STREQ(error.what(), "invalid vector<T> subscript");
     }
-    EXPECT_EQ(result.options().size(), 0U);
+    EXPECT_EQ(result.options().names().size(), 0U);
     EXPECT_EQ(record.positions.size(), 1U);
 }
 
@@ -78,7 +77,7 @@ TEST_F(StoringOptions, EveryNameFindsTheRecord)
     {
         const StoredOption* const found = stored(name);
         ASSERT_NE(found, nullptr);
-        const std::vector<unit::StoredValue> values = unit::valuesOf(*found);
+        const std::vector<Occurrence> values = unit::valuesOf(*found);
         ASSERT_EQ(values.size(), 1U);
         EXPECT_STREQ(values[0].text, L"text");
         EXPECT_EQ(values[0].value, variant_t(L"text"));
@@ -87,30 +86,14 @@ TEST_F(StoringOptions, EveryNameFindsTheRecord)
     }
     EXPECT_EQ(stored(L"nam"), nullptr);
     EXPECT_EQ(stored(L""), nullptr);
-    ASSERT_EQ(result.options().size(), 2U);
-    EXPECT_EQ(result.options().name(0), L"name");
-    EXPECT_EQ(result.options().name(1), L"n");
+    EXPECT_EQ(result.options().names().size(), 2U);
 }
 
-// A slot keeps 32 bits of a name's hash.
-TEST_F(StoringOptions, NamesWithTheSamePartOfTheHashAreTwo)
+TEST_F(StoringOptions, OptionsWhoseNamesHaveOneHashAreToldApart)
 {
-    std::unordered_map<std::uint32_t, std::wstring> names;
-    std::wstring first;
-    std::wstring second;
-    for (int number = 0; first.empty() && number < 2000000; ++number)
-    {
-        const std::wstring name = L"option" + std::to_wstring(number);
-        const auto part = static_cast<std::uint32_t>(HashedText(name).hash());
-        const auto [known, isNew] = names.try_emplace(part, name);
-        if (!isNew)
-        {
-            first = known->second;
-            second = name;
-        }
-    }
-    ASSERT_FALSE(first.empty());
-    OptionIndex index;
+    const auto [first, second] = unit::textsWithOneHash();
+    ASSERT_NE(first, second);
+    OptionIndex index(pool);
     OptionDescription one(no_group, false, pool);
     OptionDescription two(no_group, false, pool);
     one.addName(first.c_str());
@@ -146,7 +129,7 @@ TEST_F(StoringOptions, TextsAreKept)
 TEST_F(StoringOptions, NamesAreKept)
 {
     {
-        Garbage own(1024);
+        Garbage own{unit::heap_only};
         OptionDescription shortLived(no_group, false, own);
         shortLived.addName(L"a name that is gone when it is looked for");
         store(shortLived, L"x", variant_t(L"x"), 0);
@@ -161,11 +144,10 @@ TEST_F(StoringOptions, DefaultIsKeptAsFirstStored)
     store(option, L"x", variant_t(L"x"), 4);
     const StoredOption* const found = stored(L"n");
     ASSERT_NE(found, nullptr);
-    ASSERT_NE(found->byDefault, nullptr);
-    const unit::StoredValue kept = unit::storedValueOf(*found->byDefault);
-    EXPECT_STREQ(kept.text, L"first");
-    EXPECT_EQ(kept.value, variant_t(L"first"));
-    EXPECT_EQ(kept.position, no_position);
+    ASSERT_TRUE(found->byDefault);
+    EXPECT_STREQ(found->byDefault->text, L"first");
+    EXPECT_EQ(found->byDefault->value, variant_t(L"first"));
+    EXPECT_EQ(found->byDefault->position, no_position);
     EXPECT_EQ(unit::positionsOf(*found).size(), 1U);
 }
 
@@ -173,8 +155,18 @@ TEST_F(StoringOptions, DefaultAfterAnOccurrenceIsNotKept)
 {
     store(option, L"x", variant_t(L"x"), 4);
     storeDefault(L"late", variant_t(L"late"));
-    EXPECT_EQ(stored(L"name")->byDefault, nullptr);
+    EXPECT_FALSE(stored(L"name")->byDefault);
     EXPECT_EQ(unit::valuesOf(*stored(L"name")).size(), 1U);
+}
+
+// A host may change the default between two parses that fill one result.
+TEST_F(StoringOptions, DefaultWithoutTextIsKeptAsFirstStored)
+{
+    storeDefault(L"", variant_t(L""));
+    storeDefault(L"late", variant_t(L"late"));
+    ASSERT_NE(stored(L"name"), nullptr);
+    EXPECT_FALSE(stored(L"name")->byDefault);
+    EXPECT_EQ(result.isPresent(L"name", 0, no_position), 0);
 }
 
 TEST_F(StoringOptions, DefaultTextIsKept)
@@ -188,8 +180,10 @@ TEST_F(StoringOptions, DefaultTextIsKept)
     EXPECT_EQ(value.position, no_position);
 }
 
-TEST_F(StoringOptions, RecordStaysWhereItIs)
+TEST_F(StoringOptions, RecordOfADeclaredOptionStaysWhereItIs)
 {
+    OptionIndex index(pool);
+    unit::enterOption(option, index, 0);
     store(option, L"x", variant_t(L"x"), 0);
     const StoredOption* const before = stored(L"name");
     const wchar_t* const text = unit::valuesOf(*before)[0].text;

@@ -11,7 +11,7 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
-#include "support/ConsoleStreams.h"
+#include "support/platform/ConsoleStreams.h"
 
 #include "ConsoleCapture.h"
 #include "TextPrinting.h"

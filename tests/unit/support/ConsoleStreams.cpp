@@ -1,5 +1,5 @@
 // Tests of the console streams: encoding, order and formatting.
-#include "support/ConsoleStreams.h"
+#include "support/platform/ConsoleStreams.h"
 
 #include <clocale>
 #include <cstdio>

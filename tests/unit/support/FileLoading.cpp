@@ -1,5 +1,5 @@
 // Tests of reading whole files and of canonical paths.
-#include "support/FileLoading.h"
+#include "support/platform/FileLoading.h"
 
 #include <filesystem>
 #include <string>

@@ -8,7 +8,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "support/FileLoading.h"
+#include "support/platform/FileLoading.h"
 
 #include "TemporaryFolder.h"
 #include "TextPrinting.h"

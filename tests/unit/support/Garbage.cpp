@@ -1,34 +1,36 @@
 // The pool of texts.
-#include "support/Garbage.h"
+#include "support/memory/Garbage.h"
 
 #include <string>
-#include <utility>
 #include <vector>
 
+#include "support/memory/InlineBlock.h"
+
 #include "AllocationCount.h"
+#include "HeapOnly.h"
 #include "TextPrinting.h"
 
 namespace
 {
 
 using kexa_3_3::Garbage;
-
-constexpr std::size_t first_block = 256;
+using kexa_3_3::InlineBlock;
+using unit::heap_only;
 
 TEST(Garbage, NullGivesAnEmptyTextThatIsNotStored)
 {
-    Garbage pool(first_block);
+    Garbage pool{heap_only};
     const wchar_t* const text = pool.intern(nullptr);
     ASSERT_NE(text, nullptr);
     EXPECT_EQ(*text, L'\0');
     EXPECT_EQ(pool.intern(nullptr), text);
-    Garbage other(first_block);
+    Garbage other{heap_only};
     EXPECT_EQ(other.intern(nullptr), text);
 }
 
 TEST(Garbage, EqualTextsAreStoredOnce)
 {
-    Garbage pool(first_block);
+    Garbage pool{heap_only};
     const std::wstring first = L"verbose";
     const std::wstring second = L"verbose";
     const wchar_t* const text = pool.intern(first.c_str());
@@ -43,7 +45,7 @@ TEST(Garbage, EqualTextsAreStoredOnce)
 
 TEST(Garbage, EmptyTextMayBeTheFirst)
 {
-    Garbage pool(first_block);
+    Garbage pool{heap_only};
     const wchar_t* const empty = pool.intern(L"");
     ASSERT_NE(empty, nullptr);
     EXPECT_EQ(*empty, L'\0');
@@ -55,7 +57,7 @@ TEST(Garbage, EmptyTextMayBeTheFirst)
 
 TEST(Garbage, InternedTextIsACopy)
 {
-    Garbage pool(first_block);
+    Garbage pool{heap_only};
     std::wstring source = L"verbose";
     const wchar_t* const text = pool.intern(source.c_str());
     EXPECT_NE(text, source.c_str());
@@ -66,7 +68,7 @@ TEST(Garbage, InternedTextIsACopy)
 
 TEST(Garbage, TextIsTerminatedWhateverStandsBehindIt)
 {
-    Garbage pool(first_block);
+    Garbage pool{heap_only};
     const std::wstring_view source = L"verbose";
     const std::wstring_view interned = pool.internText(source.substr(0, 4));
     EXPECT_EQ(interned, L"verb");
@@ -79,7 +81,8 @@ TEST(Garbage, TextIsTerminatedWhateverStandsBehindIt)
 TEST(Garbage, AddressesStayWhileThePoolGrows)
 {
     constexpr unsigned count = 5000;
-    Garbage pool(first_block);
+    InlineBlock<256> first;
+    Garbage pool(first.bytes());
     std::vector<const wchar_t*> texts;
     for (unsigned number = 0; number < count; ++number)
     {
@@ -97,7 +100,7 @@ TEST(Garbage, AddressesStayWhileThePoolGrows)
 
 TEST(Garbage, InternedTextEndsAtItsFirstZero)
 {
-    Garbage pool(first_block);
+    Garbage pool{heap_only};
     const std::wstring_view whole(L"ab\0cd", 5);
     const std::wstring_view text = pool.internText(whole);
     EXPECT_EQ(text, L"ab");
@@ -108,7 +111,7 @@ TEST(Garbage, InternedTextEndsAtItsFirstZero)
 
 TEST(Garbage, KeptTextIsSharedWithNoOther)
 {
-    Garbage pool(first_block);
+    Garbage pool{heap_only};
     const std::wstring_view first = pool.keep(L"name");
     const std::wstring_view second = pool.keep(L"name");
     EXPECT_EQ(first, L"name");
@@ -120,7 +123,7 @@ TEST(Garbage, KeptTextIsSharedWithNoOther)
 
 TEST(Garbage, KeptTextHoldsItsZeros)
 {
-    Garbage pool(first_block);
+    Garbage pool{heap_only};
     const std::wstring_view source(L"a\0b\0", 4);
     const std::wstring_view kept = pool.keep(source);
     EXPECT_EQ(kept, source);
@@ -129,22 +132,39 @@ TEST(Garbage, KeptTextHoldsItsZeros)
     EXPECT_EQ(*pool.keep({}).data(), L'\0');
 }
 
-TEST(Garbage, FindingAKnownTextTakesNoMemory)
+TEST(Garbage, JoinedTextIsBothOneBehindTheOther)
 {
-    Garbage pool(first_block);
+    Garbage pool{heap_only};
+    const struct
+    {
+        std::wstring_view first;
+        std::wstring_view second;
+        std::wstring_view joined;
+    } rows[] = {{L"no-", L"name", L"no-name"}, {L"", L"b", L"b"}, {L"a", L"", L"a"}, {L"", L"", L""}};
+    for (const auto& row : rows)
+    {
+        const std::wstring_view joined = pool.keepJoined(row.first, row.second);
+        EXPECT_EQ(joined, row.joined);
+        EXPECT_EQ(joined.data()[joined.size()], L'\0');
+    }
+}
+
+TEST(Garbage, FindingAKnownTextAllocatesNothing)
+{
+    Garbage pool{heap_only};
     const std::wstring text(1000, L'x');
     pool.internText(text);
-    const std::size_t before = unit::allocationCount();
+    const std::size_t before = toolbox::allocationsSoFar().blocks;
     for (int round = 0; round < 10; ++round)
     {
         pool.internText(text);
     }
-    EXPECT_EQ(unit::allocationCount(), before);
+    EXPECT_EQ(toolbox::allocationsSoFar().blocks, before);
 }
 
 TEST(Garbage, MemoryLivesBesideTheTexts)
 {
-    Garbage pool(first_block);
+    Garbage pool{heap_only};
     const std::wstring_view before = pool.keep(L"before");
     auto* const numbers =
         static_cast<double*>(pool.memory().allocate(1000 * sizeof(double), alignof(double)));
@@ -159,38 +179,6 @@ TEST(Garbage, MemoryLivesBesideTheTexts)
     }
     EXPECT_EQ(before, L"before");
     EXPECT_EQ(after, L"after");
-}
-
-TEST(Garbage, AdoptedTextIsInternedLikeAnyOther)
-{
-    for (const std::size_t length : {std::size_t{3}, std::size_t{100000}})
-    {
-        Garbage pool(first_block);
-        const std::wstring text(length, L'x');
-        const std::wstring_view adopted = pool.adoptText(std::wstring(text));
-        EXPECT_EQ(adopted, text);
-        EXPECT_EQ(adopted.data()[length], L'\0');
-        EXPECT_EQ(pool.internText(text).data(), adopted.data());
-        EXPECT_EQ(pool.adoptText(std::wstring(text)).data(), adopted.data());
-        static_cast<void>(pool.adoptText(L"another"));
-        EXPECT_EQ(pool.intern(text.c_str()), adopted.data());
-    }
-}
-
-TEST(Garbage, LongAdoptedTextIsNotCopied)
-{
-    Garbage pool(first_block);
-    std::wstring text(100000, L'x');
-    const wchar_t* const characters = text.data();
-    EXPECT_EQ(pool.adoptText(std::move(text)).data(), characters);
-}
-
-TEST(Garbage, AdoptedTextEndsAtItsFirstZero)
-{
-    Garbage pool(first_block);
-    std::wstring text(10000, L'x');
-    text[5000] = L'\0';
-    EXPECT_EQ(pool.adoptText(std::move(text)), std::wstring(5000, L'x'));
 }
 
 } // namespace

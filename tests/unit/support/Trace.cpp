@@ -1,10 +1,10 @@
 // The trace: where its lines go, and what they cost while it is off.
-#include "support/Trace.h"
+#include "support/platform/Trace.h"
 
 #include <ostream>
 #include <string>
 
-#include "support/ConsoleStreams.h"
+#include "support/platform/ConsoleStreams.h"
 
 #include "ConsoleCapture.h"
 #include "TextPrinting.h"

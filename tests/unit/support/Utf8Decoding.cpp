@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "support/Utf8.h"
+#include "support/text/Utf8.h"
 
 #include "CodePoints.h"
 #include "TextPrinting.h"

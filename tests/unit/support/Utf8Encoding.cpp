@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "support/Utf8.h"
+#include "support/text/Utf8.h"
 
 #include "CodePoints.h"
 #include "TextPrinting.h"

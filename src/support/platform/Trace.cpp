@@ -1,6 +1,6 @@
-#include "support/Trace.h"
+#include "support/platform/Trace.h"
 
-#include "support/ConsoleStreams.h"
+#include "support/platform/ConsoleStreams.h"
 
 namespace kexa_3_3
 {

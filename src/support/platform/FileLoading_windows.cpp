@@ -8,7 +8,7 @@
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
 
-#include "support/FileLoading.h"
+#include "support/platform/FileLoading.h"
 
 namespace kexa_3_3
 {

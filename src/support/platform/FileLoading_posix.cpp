@@ -9,8 +9,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "support/FileLoading.h"
-#include "support/Utf8.h"
+#include "support/platform/FileLoading.h"
+#include "support/text/Utf8.h"
 
 namespace kexa_3_3
 {

@@ -1,4 +1,4 @@
-#include "support/Utf8.h"
+#include "support/text/Utf8.h"
 
 #include <algorithm>
 #include <cassert>

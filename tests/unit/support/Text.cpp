@@ -1,12 +1,9 @@
 // Small operations on wide texts.
-#include <cstddef>
-#include <limits>
-#include <string>
-#include <type_traits>
-#include <vector>
+#include "support/text/Text.h"
 
-#include "support/Text.h"
-#include "support/TwoCharacters.h"
+#include <cstddef>
+#include <string>
+#include <vector>
 
 #include "TextPrinting.h"
 
@@ -56,29 +53,6 @@ TEST(Texts, ContainedCharacterIsFoundAtEveryPlace)
         }
     }
     EXPECT_FALSE(containsCharacter({}, L','));
-}
-
-// Around the limit, at the ends of the codes and beyond the sign. Of codes in the upper half it
-// need not say that they are not below.
-TEST(Texts, OneOfTwoCharactersBelowALimit)
-{
-    using Unsigned = std::make_unsigned_t<wchar_t>;
-    const Unsigned highest = std::numeric_limits<Unsigned>::max();
-    const Unsigned half = highest / 2;
-    const Unsigned codes[] = {0,    1,        L'=' - 1, L'=',     L'=' + 1,        L'a',
-                              0x7F, half - 1, half,     half + 1, half + 1 + L'=', highest};
-    for (const Unsigned first : codes)
-    {
-        for (const Unsigned second : codes)
-        {
-            const wchar_t two[] = {static_cast<wchar_t>(first), static_cast<wchar_t>(second)};
-            const bool below = first < L'=' || second < L'=';
-            if (below || (first <= half && second <= half))
-            {
-                EXPECT_EQ(anyMayBeBelow<L'='>(twoCharacters(two)), below) << first << " " << second;
-            }
-        }
-    }
 }
 
 TEST(Texts, PiecesAreTheMaximalRunsWithoutTheSeparator)

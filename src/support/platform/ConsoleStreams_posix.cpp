@@ -4,8 +4,8 @@
 #include <poll.h>
 #include <unistd.h>
 
-#include "support/ConsoleStreams.h"
-#include "support/Utf8.h"
+#include "support/platform/ConsoleStreams.h"
+#include "support/text/Utf8.h"
 
 namespace kexa_3_3::internal
 {

@@ -8,9 +8,9 @@
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
 
-#include "support/ConsoleStreams.h"
+#include "support/platform/ConsoleStreams.h"
 #include "support/text/Text.h"
-#include "support/Utf8.h"
+#include "support/text/Utf8.h"
 
 namespace kexa_3_3::internal
 {

@@ -1,4 +1,4 @@
-#include "support/ConsoleStreams.h"
+#include "support/platform/ConsoleStreams.h"
 
 #include <cassert>
 #include <locale>
