@@ -90,6 +90,15 @@ public:
         m_hasValues = m_hasValues || other.m_hasValues;
     }
 
+    // Adds a copy of all that another list holds. Precondition: reserveMore() made room.
+    void append(const Occurrences& other) noexcept
+    {
+        assert(m_list.capacity() - m_list.size() >= other.m_list.size());
+        m_list.insert(m_list.end(), other.m_list.begin(), other.m_list.end());
+        m_hasPositions = m_hasPositions || other.m_hasPositions;
+        m_hasValues = m_hasValues || other.m_hasValues;
+    }
+
     [[nodiscard]] bool hasPositions() const noexcept { return m_hasPositions; }
     [[nodiscard]] bool hasValues() const noexcept { return m_hasValues; }
     [[nodiscard]] std::size_t size() const noexcept { return m_list.size(); }

@@ -126,42 +126,37 @@ StoredOption& OptionResultTable::makeShared(const OptionDescription& option)
     return record;
 }
 
-// Stores an option whose names do not share exactly one record: each gets one of its own. A name
-// that is unknown starts as a copy of the first one.
+// Stores an option whose names do not share exactly one record: each gets one of its own, and a name
+// that is unknown starts as a copy of the first one. Where this throws, names may have been given
+// records of their own, whose contents are as before.
 void OptionResultTable::storeApart(const OptionDescription& option, const Occurrences& added)
 {
-    struct Step
-    {
-        HashedText name;
-        StoredOption* record;
-        Occurrences added;
-    };
+    m_names.reserveMore(option.names.size());
     const StoredOption& first = *m_names.find(option.names.front())->record;
-    std::vector<Step> steps;
-    steps.reserve(option.names.size());
     for (const HashedText name : option.names)
     {
-        if (std::any_of(steps.begin(), steps.end(),
-                        [&name](const Step& step) { return step.name == name; }))
-        {
-            continue;
-        }
         const NamedRecord* const known = m_names.find(name);
-        StoredOption* const record = known == nullptr           ? &copyRecord(first)
-                                     : known->record->names > 1 ? &copyRecord(*known->record)
-                                                                : known->record;
-        const HashedText kept =
-            known == nullptr ? name.movedTo(m_strings.keep(name.text())) : known->name;
-        record->occurrences.reserveMore(added.size());
-        steps.push_back({kept, record, added});
+        if (known == nullptr)
+        {
+            bind(name.movedTo(m_strings.keep(name.text())), copyRecord(first));
+        }
+        else if (known->record->names > 1)
+        {
+            bind(known->name, copyRecord(*known->record));
+        }
+        m_names.find(name)->record->occurrences.reserveMore(added.size());
     }
-    m_names.reserveMore(steps.size());
 
-    // Nothing fails from here on.
-    for (Step& step : steps)
+    // Nothing fails from here on. An option may list a name twice.
+    ++m_storings;
+    for (const HashedText name : option.names)
     {
-        bind(step.name, *step.record);
-        step.record->occurrences.append(std::move(step.added));
+        StoredOption& record = *m_names.find(name)->record;
+        if (record.lastStoring != m_storings)
+        {
+            record.lastStoring = m_storings;
+            record.occurrences.append(added);
+        }
     }
 }
 

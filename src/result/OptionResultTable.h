@@ -76,6 +76,7 @@ private:
     Garbage& m_strings;
     SharedTexts m_texts;
     NameTable<NamedRecord> m_names;
+    std::uint64_t m_storings = 0;            // under names with records of their own
     std::pmr::deque<StoredOption> m_records; // whose elements never move
 };
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory_resource>
 #include <optional>
 
@@ -25,6 +26,8 @@ struct StoredOption
     // what belongs to that declaration is in it as long as `names` is their number.
     OptionIdentity source;
     std::size_t names = 0; // how many find it
+
+    std::uint64_t lastStoring = 0; // see OptionResultTable::storeApart
     Occurrences occurrences;
     std::optional<Occurrence> byDefault; // empty: no default, or one whose text is empty
 };

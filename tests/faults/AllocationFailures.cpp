@@ -82,7 +82,10 @@ protected:
         faults::failAllocation(number, extent);
         runCycle(folder, &expected, nullptr);
         const std::size_t counted = faults::allocationsCounted();
-        EXPECT_EQ(faults::liveBlocks(), before) << "leaked";
+        if (!HasFailure()) // whose messages are kept on the heap
+        {
+            EXPECT_EQ(faults::liveBlocks(), before) << "leaked";
+        }
         faults::failAllocation(0, extent);
         console.mark();
         runCycle(folder, &expected, nullptr);

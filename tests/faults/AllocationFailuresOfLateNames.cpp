@@ -94,7 +94,7 @@ TEST(AllocationFailureOfLateNames, AllNamesHaveTheOccurrenceOrNone)
 {
     for (const Extent extent : {Extent::oneAllocation, Extent::restOfCall})
     {
-        EXPECT_GT(failEachAllocation(extent), 5U);
+        EXPECT_GT(failEachAllocation(extent), 0U) << "no allocation was made";
     }
 }
 

