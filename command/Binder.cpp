@@ -1,6 +1,5 @@
 #include "Binder.h"
 
-#include <algorithm>
 #include <cassert>
 
 #include "Characters.h"
@@ -16,22 +15,21 @@ inline namespace v1
 namespace detail
 {
 
-KEXA_COMMAND_INLINE Binder::Binder(const std::vector<Given>& givens,
-                                   const std::vector<std::string>& files, Source source,
-                                   void* object, Outcome& outcome)
-    : m_givens(givens), m_files(files), m_source(source), m_object(static_cast<char*>(object)),
-      m_outcome(outcome)
+KEXA_COMMAND_INLINE Binder::Binder(const State& state, const std::vector<Given>& givens,
+                                   std::vector<bool>& isBound, Source source, void* object,
+                                   Outcome& outcome)
+    : m_state(state), m_givens(givens), m_isBound(isBound), m_source(source),
+      m_object(static_cast<char*>(object)), m_outcome(outcome)
 {
 }
 
-KEXA_COMMAND_INLINE void Binder::note(const Given& given, std::string value)
+KEXA_COMMAND_INLINE void Binder::note(const Given& given, const vexkit2::variant_t& value)
 {
     if (m_source == Source::given)
     {
         const Place& place = given.place;
-        m_outcome.occurrences.push_back(
-            {given.declaration->names.front(), std::move(value), place.index,
-             place.file == 0 ? std::string() : m_files[place.file - 1], place.line});
+        m_outcome.values.push_back({&(*m_state.primaryNames())[given.declaration->index], value,
+                                    place.index, place.file, place.line});
     }
 }
 
@@ -42,13 +40,11 @@ KEXA_COMMAND_INLINE void Binder::noteSource(const Declaration& declaration)
     {
         return;
     }
-    std::vector<Outcome::MemberSource>& sources = m_outcome.sources;
-    const bool isNew = std::none_of(sources.begin(), sources.end(),
-                                    [&](const Outcome::MemberSource& each)
-                                    { return each.offset == declaration.offset; });
-    if (isNew)
+    const std::size_t number = m_state.memberNumber(declaration);
+    if (!m_isBound[number])
     {
-        sources.push_back({declaration.offset, m_source});
+        m_isBound[number] = true;
+        m_outcome.sources.push_back({declaration.offset, m_source});
         if (declaration.kind != Kind::count)
         {
             declaration.member->clear(m_object + declaration.offset);
@@ -60,29 +56,42 @@ KEXA_COMMAND_INLINE bool Binder::onOptionParsed(const wchar_t*)
 {
     if (m_next == m_givens.size())
     {
-        return true; // of an option that the program declared on its own
+        m_isForeign = true; // of an argument that makes the parser report a mistake
+        return true;
     }
     const Given& given = m_givens[m_next++];
+    if (given.declaration == nullptr)
+    {
+        return true;
+    }
     const Declaration& declaration = *given.declaration;
     if (declaration.kind == Kind::action)
     {
         noteSource(declaration);
         *reinterpret_cast<bool*>(m_object + declaration.offset) = true;
-        note(given, std::string());
+        note(given, vexkit2::variant_t());
     }
     else if (declaration.kind == Kind::count)
     {
         noteSource(declaration);
         declaration.increment(m_object + declaration.offset);
-        note(given, std::string());
+        note(given, vexkit2::variant_t());
     }
     return true;
 }
 
 KEXA_COMMAND_INLINE bool Binder::onValueParsed(const wchar_t*, const kexa_3_3::ValueRecord* record)
 {
+    if (m_isForeign)
+    {
+        return true;
+    }
     assert(m_next > 0);
     const Given& given = m_givens[m_next - 1];
+    if (given.declaration == nullptr)
+    {
+        return true;
+    }
 #if KEXA_COMMAND_EXCEPTIONS
     try
     {
@@ -135,15 +144,27 @@ KEXA_COMMAND_INLINE bool Binder::store(const Given& given, const vexkit2::varian
             m_reason = input.reason.empty() ? "not accepted" : std::move(input.reason);
             const std::string text = textOfValue(stored);
             if (declaration.separator != 0 &&
-                given.raw != L"--" + widen(declaration.names.front()) + L"=" + widen(text))
+                given.argument() != m_state.rawName(declaration) + L"=" + widen(text))
             {
                 m_reason = "'" + text + "': " + m_reason;
             }
             return false;
         }
     }
-    note(given, textOfValue(stored));
+    note(given, stored);
     return true;
+}
+
+KEXA_COMMAND_INLINE std::vector<Occurrence> Outcome::occurrences() const
+{
+    std::vector<Occurrence> written;
+    written.reserve(values.size());
+    for (const GivenValue& each : values)
+    {
+        written.push_back({*each.option, textOfValue(each.value), each.index,
+                           each.file == 0 ? std::string() : files[each.file - 1], each.line});
+    }
+    return written;
 }
 
 KEXA_COMMAND_INLINE Source Outcome::sourceOf(std::size_t offset) const

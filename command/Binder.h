@@ -25,9 +25,10 @@ class Binder final : public kexa_3_3::EventHandler
 {
 public:
     // givens: in the order in which the parser gets them; must outlive the binder.
-    // object: the struct.
-    Binder(const std::vector<Given>& givens, const std::vector<std::string>& files, Source source,
-           void* object, Outcome& outcome);
+    // isBound: by State::memberNumber, the members that have a value already.
+    // object:  the struct.
+    Binder(const State& state, const std::vector<Given>& givens, std::vector<bool>& isBound,
+           Source source, void* object, Outcome& outcome);
 
     bool onOptionParsed(const wchar_t* name) override;
     bool onValueParsed(const wchar_t* name, const kexa_3_3::ValueRecord* record) override;
@@ -43,15 +44,17 @@ public:
 
 private:
     bool store(const Given& given, const vexkit2::variant_t& value);
-    void note(const Given& given, std::string value);
+    void note(const Given& given, const vexkit2::variant_t& value);
     void noteSource(const Declaration& declaration);
 
+    const State& m_state;
     const std::vector<Given>& m_givens;
-    const std::vector<std::string>& m_files;
+    std::vector<bool>& m_isBound;
     Source m_source;
     char* m_object;
     Outcome& m_outcome;
     std::size_t m_next = 0;
+    bool m_isForeign = false; // come to an option that the program declared on its own
     std::string m_reason;
 #if KEXA_COMMAND_EXCEPTIONS
     std::exception_ptr m_exception;

@@ -23,7 +23,8 @@ constexpr bool isHyphenCharacter(wchar_t character)
 // White space as the library sees it when it looks for the end of an option's name.
 inline bool isBlank(wchar_t character)
 {
-    return std::iswspace(static_cast<std::wint_t>(character)) != 0;
+    return character < 0x80 ? character == L' ' || (character >= L'\t' && character <= L'\r')
+                            : std::iswspace(static_cast<std::wint_t>(character)) != 0;
 }
 
 constexpr bool isDigit(wchar_t character)

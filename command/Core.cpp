@@ -100,6 +100,10 @@ KEXA_COMMAND_INLINE void Core::checkDefault(const Declaration& declaration) cons
 
 KEXA_COMMAND_INLINE void Core::allow(Declaration& declaration, vexkit2::variant_t value) const
 {
+    if (declaration.kind == Kind::count)
+    {
+        misuseOf(*this, *m_definition, declaration, "counts, and so has no values to check");
+    }
     declaration.allowed.push_back(std::move(value));
     m_state->invalidate();
 }
@@ -119,6 +123,10 @@ KEXA_COMMAND_INLINE void Core::allowName(Declaration& declaration, ValueTable& t
 
 KEXA_COMMAND_INLINE void Core::addRule(Declaration& declaration, std::unique_ptr<Rule> rule) const
 {
+    if (declaration.kind == Kind::count)
+    {
+        misuseOf(*this, *m_definition, declaration, "counts, and so has no values to check");
+    }
     declaration.rules.push_back(std::move(rule));
 }
 
@@ -172,15 +180,17 @@ KEXA_COMMAND_INLINE void Core::attach(Declaration& verb, const std::shared_ptr<C
         misuse("kexa: command '" + m_definition->name + "': the subcommand '" +
                innerDefinition.name + "' belongs to a command already");
     }
-    for (const auto& other : m_definition->declarations)
+    const std::vector<std::string>& taken = m_definition->subcommands;
+    if (std::find(taken.begin(), taken.end(), innerDefinition.name) != taken.end())
     {
-        if (other->kind == Kind::subcommand && !other->names.empty() &&
-            other->names.front() == innerDefinition.name)
-        {
-            misuse("kexa: command '" + m_definition->name + "': the subcommand '" +
-                   innerDefinition.name + "' is taken already");
-        }
+        misuse("kexa: command '" + m_definition->name + "': the subcommand '" +
+               innerDefinition.name + "' is taken already");
     }
+    if (m_definition->verbs)
+    {
+        checkSubcommand(innerDefinition.name);
+    }
+    m_definition->subcommands.push_back(innerDefinition.name);
     verb.names = {innerDefinition.name};
     verb.shownNames = 1;
     verb.description = innerDefinition.summary;
@@ -188,6 +198,26 @@ KEXA_COMMAND_INLINE void Core::attach(Declaration& verb, const std::shared_ptr<C
     innerDefinition.attached = true;
     inner->lead(m_definition->path);
     m_state->invalidate();
+}
+
+KEXA_COMMAND_INLINE void Core::checkVerb(const Declaration& action, const std::string& name) const
+{
+    const std::vector<std::string>& taken = m_definition->subcommands;
+    if (action.kind == Kind::action && std::find(taken.begin(), taken.end(), name) != taken.end())
+    {
+        misuseOf(*this, *m_definition, action,
+                 "cannot be a verb: a subcommand has the name '" + name + "'");
+    }
+}
+
+KEXA_COMMAND_INLINE void Core::checkSubcommand(const std::string& name) const
+{
+    const auto found = m_definition->options.find(name);
+    if (found != m_definition->options.end() && found->second->kind == Kind::action)
+    {
+        misuseOf(*this, *m_definition, *found->second,
+                 "cannot be a verb: a subcommand has the name '" + name + "'");
+    }
 }
 
 KEXA_COMMAND_INLINE void Core::lead(const std::string& path)
@@ -216,6 +246,10 @@ KEXA_COMMAND_INLINE void Core::allowTrace(bool allowed)
 }
 KEXA_COMMAND_INLINE void Core::takeVerbs()
 {
+    for (const std::string& name : m_definition->subcommands)
+    {
+        checkSubcommand(name);
+    }
     m_definition->verbs = true;
     m_state->invalidate();
 }

@@ -1,12 +1,9 @@
 // What a program declares about one option, and the mistakes that are told at once.
 #include <algorithm>
 
-#include "Characters.h"
 #include "Definition.h"
 #include "Inline.h"
 #include "State.h"
-#include "text/CodePoints.h"
-#include "text/Encoding.h"
 
 namespace kexa
 {
@@ -15,111 +12,10 @@ inline namespace v1
 namespace detail
 {
 
-KEXA_COMMAND_INLINE std::vector<std::string> splitNames(std::string_view names)
-{
-    std::vector<std::string> pieces;
-    std::size_t begin = 0;
-    while (begin <= names.size())
-    {
-        const std::size_t end = std::min(names.find(',', begin), names.size());
-        pieces.emplace_back(names.substr(begin, end - begin));
-        begin = end + 1;
-    }
-    return pieces;
-}
-
-KEXA_COMMAND_INLINE std::string spelledName(std::string_view name)
-{
-    return (isOneCodePoint(name) ? "-" : "--") + std::string(name);
-}
-
-KEXA_COMMAND_INLINE bool isOneCodePoint(std::string_view name)
-{
-    return !name.empty() && decodeCodePoint(name).length == name.size();
-}
-
-KEXA_COMMAND_INLINE std::string spelled(const Declaration& declaration)
-{
-    const std::string& name = declaration.names.front();
-    return isNamedOption(declaration) ? spelledName(name) : name;
-}
-
-// Returns what is wrong with a name as such; null where nothing is.
-KEXA_COMMAND_LOCAL const char* faultOf(std::string_view name)
-{
-    if (name.empty())
-    {
-        return "is empty";
-    }
-    const std::wstring wide = widen(name);
-    if (isHyphenCharacter(wide.front()))
-    {
-        return "begins with a hyphen; names are declared without";
-    }
-    for (const wchar_t character : wide)
-    {
-        if (character == L'=')
-        {
-            return "holds '='";
-        }
-        if (isBlank(character))
-        {
-            return "holds white space";
-        }
-    }
-    return nullptr;
-}
-
 KEXA_COMMAND_LOCAL bool holdsName(const Declaration& declaration, std::string_view name)
 {
     return std::find(declaration.names.begin(), declaration.names.end(), name) !=
            declaration.names.end();
-}
-
-// Returns the reason why a name of the given kind of declaration cannot be had besides another
-// declaration; empty where it can.
-KEXA_COMMAND_LOCAL std::string collision(std::string_view name, bool negates,
-                                         const Declaration& other)
-{
-    if (holdsName(other, name))
-    {
-        return "is taken already";
-    }
-    if (hasNegation(other) && name.substr(0, 3) == "no-" && holdsName(other, name.substr(3)))
-    {
-        return "is the 'no-' form of '" + std::string(name.substr(3)) + "'";
-    }
-    if (negates && holdsName(other, "no-" + std::string(name)))
-    {
-        return "has a 'no-' form that is taken already";
-    }
-    return std::string();
-}
-
-KEXA_COMMAND_LOCAL void checkName(const Core& core, const Definition& definition,
-                                  const Declaration& declaration, std::string_view name,
-                                  std::string_view names)
-{
-    const std::string prefix = "kexa: command '" + definition.name + "', declaration '" +
-                               std::string(names) + "': the name '" + std::string(name) + "' ";
-    const char* fault = faultOf(name);
-    if (fault != nullptr)
-    {
-        core.misuse(prefix + fault);
-    }
-    for (const auto& other : definition.declarations)
-    {
-        if (isNamedOption(*other) != isNamedOption(declaration) ||
-            isPositional(*other) != isPositional(declaration))
-        {
-            continue;
-        }
-        const std::string reason = collision(name, hasNegation(declaration), *other);
-        if (!reason.empty())
-        {
-            core.misuse(prefix + reason);
-        }
-    }
 }
 
 KEXA_COMMAND_INLINE void misuseOf(const Core& core, const Definition& definition,
@@ -140,7 +36,7 @@ KEXA_COMMAND_INLINE Declaration& Core::declare(Kind kind, std::string_view names
     declaration->member = member;
     declaration->index = m_definition->declarations.size();
     const bool isList = member != nullptr && member->list;
-    declaration->maximum = isList ? static_cast<std::size_t>(-1) : 1;
+    declaration->maximum = isList ? static_cast<std::size_t>(-1) : 1; // see isUnlimited()
     if (kind != Kind::subcommand) // which has the name of its command
     {
         for (std::string& name : splitNames(names))
@@ -164,12 +60,24 @@ KEXA_COMMAND_INLINE Declaration& Core::declare(Kind kind, std::string_view names
         for (const auto& other : m_definition->declarations)
         {
             if (other->kind == Kind::rest ||
-                (kind == Kind::rest && isPositional(*other) && other->member->list))
+                (kind == Kind::rest && isPositional(*other) && isUnlimited(*other)))
             {
                 misuseOf(*this, *m_definition, *declaration,
                          "never gets an argument: '" + other->names.front() + "' takes all");
             }
         }
+    }
+    for (const std::string& name : declaration->names)
+    {
+        if (m_definition->verbs)
+        {
+            checkVerb(*declaration, name);
+        }
+    }
+    for (const std::string& name : declaration->names)
+    {
+        (isPositional(*declaration) ? m_definition->positionals : m_definition->options)
+            .emplace(name, declaration.get());
     }
     m_state->invalidate();
     m_definition->declarations.push_back(std::move(declaration));
@@ -185,6 +93,11 @@ KEXA_COMMAND_INLINE void Core::addAlias(Declaration& declaration, std::string_vi
     for (std::string& name : splitNames(names))
     {
         checkName(*this, *m_definition, declaration, name, names);
+        if (m_definition->verbs)
+        {
+            checkVerb(declaration, name);
+        }
+        m_definition->options.emplace(name, &declaration);
         declaration.names.push_back(std::move(name));
     }
     m_state->invalidate();
@@ -234,6 +147,12 @@ KEXA_COMMAND_INLINE void Core::setCounting(Declaration& declaration, void (*incr
     {
         misuseOf(*this, *m_definition, declaration, "only an option with an integer can count");
     }
+    if (!declaration.environment.empty() || declaration.isImplicit || !declaration.rules.empty() ||
+        !declaration.allowed.empty())
+    {
+        misuseOf(*this, *m_definition, declaration,
+                 "counts, and so has no values, rules, implicit value or environment variable");
+    }
     declaration.kind = Kind::count;
     declaration.increment = increment;
 }
@@ -253,6 +172,11 @@ KEXA_COMMAND_INLINE void Core::setTimes(Declaration& declaration, std::size_t mi
 
 KEXA_COMMAND_INLINE void Core::setRequired(Declaration& declaration) const
 {
+    if (declaration.isFlag() || declaration.kind == Kind::count)
+    {
+        misuseOf(*this, *m_definition, declaration,
+                 "takes no value: only what takes one can be required");
+    }
     declaration.required = true;
     if (isPositional(declaration))
     {
@@ -267,6 +191,12 @@ KEXA_COMMAND_INLINE void Core::acceptWith(Declaration& declaration, const Core* 
     {
         misuseOf(*this, *m_definition, declaration,
                  "the action '" + spelled(action) + "' belongs to another command");
+    }
+    if (std::find(declaration.actions.begin(), declaration.actions.end(), action.index) !=
+        declaration.actions.end())
+    {
+        misuseOf(*this, *m_definition, declaration,
+                 "the action '" + spelled(action) + "' is named twice");
     }
     declaration.actions.push_back(action.index);
 }

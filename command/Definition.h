@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -36,6 +37,9 @@ struct Definition
     void (*misuse)(const std::string&) = nullptr;
 
     std::vector<std::unique_ptr<Declaration>> declarations;
+    std::unordered_map<std::string, const Declaration*> options; // by each of their names
+    std::unordered_map<std::string, const Declaration*> positionals;
+    std::vector<std::string> subcommands; // their names
     std::vector<RelationOfOptions> relations;
     std::vector<std::unique_ptr<Rule>> rules; // over the whole struct
 
@@ -53,6 +57,10 @@ struct Definition
 
 // Returns the pieces between the commas.
 std::vector<std::string> splitNames(std::string_view names);
+
+// Tells a name that the declaration cannot have, of those that the program gave as `names`.
+void checkName(const Core& core, const Definition& definition, const Declaration& declaration,
+               const std::string& name, std::string_view names);
 
 // Returns the option as messages name it: "--list", "-l", or the bare name of a positional
 // argument.
@@ -73,6 +81,12 @@ inline bool hasNegation(const Declaration& declaration)
 inline bool isPositional(const Declaration& declaration)
 {
     return declaration.kind == Kind::positional || declaration.kind == Kind::rest;
+}
+
+// Whether a positional list takes any number of arguments.
+inline bool isUnlimited(const Declaration& declaration)
+{
+    return declaration.maximum == static_cast<std::size_t>(-1);
 }
 
 // Whether the option is written with hyphens.

@@ -5,6 +5,7 @@
 #include "Characters.h"
 #include "Definition.h"
 #include "Inline.h"
+#include "text/CodePoints.h"
 #include "text/EditDistance.h"
 #include "text/Encoding.h"
 
@@ -17,6 +18,12 @@ namespace detail
 
 inline constexpr std::size_t most_suggestions = 3;
 
+// Letters are code points, however many bytes each takes.
+KEXA_COMMAND_LOCAL std::size_t countLetters(std::string_view text)
+{
+    return codePointsOf(text).size();
+}
+
 // How many edits a typing error of a word may take: a third of its letters, three at most.
 KEXA_COMMAND_LOCAL std::size_t editLimit(std::size_t length)
 {
@@ -27,13 +34,16 @@ KEXA_COMMAND_LOCAL std::size_t editLimit(std::size_t length)
 class Nearest
 {
 public:
-    explicit Nearest(std::string_view typed) : m_typed(typed), m_limit(editLimit(typed.size())) {}
+    explicit Nearest(std::string_view typed)
+        : m_typed(typed), m_limit(editLimit(countLetters(typed)))
+    {
+    }
 
     void offer(std::string_view word, const std::string& shown)
     {
         const bool isAbbreviated = !m_typed.empty() && word.substr(0, m_typed.size()) == m_typed;
         const std::size_t distance = isAbbreviated ? 0 : editDistance(m_typed, word, m_limit);
-        if (distance > m_limit || (!isAbbreviated && distance >= word.size()))
+        if (distance > m_limit || (!isAbbreviated && distance >= countLetters(word)))
         {
             return;
         }

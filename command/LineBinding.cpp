@@ -2,6 +2,7 @@
 #include "LineBinding.h"
 
 #include <algorithm>
+#include <deque>
 #include <memory>
 #include <optional>
 
@@ -44,15 +45,15 @@ KEXA_COMMAND_INLINE bool LineBinding::refuse(const std::string& message,
 
 KEXA_COMMAND_INLINE kexa_3_3::result_t
 LineBinding::runParser(const std::vector<const wchar_t*>& arguments, Binder& binder,
-                       bool checksActions)
+                       bool keepsResult)
 {
     kexa_3_3::IParser& parser = m_state.parser();
     kexa_3_3::IParseResult* made = nullptr;
-    if (checksActions)
+    if (keepsResult)
     {
         parser.createParseResult(&made);
     }
-    const std::unique_ptr<kexa_3_3::IParseResult, Releaser> result(made);
+    std::unique_ptr<kexa_3_3::IParseResult, Releaser> result(made);
     parser.addEventHandler(&binder);
     const kexa_3_3::result_t code =
         parser.parse(static_cast<std::int32_t>(arguments.size()), arguments.data(), made);
@@ -62,6 +63,10 @@ LineBinding::runParser(const std::vector<const wchar_t*>& arguments, Binder& bin
         m_state.countFailure();
     }
     binder.rethrow();
+    if (keepsResult)
+    {
+        m_outcome.result = std::move(result);
+    }
     return code;
 }
 
@@ -77,17 +82,29 @@ KEXA_COMMAND_INLINE bool LineBinding::parseGiven()
     }
     for (const Given& given : givens)
     {
-        arguments.push_back(given.raw.c_str());
-        m_sources[given.declaration->index] = Source::given;
+        arguments.push_back(given.argument().c_str());
+        if (given.declaration != nullptr)
+        {
+            m_sources[given.declaration->index] = Source::given;
+        }
     }
     for (const std::wstring& raw : fault.raw)
     {
         arguments.push_back(raw.c_str());
     }
-    Binder binder(givens, m_files, Source::given, m_object, m_outcome);
-    const kexa_3_3::result_t code = runParser(arguments, binder, true);
+    Binder binder(m_state, givens, m_isBound, Source::given, m_object, m_outcome);
+    const kexa_3_3::result_t code = runParser(arguments, binder, m_state.isShared());
     const std::wstring message =
         code == 0 ? std::wstring() : std::wstring(m_state.parser().getErrorMessage());
+    if (code != 0)
+    {
+        const std::size_t faulty = binder.begun() - (isValueMessage(message) ? 1 : 0);
+        if (faulty < givens.size() && givens[faulty].declaration == nullptr)
+        {
+            setErrorBeneath(m_outcome, code, message, givens, faulty, m_files);
+            return false;
+        }
+    }
     if (code != 0 && isValueMessage(message) && binder.begun() > 0)
     {
         const Given& given = givens[binder.begun() - 1];
@@ -101,7 +118,7 @@ KEXA_COMMAND_INLINE bool LineBinding::parseGiven()
     }
     if (code != 0)
     {
-        setActionError(m_outcome, code, message, m_scan, m_files);
+        setError(m_outcome, code, message, nullptr, Place(), m_files);
         return false;
     }
     return true;
@@ -110,6 +127,7 @@ KEXA_COMMAND_INLINE bool LineBinding::parseGiven()
 KEXA_COMMAND_INLINE bool LineBinding::parseEnvironment()
 {
     std::vector<Given> givens;
+    std::deque<std::wstring> texts;
     for (const Declaration* declaration : m_state.declarations())
     {
         if (declaration->environment.empty() || m_sources[declaration->index] != Source::defaulted)
@@ -121,7 +139,7 @@ KEXA_COMMAND_INLINE bool LineBinding::parseEnvironment()
         {
             continue;
         }
-        const std::wstring wide = widen(*value);
+        const std::wstring& wide = texts.emplace_back(widen(*value));
         const std::wstring& name = m_state.rawName(*declaration);
         std::wstring raw = name + L"=" + wide;
         std::string reason;
@@ -134,7 +152,7 @@ KEXA_COMMAND_INLINE bool LineBinding::parseEnvironment()
             }
         }
         m_sources[declaration->index] = Source::environment;
-        givens.push_back({declaration, std::move(raw), wide, Place(), false});
+        givens.push_back({declaration, std::move(raw), &wide, Place(), false});
     }
     if (givens.empty())
     {
@@ -143,9 +161,9 @@ KEXA_COMMAND_INLINE bool LineBinding::parseEnvironment()
     std::vector<const wchar_t*> arguments = {L""};
     for (const Given& given : givens)
     {
-        arguments.push_back(given.raw.c_str());
+        arguments.push_back(given.argument().c_str());
     }
-    Binder binder(givens, m_files, Source::environment, m_object, m_outcome);
+    Binder binder(m_state, givens, m_isBound, Source::environment, m_object, m_outcome);
     const kexa_3_3::result_t code = runParser(arguments, binder, false);
     if (code == 0)
     {

@@ -21,34 +21,39 @@ public:
     LineBinding(const Scan& scan, const std::vector<std::string>& files, void* object,
                 Outcome& outcome)
         : m_scan(scan), m_state(scan.state()), m_files(files), m_object(object), m_outcome(outcome),
-          m_sources(m_state.declarations().size(), Source::defaulted)
+          m_sources(m_state.declarations().size(), Source::defaulted),
+          m_isBound(m_state.memberCount())
     {
     }
 
     // Each step returns false where it has set the error.
     bool bind()
     {
+        m_outcome.names.push_back(m_state.primaryNames());
         m_outcome.program = m_state.definition().path;
         m_outcome.helpName =
             m_state.helpOption() == nullptr ? std::string() : spelled(*m_state.helpOption());
-        return parseGiven() && parseEnvironment() && checkMissing() && checkRelations() &&
-               bindInner() && checkStruct();
+        return parseGiven() && checkActions() && parseEnvironment() && checkMissing() &&
+               checkRelations() && bindInner() && checkStruct() && noteDeprecations();
     }
 
 private:
     bool parseGiven();
+    bool checkActions();
+    bool checkAccepted(const Declaration& action);
     bool parseEnvironment();
     bool checkMissing();
     bool checkRelations();
     bool checkRelation(const RelationOfOptions& relation);
     bool bindInner();
     bool checkStruct();
+    bool noteDeprecations();
     bool isChosen(const std::vector<std::size_t>& actions) const;
     bool refuse(const std::string& message, const Declaration* declaration,
                 const std::string& hint = std::string());
     const Given* firstOf(const Declaration& declaration) const;
     kexa_3_3::result_t runParser(const std::vector<const wchar_t*>& arguments, Binder& binder,
-                                 bool checksActions);
+                                 bool keepsResult);
 
     const Scan& m_scan;
     State& m_state;
@@ -56,6 +61,7 @@ private:
     void* m_object;
     Outcome& m_outcome;
     std::vector<Source> m_sources; // by the index of the declaration
+    std::vector<bool> m_isBound;   // by the number of the member
 };
 
 } // namespace detail

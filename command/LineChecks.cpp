@@ -18,6 +18,86 @@ KEXA_COMMAND_INLINE bool LineBinding::isChosen(const std::vector<std::size_t>& a
                        [this](std::size_t action) { return m_sources[action] == Source::given; });
 }
 
+KEXA_COMMAND_LOCAL bool isBefore(const Declaration* left, const Declaration* right)
+{
+    return left->names.front() < right->names.front();
+}
+
+// Whether one group of actions that may be given together holds the first of these.
+KEXA_COMMAND_LOCAL bool areCompatible(const Definition& definition,
+                                      const std::vector<const Declaration*>& actions,
+                                      std::size_t count)
+{
+    const auto end = actions.begin() + static_cast<std::ptrdiff_t>(count);
+    return std::any_of(definition.relations.begin(), definition.relations.end(),
+                       [&](const RelationOfOptions& each)
+                       {
+                           const auto holds = [&each](const Declaration* action)
+                           {
+                               return std::find(each.members.begin(), each.members.end(), action) !=
+                                      each.members.end();
+                           };
+                           return each.relation == Core::Relation::together &&
+                                  std::all_of(actions.begin(), end, holds);
+                       });
+}
+
+// What the parser would check of a result, with its messages. No result is made for that; and of
+// several actions the parser would only look at the first to see whether it accepts an option.
+KEXA_COMMAND_INLINE bool LineBinding::checkActions()
+{
+    std::vector<const Declaration*> actions;
+    bool hasActions = false;
+    bool isOptionGiven = false;
+    for (const Declaration* declaration : m_state.declarations())
+    {
+        const bool isAction = declaration->kind == Kind::action;
+        const bool isGiven = m_sources[declaration->index] == Source::given;
+        hasActions = hasActions || isAction;
+        isOptionGiven = isOptionGiven || (isGiven && !isAction);
+        if (isGiven && isAction)
+        {
+            actions.push_back(declaration);
+        }
+    }
+    if (actions.empty())
+    {
+        // A shared parser has checked this itself: it may have actions of its own.
+        return !hasActions || !isOptionGiven || m_scan.inner() != nullptr || m_state.isShared() ||
+               refuse("No action defined.", nullptr, hintOfActions(m_state));
+    }
+    std::sort(actions.begin(), actions.end(), isBefore);
+    for (std::size_t count = 2; count <= actions.size(); ++count)
+    {
+        if (!areCompatible(m_state.definition(), actions, count))
+        {
+            return refuse("Action '-" + actions[count - 1]->names.front() + "' and action '-" +
+                              actions.front()->names.front() +
+                              "' were defined, but only one action possible.",
+                          nullptr);
+        }
+    }
+    return checkAccepted(*actions.front());
+}
+
+KEXA_COMMAND_INLINE bool LineBinding::checkAccepted(const Declaration& action)
+{
+    const Declaration* refused = nullptr;
+    for (const Declaration* declaration : m_state.declarations())
+    {
+        const std::vector<std::size_t>& accepting = declaration->actions;
+        if (!accepting.empty() && m_sources[declaration->index] == Source::given &&
+            !isChosen(accepting) && (refused == nullptr || isBefore(declaration, refused)))
+        {
+            refused = declaration;
+        }
+    }
+    return refused == nullptr ||
+           refuse("Action '-" + action.names.front() + "' doesn't accept option '-" +
+                      refused->names.front() + "'",
+                  refused);
+}
+
 KEXA_COMMAND_INLINE bool LineBinding::checkMissing()
 {
     const Definition& definition = m_state.definition();
@@ -128,18 +208,42 @@ KEXA_COMMAND_INLINE bool LineBinding::bindInner()
     const Declaration& verb = *m_scan.subcommand();
     void* object = verb.emplace(static_cast<char*>(m_object) + verb.offset);
     m_outcome.sources.push_back({verb.offset, Source::given});
-    Outcome inner;
-    inner.occurrences = std::move(m_outcome.occurrences);
-    const bool isBound = LineBinding(*m_scan.inner(), m_files, object, inner).bind();
-    m_outcome.occurrences = std::move(inner.occurrences);
+    auto inner = std::make_shared<Outcome>();
+    inner->values = std::move(m_outcome.values);
+    inner->names = std::move(m_outcome.names);
+    const bool isBound = LineBinding(*m_scan.inner(), m_files, object, *inner).bind();
+    m_outcome.values = std::move(inner->values);
+    m_outcome.names = std::move(inner->names);
     if (!isBound)
     {
-        m_outcome.status = inner.status;
-        m_outcome.error = std::move(inner.error);
-        m_outcome.program = std::move(inner.program);
-        m_outcome.helpName = std::move(inner.helpName);
+        m_outcome.status = inner->status;
+        m_outcome.error = std::move(inner->error);
+        m_outcome.program = std::move(inner->program);
+        m_outcome.helpName = std::move(inner->helpName);
     }
+    m_outcome.inner = std::move(inner);
     return isBound;
+}
+
+// Those of the outer command come before those of its subcommand.
+KEXA_COMMAND_INLINE bool LineBinding::noteDeprecations()
+{
+    std::vector<std::string> warnings;
+    for (const Declaration* declaration : m_state.declarations())
+    {
+        if (!declaration->deprecation.empty() && m_sources[declaration->index] == Source::given)
+        {
+            warnings.push_back("'" + spelled(*declaration) +
+                               "' is deprecated: " + declaration->deprecation);
+        }
+    }
+    if (m_outcome.inner != nullptr)
+    {
+        const std::vector<std::string>& inner = m_outcome.inner->warnings;
+        warnings.insert(warnings.end(), inner.begin(), inner.end());
+    }
+    m_outcome.warnings = std::move(warnings);
+    return true;
 }
 
 KEXA_COMMAND_INLINE bool LineBinding::checkStruct()

@@ -105,7 +105,7 @@ KEXA_COMMAND_INLINE void setValueError(Outcome& outcome, int code, std::wstring 
                                        const Given& given, const std::string& reason,
                                        const std::vector<std::string>& files)
 {
-    quoteAsTyped(message, given.raw, given.typed);
+    quoteAsTyped(message, given.argument(), *given.typed);
     removeMarks(message);
     if (!reason.empty())
     {
@@ -114,6 +114,19 @@ KEXA_COMMAND_INLINE void setValueError(Outcome& outcome, int code, std::wstring 
     std::string hint = hintOfRefusal(message, given, reason);
     setError(outcome, code, std::move(message), given.declaration, given.place, files);
     outcome.error.hint = std::move(hint);
+}
+
+KEXA_COMMAND_INLINE void setErrorBeneath(Outcome& outcome, int code, std::wstring message,
+                                         const std::vector<Given>& givens, std::size_t index,
+                                         const std::vector<std::string>& files)
+{
+    // An option without its value looks at the argument behind it.
+    if (index + 1 < givens.size())
+    {
+        quoteAsTyped(message, givens[index + 1].argument(), *givens[index + 1].typed);
+    }
+    removeMarks(message);
+    setError(outcome, code, std::move(message), nullptr, givens[index].place, files);
 }
 
 KEXA_COMMAND_INLINE void setFault(Outcome& outcome, int code, std::wstring message,
@@ -153,25 +166,6 @@ KEXA_COMMAND_INLINE std::string hintOfActions(const State& state)
         }
     }
     return list;
-}
-
-KEXA_COMMAND_INLINE void setActionError(Outcome& outcome, int code, std::wstring message,
-                                        const Scan& scan, const std::vector<std::string>& files)
-{
-    const std::string refused = between(message, L"' doesn't accept option '-", L"'");
-    const Given* culprit = nullptr;
-    for (const Given& given : scan.givens())
-    {
-        if (culprit == nullptr && given.declaration->names.front() == refused)
-        {
-            culprit = &given;
-        }
-    }
-    const std::string hint =
-        message == L"No action defined." ? hintOfActions(scan.state()) : std::string();
-    setError(outcome, code, std::move(message), culprit == nullptr ? nullptr : culprit->declaration,
-             culprit == nullptr ? Place() : culprit->place, files);
-    outcome.error.hint = hint;
 }
 
 } // namespace detail

@@ -27,12 +27,14 @@ void setError(Outcome& outcome, int code, std::wstring message, const Declaratio
 void setValueError(Outcome& outcome, int code, std::wstring message, const Given& given,
                    const std::string& reason, const std::vector<std::string>& files);
 
+// For an option of the parser beneath: givens[index].
+void setErrorBeneath(Outcome& outcome, int code, std::wstring message,
+                     const std::vector<Given>& givens, std::size_t index,
+                     const std::vector<std::string>& files);
+
 // code and message: the parser's, for the arguments of the fault; 0 where there were none.
 void setFault(Outcome& outcome, int code, std::wstring message, const Fault& fault,
               const std::vector<std::string>& files);
-
-void setActionError(Outcome& outcome, int code, std::wstring message, const Scan& scan,
-                    const std::vector<std::string>& files);
 
 // The actions or verbs that can be given.
 std::string hintOfActions(const State& state);

@@ -124,7 +124,7 @@ KEXA_COMMAND_INLINE bool readFloat(Input& input, float& value)
     {
         return false;
     }
-    constexpr double highest = std::numeric_limits<float>::max();
+    constexpr double highest = static_cast<double>(std::numeric_limits<float>::max());
     if (wide > highest || wide < -highest)
     {
         input.reason =

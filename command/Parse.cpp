@@ -35,6 +35,7 @@ KEXA_COMMAND_LOCAL void parseArguments(State& state, std::vector<Argument> argum
         }
     }
     LineBinding(scan, files, object, outcome).bind();
+    outcome.files = std::move(files);
 }
 
 KEXA_COMMAND_LOCAL std::vector<Argument> numbered(std::vector<std::wstring> texts)
@@ -99,6 +100,7 @@ KEXA_COMMAND_INLINE void Core::parseLine(std::string_view line, void* object, Ou
     }
     m_state->prepare();
     outcome.program = m_definition->path;
+    outcome.helpName = m_state->helpOption() == nullptr ? "" : spelled(*m_state->helpOption());
     setError(outcome, kexa_3_3::result_invalid_arguments,
              L"unterminated quote: " + widen(line.substr(*split.unterminatedQuote)), nullptr,
              Place(), {});

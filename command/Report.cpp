@@ -29,6 +29,15 @@ KEXA_COMMAND_INLINE std::string describe(const Outcome& outcome)
     return text;
 }
 
+KEXA_COMMAND_INLINE void warn(const Outcome& outcome)
+{
+    for (const std::string& warning : outcome.warnings)
+    {
+        static_cast<void>(
+            writeText(StandardStream::error, outcome.program + ": " + warning + "\n"));
+    }
+}
+
 KEXA_COMMAND_INLINE int report(const Outcome& outcome)
 {
     if (outcome.status == Status::error)

@@ -97,13 +97,22 @@ KEXA_COMMAND_INLINE void Scan::add(const Declaration& declaration, std::wstring 
     m_isActionGiven = m_isActionGiven || declaration.kind == Kind::action;
     if (!m_fault.isFound)
     {
-        m_givens.push_back({&declaration, std::move(raw), current().text, current().place, false});
+        m_givens.push_back({&declaration, std::move(raw), &current().text, current().place, false});
     }
+}
+
+KEXA_COMMAND_INLINE std::wstring Scan::rawArgument(const Declaration& declaration,
+                                                   std::wstring_view value) const
+{
+    const std::wstring& name = m_state->rawName(declaration);
+    std::wstring raw;
+    raw.reserve(name.size() + 1 + value.size());
+    return raw.append(name).append(1, L'=').append(value);
 }
 
 KEXA_COMMAND_INLINE void Scan::addEmptyText(const Declaration& declaration)
 {
-    add(declaration, m_state->rawName(declaration) + L"=" + mark);
+    add(declaration, rawArgument(declaration, std::wstring_view(&mark, 1)));
     if (!m_fault.isFound)
     {
         m_givens.back().isEmptyText = true;
@@ -138,7 +147,7 @@ KEXA_COMMAND_INLINE void Scan::takePlain(bool isBehindMarker)
     if (!m_fault.isFound)
     {
         m_plain.push_back(m_givens.size());
-        m_givens.push_back({nullptr, std::wstring(), current().text, current().place, false});
+        m_givens.push_back({nullptr, std::wstring(), &current().text, current().place, false});
     }
     ++m_next;
 }
@@ -211,82 +220,6 @@ KEXA_COMMAND_INLINE void Scan::beginSubcommand(const Declaration& verb)
     m_inner->take(
         {m_arguments.begin() + static_cast<std::ptrdiff_t>(m_next) + 1, m_arguments.end()});
     m_next = m_arguments.size();
-}
-
-// Whether a positional argument takes part: not where an action is chosen that does not accept it.
-KEXA_COMMAND_INLINE bool Scan::isAccepted(const Declaration& positional) const
-{
-    bool isActionChosen = false;
-    for (const Given& given : m_givens)
-    {
-        if (given.declaration != nullptr && given.declaration->kind == Kind::action)
-        {
-            const std::vector<std::size_t>& actions = positional.actions;
-            if (std::find(actions.begin(), actions.end(), given.declaration->index) !=
-                actions.end())
-            {
-                return true;
-            }
-            isActionChosen = true;
-        }
-    }
-    return positional.actions.empty() || !isActionChosen;
-}
-
-// Gives the positional arguments of the line to those declared: each gets as many as it can while
-// enough are left for those behind it.
-KEXA_COMMAND_INLINE void Scan::distribute()
-{
-    std::vector<const Declaration*> accepted;
-    std::size_t needed = 0;
-    for (const Declaration* declaration : m_state->positionals())
-    {
-        if (isAccepted(*declaration))
-        {
-            accepted.push_back(declaration);
-            needed += declaration->minimum;
-        }
-    }
-    std::size_t next = 0;
-    for (const Declaration* declaration : accepted)
-    {
-        needed -= declaration->minimum;
-        const std::size_t left = m_plain.size() - next;
-        const std::size_t spare = left > needed ? left - needed : 0;
-        const std::size_t count =
-            std::min(declaration->maximum, std::max(spare, std::min(left, declaration->minimum)));
-        if (count < declaration->minimum && m_missing == nullptr)
-        {
-            m_missing = declaration;
-        }
-        for (const std::size_t end = next + count; next < end; ++next)
-        {
-            Given& given = m_givens[m_plain[next]];
-            given.declaration = declaration;
-            given.isEmptyText = given.typed.empty();
-            given.raw = m_state->rawName(*declaration) + L"=" +
-                        (given.isEmptyText ? std::wstring(1, mark) : given.typed);
-        }
-    }
-    if (next < m_plain.size())
-    {
-        // What stands behind the argument that is too many, and any mistake there, comes later.
-        const Given given = m_givens[m_plain[next]];
-        m_givens.resize(m_plain[next]);
-        m_fault = Fault();
-        m_fault.isFound = true;
-        m_fault.typed = given.typed;
-        m_fault.place = given.place;
-        if (!m_state->positionals().empty())
-        {
-            m_fault.message = "too many arguments: '" + narrow(given.typed) + "'";
-        }
-        else
-        {
-            m_fault.raw = {given.typed};
-            m_fault.hint = hintOfNames(m_state->names(), given.typed, true);
-        }
-    }
 }
 
 } // namespace detail

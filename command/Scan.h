@@ -34,11 +34,13 @@ struct Argument
 // One option, action or positional argument of the line.
 struct Given
 {
-    const Declaration* declaration = nullptr;
-    std::wstring raw;   // the argument for the parser
-    std::wstring typed; // the argument for messages, as the user typed it
+    const Declaration* declaration = nullptr; // null for an option of the parser beneath
+    std::wstring raw; // the argument for the parser; empty where it is the one that was typed
+    const std::wstring* typed = nullptr; // as the user typed it, for messages; not owned
     Place place;
     bool isEmptyText = false;
+
+    const std::wstring& argument() const { return raw.empty() ? *typed : raw; }
 };
 
 // The first mistake that no parser is needed to see.
@@ -82,6 +84,8 @@ private:
     void walk();
     void takeOption(const Argument& argument);
     void takeMatched(const NameEntry& entry, std::wstring_view value, bool hasEquals);
+    void takeOptionBeneath();
+    bool isTopicNext() const;
     void takeFlag(const NameEntry& entry, std::wstring_view value);
     void takeValue(const Declaration& declaration, std::wstring_view value, bool hasEquals);
     void takeNextValue(const Declaration& declaration);
@@ -99,6 +103,9 @@ private:
     NameMatch match(std::wstring_view name) const;
     bool takesRest() const;
 
+    // Returns "--name=value".
+    std::wstring rawArgument(const Declaration& declaration, std::wstring_view value) const;
+
     void add(const Declaration& declaration, std::wstring raw);
     void addEmptyText(const Declaration& declaration);
     Fault* fail(const Declaration* declaration, std::vector<std::wstring> raw);
@@ -108,7 +115,8 @@ private:
 
     State* m_state;
     std::vector<std::string>* m_files;
-    std::vector<Argument> m_arguments; // of the command line, then of each option file
+    std::vector<Argument> m_arguments;          // of the command line, then of each option file
+    std::vector<std::vector<Argument>> m_taken; // those before, which m_givens refer to
     std::size_t m_next = 0;
     std::vector<Given> m_givens;
     std::vector<std::size_t> m_plain; // which of m_givens are positional

@@ -32,7 +32,7 @@ KEXA_COMMAND_INLINE void Scan::readOptionFiles()
         }
         const Given given = m_givens[i];
         const std::string name =
-            narrow(given.raw.substr(m_state->rawName(*given.declaration).size() + 1));
+            narrow(given.argument().substr(m_state->rawName(*given.declaration).size() + 1));
         const std::string identity = fileIdentity(name);
         if (std::find(read.begin(), read.end(), identity) != read.end())
         {
@@ -50,6 +50,7 @@ KEXA_COMMAND_INLINE void Scan::readOptionFiles()
             return;
         }
         m_files->push_back(name);
+        m_taken.push_back(std::move(m_arguments)); // its texts stay where they are
         m_arguments.clear();
         for (const OptionFileArgument& argument : file.arguments)
         {

@@ -29,8 +29,10 @@ KEXA_COMMAND_INLINE NameMatch Scan::match(std::wstring_view name) const
 // Whether an argument that begins with a hyphen means an option, or several.
 KEXA_COMMAND_INLINE bool Scan::resolves(std::wstring_view argument) const
 {
-    const NameMatch found = match(splitArgument(argument).name);
+    const std::wstring_view name = splitArgument(argument).name;
+    const NameMatch found = match(name);
     return found.entry != nullptr || !found.candidates.empty() ||
+           m_state->isDeclaredBeneath(name) ||
            (m_state->definition().isPosix() && isBundle(argument));
 }
 
@@ -42,6 +44,10 @@ KEXA_COMMAND_INLINE void Scan::takeOption(const Argument& argument)
     if (exact != nullptr)
     {
         return takeMatched(*exact, split.value, split.hasEquals);
+    }
+    if (m_state->isDeclaredBeneath(split.name))
+    {
+        return takeOptionBeneath();
     }
     if (definition.isPosix() && isBundle(argument.text))
     {
@@ -71,6 +77,17 @@ KEXA_COMMAND_INLINE void Scan::takeOption(const Argument& argument)
         return takePlain(false);
     }
     failUnknown(argument);
+    ++m_next;
+}
+
+// The parser gets the argument as it is. Whether the option takes a value is not known here, so the
+// next argument is none.
+KEXA_COMMAND_INLINE void Scan::takeOptionBeneath()
+{
+    if (!m_fault.isFound)
+    {
+        m_givens.push_back({nullptr, std::wstring(), &current().text, current().place, false});
+    }
     ++m_next;
 }
 
@@ -113,6 +130,11 @@ KEXA_COMMAND_INLINE void Scan::takeMatched(const NameEntry& entry, std::wstring_
             m_wanted = &declaration;
             m_topic = value;
         }
+        if (declaration.kind == Kind::help && !hasEquals && value.empty() && isTopicNext())
+        {
+            ++m_next;
+            m_topic = current().text;
+        }
         ++m_next;
         break;
     case Kind::action:
@@ -138,6 +160,19 @@ KEXA_COMMAND_INLINE void Scan::takeMatched(const NameEntry& entry, std::wstring_
         }
         break;
     }
+}
+
+// Whether the next argument names something that has help of its own: "--help output".
+KEXA_COMMAND_INLINE bool Scan::isTopicNext() const
+{
+    if (m_next + 1 == m_arguments.size())
+    {
+        return false;
+    }
+    const std::wstring& next = m_arguments[m_next + 1].text;
+    return !next.empty() && !looksLikeOption(next) &&
+           (m_state->verbs().match(next).entry != nullptr ||
+            m_state->names().match(next).entry != nullptr);
 }
 
 KEXA_COMMAND_INLINE void Scan::takeFlag(const NameEntry& entry, std::wstring_view value)
@@ -187,7 +222,11 @@ KEXA_COMMAND_INLINE void Scan::takeValue(const Declaration& declaration, std::ws
     const std::wstring& raw = m_state->rawName(declaration);
     if (!value.empty())
     {
-        add(declaration, raw + L"=" + std::wstring(value));
+        // Most users type just what the parser takes.
+        const std::wstring& typed = current().text;
+        const bool isRaw = hasEquals && typed.size() == raw.size() + 1 + value.size() &&
+                           typed.compare(0, raw.size(), raw) == 0;
+        add(declaration, isRaw ? std::wstring() : rawArgument(declaration, value));
     }
     else if (hasEquals && m_state->definition().isPosix() && takesEmptyText(declaration))
     {
@@ -199,7 +238,7 @@ KEXA_COMMAND_INLINE void Scan::takeValue(const Declaration& declaration, std::ws
     }
     else if (declaration.isImplicit)
     {
-        add(declaration, raw + L"=" + widen(declaration.implicitText));
+        add(declaration, rawArgument(declaration, widen(declaration.implicitText)));
     }
     else
     {
@@ -228,7 +267,7 @@ KEXA_COMMAND_INLINE void Scan::takeNextValue(const Declaration& declaration)
     }
     if (!next.empty())
     {
-        add(declaration, raw + L"=" + next);
+        add(declaration, rawArgument(declaration, next));
     }
     else if (m_state->definition().isPosix() && takesEmptyText(declaration))
     {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cassert>
 #include <set>
+#include <unordered_map>
 
 #include "Characters.h"
 #include "Inline.h"
@@ -32,6 +33,19 @@ KEXA_COMMAND_INLINE kexa_3_3::IParser& State::sharedParser()
     prepare();
     m_isShared = true;
     return *m_parser;
+}
+
+KEXA_COMMAND_INLINE bool State::isDeclaredBeneath(std::wstring_view name) const
+{
+    if (!m_isShared)
+    {
+        return false;
+    }
+    const std::wstring whole(name);
+    return m_parser->hasOption(whole.c_str(), true, nullptr) ||
+           m_parser->hasOption(whole.c_str(), false, nullptr) ||
+           (whole.compare(0, 3, L"no-") == 0 &&
+            m_parser->hasOption(whole.c_str() + 3, false, nullptr));
 }
 
 // --help and --version take those of their names that are free.
@@ -85,6 +99,31 @@ KEXA_COMMAND_INLINE void State::addNames(const Declaration& declaration)
     }
 }
 
+// Whether some line may have both.
+KEXA_COMMAND_LOCAL bool meet(const Declaration& left, const Declaration& right)
+{
+    return left.actions.empty() || right.actions.empty() ||
+           std::find_first_of(left.actions.begin(), left.actions.end(), right.actions.begin(),
+                              right.actions.end()) != left.actions.end();
+}
+
+KEXA_COMMAND_INLINE void State::checkPositionals() const
+{
+    for (const Declaration* left : m_positionals)
+    {
+        for (const Declaration* right : m_positionals)
+        {
+            if (left->index < right->index && isUnlimited(*left) && isUnlimited(*right) &&
+                meet(*left, *right))
+            {
+                misuseOf(*m_core, *m_definition, *right,
+                         "never gets what '" + left->names.front() +
+                             "' can take: limit one of them with times()");
+            }
+        }
+    }
+}
+
 KEXA_COMMAND_INLINE void State::checkDeclarations() const
 {
     for (const auto& declaration : m_definition->declarations)
@@ -118,6 +157,7 @@ KEXA_COMMAND_INLINE void State::prepare()
             m_positionals.push_back(declaration.get());
         }
     }
+    checkPositionals();
     m_help = declareBuiltIn(Kind::help, m_definition->helpNames, "Show this help");
     m_version = m_definition->version.empty()
                     ? nullptr
@@ -125,8 +165,12 @@ KEXA_COMMAND_INLINE void State::prepare()
     m_names.sort();
     m_verbs.sort();
     m_rawNames.clear();
+    m_rawNames.reserve(m_all.size());
+    std::vector<std::string> primaryNames;
+    primaryNames.reserve(m_all.size());
     for (const Declaration* declaration : m_all)
     {
+        primaryNames.push_back(declaration->names.front());
         m_rawNames.push_back(L"--");
         if (isPositional(*declaration))
         {
@@ -134,8 +178,22 @@ KEXA_COMMAND_INLINE void State::prepare()
         }
         m_rawNames.back() += widen(declaration->names.front());
     }
+    m_primaryNames = std::make_shared<const std::vector<std::string>>(std::move(primaryNames));
+    numberMembers();
     makeParser();
     m_isPrepared = true;
+}
+
+KEXA_COMMAND_INLINE void State::numberMembers()
+{
+    std::unordered_map<std::size_t, std::size_t> numbers;
+    m_memberNumbers.clear();
+    for (const Declaration* declaration : m_all)
+    {
+        m_memberNumbers.push_back(
+            numbers.emplace(declaration->offset, numbers.size()).first->second);
+    }
+    m_memberCount = numbers.size();
 }
 
 // A parser that the program has declared options at is kept, and gets only what is new.
@@ -202,20 +260,12 @@ KEXA_COMMAND_LOCAL std::int32_t rawTypeOf(const Declaration& declaration)
 
 KEXA_COMMAND_INLINE void State::registerOption(const Declaration& declaration)
 {
-    const std::wstring name = m_rawNames[declaration.index].substr(2);
-    const std::wstring description = widen(declaration.description);
-    const std::wstring group = declaration.hidden ? L"kexa_hidden" : widen(declaration.group);
-    std::wstring keywords;
-    for (const std::size_t action : declaration.actions)
-    {
-        keywords += (keywords.empty() ? L"" : L",") + widen(m_all[action]->names.front());
-    }
+    // The help is the layer's: the parser needs no descriptions.
+    const wchar_t* name = m_rawNames[declaration.index].c_str() + 2;
     const std::int32_t type = rawTypeOf(declaration);
-    const kexa_3_3::Registration& registration =
-        declaration.kind == Kind::action
-            ? m_parser->addSwitch(name.c_str(), description.c_str(), type, group.c_str())
-            : m_parser->addOptionWithKeywords(name.c_str(), keywords.c_str(), description.c_str(),
-                                              type, group.c_str());
+    const kexa_3_3::Registration& registration = declaration.kind == Kind::action
+                                                     ? m_parser->addSwitch(name, L"", type, L"")
+                                                     : m_parser->addOption(name, L"", type, L"");
     assert(registration.option != nullptr);
     kexa_3_3::IOption& option = *registration.option;
     for (std::size_t i = 1; i < declaration.names.size(); ++i)

@@ -58,17 +58,37 @@ public:
         return m_rawNames[declaration.index];
     }
 
+    // The names by the index of the declaration, for outcomes that outlive this.
+    const std::shared_ptr<const std::vector<std::string>>& primaryNames() const
+    {
+        return m_primaryNames;
+    }
+
+    // Numbers the members of the struct that declarations bind. Several may bind one.
+    std::size_t memberNumber(const Declaration& declaration) const
+    {
+        return m_memberNumbers[declaration.index];
+    }
+    std::size_t memberCount() const { return m_memberCount; }
+
     // The parser keeps each of its messages: after many it is made anew.
     void countFailure();
 
     // For a program that declares on its own.
     kexa_3_3::IParser& sharedParser();
+    bool isShared() const { return m_isShared; }
+
+    // Whether the program has declared an option of this name, or that which a name behind "no-"
+    // negates, at the parser.
+    bool isDeclaredBeneath(std::wstring_view name) const;
 
 private:
     std::unique_ptr<Declaration> declareBuiltIn(Kind kind, const std::string& names,
                                                 const char* description);
     void addNames(const Declaration& declaration);
     void checkDeclarations() const;
+    void checkPositionals() const;
+    void numberMembers();
     void makeParser();
     bool isRegistered(const Declaration& declaration) const;
     void registerOption(const Declaration& declaration);
@@ -81,6 +101,9 @@ private:
     std::vector<const Declaration*> m_all;
     std::vector<const Declaration*> m_positionals;
     std::vector<std::wstring> m_rawNames;
+    std::shared_ptr<const std::vector<std::string>> m_primaryNames;
+    std::vector<std::size_t> m_memberNumbers;
+    std::size_t m_memberCount = 0;
     std::unique_ptr<Declaration> m_help;
     std::unique_ptr<Declaration> m_version;
     NameTable m_names;

@@ -1,30 +1,35 @@
-// Option files: "-option-file=NAME" adds the arguments in the file, one per line, after those of
-// the command line. This program uses the last value, so a file overrides the command line.
-#include "common/Arguments.h"
-#include "common/Host.h"
+// Option files: "--option-file=NAME" adds the arguments in the file, one in each line, behind those
+// of the command line. An error says in which line it is.
+#include <cstdio>
+#include <kexa/command.h>
 
-using namespace kexa_3_3;
-
-int run(int argc, const wchar_t* const* argv)
+struct Settings
 {
-    const example::ParserPointer parser = example::makeParser(flag_unknown_is_error);
-    parser->addOption(L"level", L"How much to say", value_type_integer, L"");
-    parser->addOption(L"tag", L"Tags of the run", value_type_string, L"");
-    parser->enableOptionFiles(L"Reads further arguments from a file", L"");
+    int level = 0;
+    std::vector<std::string> tags;
+};
 
-    const example::ResultPointer result = example::makeResult(*parser);
-    const result_t code = parser->parse(argc, argv, result.get());
-    if (code != result_success)
+void print(const kexa::Parsed<Settings>& parsed)
+{
+    std::printf("level %d", parsed->level);
+    for (const std::string& tag : parsed->tags)
     {
-        example::printError(std::wstring(parser->getErrorMessage()) + L"\n");
-        return code; // 6 if a file could not be read, 2 if an argument is wrong
+        std::printf(", tag %s", tag.c_str());
     }
-    for (const wchar_t* option : {L"level", L"tag", L"option-file"})
+    std::printf("\n");
+    for (const kexa::Occurrence& each : parsed.occurrences())
     {
-        for (const Value& value : example::valuesOf(*result, option))
-        {
-            example::print(std::wstring(option) + L" '" + value.as<const wchar_t*>() + L"'\n");
-        }
+        std::printf("  %s '%s' of argument %d", each.option.c_str(), each.value.c_str(),
+                    each.index);
+        each.line == 0 ? std::printf("\n") : std::printf(", %s:%d\n", each.file.c_str(), each.line);
     }
-    return 0;
+}
+
+int main(int argc, char** argv)
+{
+    kexa::Command<Settings> command("option_files");
+    command.option(&Settings::level, "level", "How much to say");
+    command.option(&Settings::tags, "tag", "Tags of the run").separator(',');
+    command.optionFiles("Read further arguments from a file");
+    return kexa::run(command, argc, argv, print);
 }

@@ -1,58 +1,33 @@
-// Positional and left-over arguments: a program that runs others. Plain arguments are the programs,
-// and the arguments after "--" are passed to them unread.
-#include "common/Arguments.h"
-#include "common/Host.h"
+// Positional arguments, and what is left over: a program that starts another one in a folder. What
+// is left over begins with the first plain argument behind the others, or with "--".
+#include <cstdio>
+#include <kexa/command.h>
 
-using namespace kexa_3_3;
-
-namespace
+struct Settings
 {
+    unsigned times = 1;
+    std::filesystem::path folder;
+    std::string program;
+    std::vector<std::string> arguments;
+};
 
-void declareOptions(IParser& parser)
+void print(const Settings& settings)
 {
-    parser.addOption(L"times,t", L"How often", value_type_unsigned, L"")
-        .option->setDefaultValue(vexkit2::variant_t(1U));
-    // A marked option takes the plain arguments and is not shown in the help.
-    parser.addOption(L"program", L"What to run", value_type_string, L"")
-        .option->setMarked()
-        .setSeparator(0); // a name may contain a comma
+    std::printf("in %s, %u times: %s", settings.folder.string().c_str(), settings.times,
+                settings.program.c_str());
+    for (const std::string& argument : settings.arguments)
+    {
+        std::printf(" '%s'", argument.c_str());
+    }
+    std::printf("\n");
 }
 
-void printRequest(IParseResult& result)
+int main(int argc, char** argv)
 {
-    for (const Value& program : example::valuesOf(result, L"program"))
-    {
-        const wchar_t* text = program.as<const wchar_t*>(); // null for an empty argument
-        if (text != nullptr)
-        {
-            example::print(std::wstring(L"program ") + text + L"\n");
-        }
-    }
-    const wchar_t* argument = nullptr;
-    for (auto code = result.getFirstUnparsed(&argument); code == result_success;
-         code = result.getNextUnparsed(&argument))
-    {
-        example::print(std::wstring(L"pass on ") + argument + L"\n");
-    }
-    const auto times = example::lastValue(result, L"times").as<vexkit2::u32_t>();
-    example::print(L"times " + std::to_wstring(times) + L"\n");
-}
-
-} // namespace
-
-int run(int argc, const wchar_t* const* argv)
-{
-    // An argument that begins with "-" is an option or an error, but never a program. After "--" it
-    // is a left-over argument; with flag_any_positional_after_marker it would be a program there.
-    const example::ParserPointer parser =
-        example::makeParser(flag_unknown_is_error | flag_no_hyphen_positional);
-    declareOptions(*parser);
-    const example::ResultPointer result = example::makeResult(*parser);
-    if (parser->parse(argc, argv, result.get()) != result_success)
-    {
-        example::printError(std::wstring(parser->getErrorMessage()) + L"\n");
-        return 2;
-    }
-    printRequest(*result);
-    return 0;
+    kexa::Command<Settings> command("positional_arguments", "Runs a program in a folder.");
+    command.option(&Settings::times, "times,t", "How often").range(1, 100);
+    command.positional(&Settings::folder, "folder", "Where to run it").required();
+    command.positional(&Settings::program, "program", "What to run").required();
+    command.rest(&Settings::arguments, "argument", "Passed on unread, options included");
+    return kexa::run(command, argc, argv, print);
 }

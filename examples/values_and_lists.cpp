@@ -1,66 +1,66 @@
-// Typed values, lists of values, allowed and deprecated values: the command line of a photo
-// converter, which prints the parsed settings.
-#include "common/Arguments.h"
-#include "common/Host.h"
+// Typed values, lists, maps and values by name: the command line of a photo converter, which prints
+// the settings.
+#include <cstdio>
+#include <kexa/command.h>
 
-using namespace kexa_3_3;
-using vexkit2::variant_t;
-
-namespace
+enum class Format
 {
+    jpeg,
+    png,
+    pnm
+};
 
-void declareOptions(IParser& parser)
+struct Settings
 {
-    parser.addOption(L"width,w", L"Widths in pixels", value_type_unsigned, L"");
-    parser.addOption(L"rotate", L"Degrees", value_type_integer, L"");
-    parser.addOption(L"seconds-offset", L"Clock correction", value_type_integer64, L"");
-    parser.addOption(L"mask", L"Channel mask", value_type_unsigned64, L"");
-    parser.addOption(L"gamma", L"Brightness curve", value_type_double, L"")
-        .option->setDefaultValue(variant_t(2.2));
-    parser.addOption(L"metadata", L"Keep the metadata", value_type_boolean, L"")
-        .option->setDefaultValue(variant_t(true));
-    parser.addOption(L"format", L"File format", value_type_string, L"")
-        .option->addAllowedValue(variant_t(L"jpeg"))
-        .addAllowedValue(variant_t(L"png"))
-        .addAllowedValue(variant_t(L"pnm"))
-        .addDeprecatedValue(variant_t(L"jpg"), variant_t(L"jpeg"));
-    parser.addOption(L"title", L"Caption", value_type_string, L"").option->setSeparator(0);
+    std::vector<std::uint16_t> widths = {640, 1280};
+    int rotate = 0;
+    std::uint64_t mask = 0xFF;
+    double gamma = 2.2;
+    bool metadata = true;
+    Format format = Format::jpeg;
+    std::optional<std::string> title;
+    std::map<std::string, std::string> tags;
+    std::string color = "auto";
+    int verbosity = 0;
+};
+
+void print(const Settings& settings)
+{
+    for (const unsigned width : settings.widths)
+    {
+        std::printf("width %u\n", width);
+    }
+    constexpr const char* formats[] = {"jpeg", "png", "pnm"};
+    std::printf("rotate %d, mask %llx, gamma %g, format %s, color %s, verbosity %d%s\n",
+                settings.rotate, static_cast<unsigned long long>(settings.mask), settings.gamma,
+                formats[static_cast<int>(settings.format)], settings.color.c_str(),
+                settings.verbosity, settings.metadata ? ", metadata kept" : "");
+    if (settings.title)
+    {
+        std::printf("title '%s'\n", settings.title->c_str());
+    }
+    for (const auto& [key, value] : settings.tags)
+    {
+        std::printf("tag %s is %s\n", key.c_str(), value.c_str());
+    }
 }
 
-void printValues(IParseResult& result)
+int main(int argc, char** argv)
 {
-    for (const Value& width : example::valuesOf(result, L"width"))
-    {
-        // Positions number the values of all options, so they give the order of different lists.
-        example::print(L"width " + std::to_wstring(width.as<vexkit2::u32_t>()) + L" at position " +
-                       std::to_wstring(width.position) + L"\n");
-    }
-    for (const wchar_t* name :
-         {L"rotate", L"seconds-offset", L"mask", L"gamma", L"metadata", L"format", L"title"})
-    {
-        const Value value = example::lastValue(result, name);
-        if (value.status == result_success)
-        {
-            example::print(std::wstring(name) + L" " + value.as<const wchar_t*>() + L"\n");
-        }
-    }
-    const double gamma = example::lastValue(result, L"gamma").as<double>();
-    const bool metadata = example::lastValue(result, L"metadata").as<bool>();
-    example::print(gamma > 1 && metadata ? L"brighter, metadata kept\n" : L"as asked\n");
-}
-
-} // namespace
-
-int run(int argc, const wchar_t* const* argv)
-{
-    const example::ParserPointer parser = example::makeParser(flag_unknown_is_error);
-    declareOptions(*parser);
-    const example::ResultPointer result = example::makeResult(*parser);
-    if (parser->parse(argc, argv, result.get()) != result_success)
-    {
-        example::printError(std::wstring(parser->getErrorMessage()) + L"\n");
-        return 2;
-    }
-    printValues(*result);
-    return 0;
+    kexa::Command<Settings> command("values_and_lists", "Converts photos.");
+    command.option(&Settings::widths, "width,w", "Widths in pixels").separator(',').range(16, 8192);
+    command.option(&Settings::rotate, "rotate", "Degrees").values({-90, 0, 90, 180});
+    command.option(&Settings::mask, "mask", "Channel mask, also hexadecimal");
+    command.option(&Settings::gamma, "gamma", "Brightness curve");
+    command.option(&Settings::metadata, "metadata", "Keep the metadata");
+    command.option(&Settings::format, "format", "File format")
+        .values({{"jpeg", Format::jpeg}, {"png", Format::png}, {"pnm", Format::pnm}})
+        .deprecated("jpg", "jpeg");
+    command.option(&Settings::title, "title", "Caption");
+    command.option(&Settings::tags, "tag", "Tags of the picture").valueName("KEY=TEXT");
+    command.option(&Settings::color, "color", "Colours in messages")
+        .values({"always", "auto", "never"})
+        .implicit("always");
+    command.option(&Settings::verbosity, "verbose,v", "Say more, each time").count();
+    return kexa::run(command, argc, argv, print);
 }

@@ -77,11 +77,8 @@ headline "Verifying after a change"
 echo '-exclude=tests' >>"$options"
 show -verify "$build/changed.sums"
 
-headline "Help on a topic"
-show -help sum
-
-headline "A trace of every step, switched on by the first argument"
-show kexaoption=kexalogenable=1 -sum -alg=ad LICENSE
+headline "Help"
+show --help
 
 if [ $# -gt 0 ]; then
     headline "Your command line: filesum $*"

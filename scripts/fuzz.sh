@@ -13,11 +13,11 @@ cd "$(dirname "$0")/.."
 seconds=${1:-20}
 shift || true
 targets=("$@")
-[ ${#targets[@]} -gt 0 ] || targets=(arguments help option_file utf8 values word_wrap)
+[ ${#targets[@]} -gt 0 ] || targets=(arguments command help option_file utf8 values word_wrap)
 
 # The longest input for each target, in bytes: longer ones take more time and find nothing new.
 declare -A longest=(
-    [arguments]=600 [help]=600 [option_file]=1000 [utf8]=64 [values]=400 [word_wrap]=400)
+    [arguments]=600 [command]=300 [help]=600 [option_file]=1000 [utf8]=64 [values]=400 [word_wrap]=400)
 
 scripts/install-packages.sh cmake ninja-build g++ clang libclang-rt-dev llvm
 build=build/fuzz

@@ -50,13 +50,10 @@ bool Peer::isSlow(const std::string& workload) const
 
 const std::vector<Peer>& allPeers()
 {
-    static const std::vector<Peer> peers = {kexaPeer(),           kexaFromNarrowPeer(),
-                                            getoptPeer(),         getoptPointersPeer(),
-                                            poptPeer(),           argsPeer(),
-                                            tclapPeer(),          cli11Peer(),
-                                            programOptionsPeer(), cxxoptsPeer(),
-                                            copyPeer(),           fromCharsPeer(),
-                                            splitPeer(),          hashPeer()};
+    static const std::vector<Peer> peers = {
+        kexaPeer(),    kexaFromNarrowPeer(), commandPeer(),   getoptPeer(), getoptPointersPeer(),
+        poptPeer(),    argsPeer(),           tclapPeer(),     cli11Peer(),  programOptionsPeer(),
+        cxxoptsPeer(), copyPeer(),           fromCharsPeer(), splitPeer(),  hashPeer()};
     return peers;
 }
 

@@ -124,6 +124,7 @@ Peer makePeer(std::string name, Abilities abilities)
 
 Peer kexaPeer();
 Peer kexaFromNarrowPeer(); // converts the arguments from UTF-8 first, as hosts on Linux do
+Peer commandPeer();        // the command layer: from UTF-8 to a filled struct
 Peer cli11Peer();
 Peer cxxoptsPeer();
 Peer programOptionsPeer();

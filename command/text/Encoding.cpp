@@ -86,7 +86,15 @@ KEXA_COMMAND_INLINE void appendWide(std::wstring& target, std::string_view text)
         text.remove_prefix(ascii);
         for (int count = 0; count < 8 && !text.empty(); ++count)
         {
-            out = widenFront(text, out);
+            if (static_cast<unsigned char>(text.front()) < 0x80)
+            {
+                *out++ = static_cast<wchar_t>(text.front());
+                text.remove_prefix(1);
+            }
+            else
+            {
+                out = widenFront(text, out);
+            }
         }
     }
     target.resize(before + static_cast<std::size_t>(out - begin));

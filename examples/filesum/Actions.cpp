@@ -6,6 +6,7 @@
 
 #include "filesum/CheckFile.h"
 #include "filesum/Names.h"
+#include "filesum/Platform.h"
 #include "filesum/Report.h"
 
 namespace filesum
@@ -30,7 +31,39 @@ std::string totalText(std::uint64_t files, std::uint64_t bytes)
            (bytes == 1 ? " byte" : " bytes");
 }
 
+ExitCode performTo(std::FILE* output, const Settings& settings)
+{
+    Report report(output, settings.progress && isTerminal(stderr));
+    const ExitCode code = settings.verify ? verifyFiles(settings.paths, settings, report)
+                          : settings.sum  ? sumFiles(settings.paths, settings, report)
+                                          : listFiles(settings.paths, settings, report);
+    report.finish(settings.output.empty() ? "standard output" : nameOf(settings.output));
+    return report.hasProblems() ? exit_problem : code;
+}
+
 } // namespace
+
+ExitCode perform(const Settings& settings)
+{
+    Settings complete = settings;
+    complete.selection.notThis = settings.output;
+    if (complete.paths.empty())
+    {
+        complete.paths.emplace_back(".");
+    }
+    if (settings.output.empty())
+    {
+        return performTo(stdout, complete);
+    }
+    const FilePointer file = openForWriting(settings.output);
+    if (file == nullptr)
+    {
+        const std::string reason = reasonOfErrno(); // before another call changes errno
+        Report(stdout, false).cannotWrite(nameOf(settings.output), reason);
+        return exit_problem;
+    }
+    return performTo(file.get(), complete);
+}
 
 ExitCode listFiles(const std::vector<std::filesystem::path>& roots, const Settings& settings,
                    Report& report)
@@ -75,7 +108,7 @@ ExitCode sumFiles(const std::vector<std::filesystem::path>& roots, const Setting
     }
     if (settings.total)
     {
-        report.line("# " + totalText(summed, bytes)); // which -verify skips as a comment
+        report.line("# " + totalText(summed, bytes)); // which --verify skips as a comment
     }
     return exit_success;
 }

@@ -1,4 +1,4 @@
-// The lines that "-sum" writes and "-verify" reads:
+// The lines that "--sum" writes and "--verify" reads:
 //
 //     crc32=cbf43926,adler32=091e01de 9 folder/name
 //

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <system_error>
 
 namespace filesum
@@ -17,11 +18,9 @@ struct CloseFile
 
 using FilePointer = std::unique_ptr<std::FILE, CloseFile>;
 
-// Converts a text of the parser to a path. On Linux lone surrogates become the bytes that they
-// stand for.
-std::filesystem::path pathOf(const std::wstring& text);
-
-// Returns the name with "/" between its parts: unchanged on Linux, as UTF-8 on Windows.
+// Converts between a path and its name with "/" between its parts: the bytes themselves on Linux,
+// UTF-8 on Windows, where bytes that are not UTF-8 become U+FFFD.
+std::filesystem::path pathOf(std::string_view name);
 std::string nameOf(const std::filesystem::path& path);
 
 // Open a binary file for reading, or for writing from an empty file. Return null and set errno on
@@ -33,5 +32,11 @@ FilePointer openForWriting(const std::filesystem::path& path);
 bool isLink(const std::filesystem::path& path);
 
 bool isTerminal(std::FILE* stream);
+
+// Writes UTF-8 immediately, also to a Windows console.
+void write(std::FILE* stream, std::string_view text);
+
+// Line feeds of the standard streams are not converted to CR LF on Windows.
+void useBinaryStreams();
 
 } // namespace filesum

@@ -1,14 +1,13 @@
 #include <unistd.h>
 
-#include "common/Text.h"
 #include "filesum/Platform.h"
 
 namespace filesum
 {
 
-std::filesystem::path pathOf(const std::wstring& text)
+std::filesystem::path pathOf(std::string_view name)
 {
-    return std::filesystem::path(example::toBytes(text));
+    return std::filesystem::path(name);
 }
 
 std::string nameOf(const std::filesystem::path& path)
@@ -36,5 +35,13 @@ bool isTerminal(std::FILE* stream)
 {
     return ::isatty(::fileno(stream)) != 0;
 }
+
+void write(std::FILE* stream, std::string_view text)
+{
+    std::fwrite(text.data(), 1, text.size(), stream);
+    std::fflush(stream);
+}
+
+void useBinaryStreams() {}
 
 } // namespace filesum

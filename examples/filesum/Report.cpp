@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cerrno>
 
-#include "common/Console.h"
 #include "filesum/Names.h"
 #include "filesum/Platform.h"
 
@@ -52,7 +51,7 @@ void Report::line(std::string_view text)
     line += '\n';
     if (m_outputIsTerminal)
     {
-        example::write(m_output, line); // immediately, and in the encoding of the console
+        write(m_output, line); // immediately, and in the encoding of the console
     }
     else
     {
@@ -65,7 +64,7 @@ void Report::problem(std::string_view text)
     clearProgress();
     std::fflush(m_output);
     m_hasProblems = true;
-    example::write(stderr, "filesum: " + std::string(text) + "\n");
+    write(stderr, "filesum: " + std::string(text) + "\n");
 }
 
 void Report::cannotRead(std::string_view name, std::string_view reason)
@@ -103,7 +102,7 @@ void Report::advance(std::uint64_t bytes)
         clearProgress();
         std::fflush(m_output);
         m_progress = text;
-        example::write(stderr, m_progress);
+        write(stderr, m_progress);
     }
 }
 
@@ -124,7 +123,7 @@ void Report::clearProgress()
         std::string blank(m_progress.size() + 2, ' ');
         blank.front() = '\r';
         blank.back() = '\r';
-        example::write(stderr, blank);
+        write(stderr, blank);
         m_progress.clear();
     }
 }

@@ -4,7 +4,6 @@
 #include <string_view>
 #include <vector>
 
-#include "common/Text.h"
 #include "filesum/Actions.h"
 #include "filesum/CheckFile.h"
 #include "filesum/Names.h"
@@ -88,7 +87,7 @@ enum class Outcome
 
 Outcome check(const CheckLine& line, const Settings& settings, Report& report)
 {
-    const std::filesystem::path path = pathOf(example::toWide(line.name));
+    const std::filesystem::path path = pathOf(line.name);
     std::error_code error;
     const std::filesystem::file_status status = std::filesystem::status(path, error);
     if (status.type() == std::filesystem::file_type::not_found)

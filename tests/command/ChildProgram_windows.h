@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include <gtest/gtest.h>
+
 #include "platform/Windows.h"
 
 // The path of a program that is built beside this one.
@@ -37,6 +39,33 @@ inline DWORD exitCodeOf(const PROCESS_INFORMATION& process)
     ::CloseHandle(process.hThread);
     ::CloseHandle(process.hProcess);
     return code;
+}
+
+// What a program of this folder writes to both output streams when it is started with a command
+// line that ends so.
+inline std::string outputOfProgram(const std::wstring& program, const std::wstring& arguments,
+                                   DWORD exitCode)
+{
+    SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
+    HANDLE readEnd = nullptr;
+    HANDLE writeEnd = nullptr;
+    EXPECT_NE(::CreatePipe(&readEnd, &writeEnd, &inherited, 0), FALSE);
+    STARTUPINFOW startup = {};
+    startup.cb = sizeof startup;
+    startup.dwFlags = STARTF_USESTDHANDLES;
+    startup.hStdInput = ::GetStdHandle(STD_INPUT_HANDLE);
+    startup.hStdOutput = writeEnd;
+    startup.hStdError = writeEnd;
+    PROCESS_INFORMATION process = {};
+    const std::wstring name = programBeside(program);
+    std::wstring line = L"\"" + name + L"\" " + arguments;
+    EXPECT_NE(::CreateProcessW(name.c_str(), line.data(), nullptr, nullptr, TRUE, 0, nullptr,
+                               nullptr, &startup, &process),
+              FALSE);
+    ::CloseHandle(writeEnd);
+    const std::string output = readToEnd(readEnd);
+    EXPECT_EQ(exitCodeOf(process), exitCode);
+    return output;
 }
 
 #endif

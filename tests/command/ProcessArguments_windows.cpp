@@ -14,26 +14,7 @@ namespace
 // What argument_reader writes when it is started with a command line that ends so.
 std::string outputOf(const std::wstring& arguments)
 {
-    SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
-    HANDLE readEnd = nullptr;
-    HANDLE writeEnd = nullptr;
-    EXPECT_NE(::CreatePipe(&readEnd, &writeEnd, &inherited, 0), FALSE);
-    STARTUPINFOW startup = {};
-    startup.cb = sizeof startup;
-    startup.dwFlags = STARTF_USESTDHANDLES;
-    startup.hStdInput = ::GetStdHandle(STD_INPUT_HANDLE);
-    startup.hStdOutput = writeEnd;
-    startup.hStdError = ::GetStdHandle(STD_ERROR_HANDLE);
-    PROCESS_INFORMATION process = {};
-    const std::wstring name = programBeside(L"argument_reader.exe");
-    std::wstring line = L"\"" + name + L"\" " + arguments;
-    EXPECT_NE(::CreateProcessW(name.c_str(), line.data(), nullptr, nullptr, TRUE, 0, nullptr,
-                               nullptr, &startup, &process),
-              FALSE);
-    ::CloseHandle(writeEnd);
-    const std::string output = readToEnd(readEnd);
-    EXPECT_EQ(exitCodeOf(process), 0U);
-    return output;
+    return outputOfProgram(L"argument_reader.exe", arguments, 0);
 }
 
 constexpr const char* as_they_are = "as they are\n";

@@ -1,29 +1,23 @@
 #include <cstdio>
-#include <kexa/kexa.h>
+#include <kexa/command.h>
 
-using namespace kexa_3_3;
-
-int main()
+struct Settings
 {
-    IParser* parser = nullptr;
-    createParser(&parser, flag_unknown_is_error);
-    parser->addOption(L"verbose,v", L"Say what happens", value_type_boolean, L"");
-    parser->addOption(L"version", L"The version to use", value_type_integer, L"");
-    IOption& mode = *parser->addOption(L"mode,m", L"How to run", value_type_string, L"").option;
-    mode.addAllowedValue(vexkit2::variant_t(L"fast")).addAllowedValue(vexkit2::variant_t(L"slow"));
+    bool verbose = false;
+    int level = 3;
+    std::string mode = "careful";
+    std::vector<std::filesystem::path> files;
+};
 
-    IParseResult* result = nullptr;
-    parser->createParseResult(&result);
-    const wchar_t* good[] = {L"tool", L"--verb", L"-vers=3", L"--mode", L"f"};
-    if (parser->parse(5, good, result) == result_success)
-    {
-        const Value version = getLastValue(result, L"version", 0, no_position);
-        const Value chosen = getLastValue(result, L"mode", 0, no_position);
-        std::printf("version %d, mode %ls\n", version.as<int>(), chosen.as<const wchar_t*>());
-    }
-    const wchar_t* bad[] = {L"tool", L"--ver"};
-    parser->parse(2, bad, result);
-    std::printf("%ls\n", parser->getErrorMessage());
-    result->release();
-    parser->release();
+int main(int argc, char** argv)
+{
+    kexa::Command<Settings> command("pack", "Packs files.");
+    command.option(&Settings::verbose, "verbose,v", "Say what happens");
+    command.option(&Settings::level, "level,l", "How small").range(1, 9);
+    command.option(&Settings::mode, "mode", "How to read").values({"fast", "careful"});
+    command.positional(&Settings::files, "file", "Files to pack").required();
+    return kexa::run(
+        command, argc, argv,
+        [](const Settings& s)
+        { std::printf("%zu files, level %d, %s\n", s.files.size(), s.level, s.mode.c_str()); });
 }

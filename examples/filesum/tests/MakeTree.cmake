@@ -8,6 +8,7 @@ file(WRITE "${work}/tree/cache/old.tmp" "temporary")
 file(COPY "${CMAKE_CURRENT_LIST_DIR}/all_bytes.bin" DESTINATION "${work}/tree/data")
 file(WRITE "${work}/usual.options"
     "; Leaves the temporary files out.\n-exclude=cache,*.tmp\n\n-alg adler32\n")
+file(WRITE "${work}/wrong.options" "; The second line is wrong.\n-min-size=many\n")
 
 file(WRITE "${work}/malformed.sums"
     "# A comment, then lines that are wrong in turn.\n"

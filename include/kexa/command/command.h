@@ -136,7 +136,10 @@ public:
         return core().help(topic, columns);
     }
 
-    // The parser beneath. What is declared there lies outside the layer's rules and help.
+    // The parser beneath. Options that are declared there may be given on the lines that this
+    // command parses: by their names in full, and with a value behind '=' ("--name=value"). They
+    // are read from Parsed::result() or by an event handler, and lie outside the layer's rules,
+    // hints, occurrences and help. Call it after the last change to the command's own options.
     kexa_3_3::IParser& parser() { return core().parser(); }
 
     const std::shared_ptr<detail::Core>& sharedCore() const noexcept { return this->m_core; }

@@ -1,16 +1,17 @@
-// What may be said about one option, action or positional argument after it was declared.
+// What may be said about one option or positional argument after it was declared.
 #ifndef KEXA_COMMAND_OPTION_H
 #define KEXA_COMMAND_OPTION_H
 
 #include <cstddef>
 #include <initializer_list>
+#include <iterator>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <type_traits>
 #include <utility>
-#include <vector>
 
-#include "kexa/command/detail/core.h"
+#include "kexa/command/declared.h"
 #include "kexa/command/detail/member.h"
 #include "kexa/command/detail/rules.h"
 
@@ -18,37 +19,6 @@ namespace kexa
 {
 inline namespace v1
 {
-
-// Names one declaration of a command. Cheap to copy; not to be used after the Command is gone.
-class Declared
-{
-public:
-    Declared(detail::Core& core, detail::Declaration& declaration) noexcept
-        : m_core(&core), m_declaration(&declaration)
-    {
-    }
-
-    detail::Core::Reference reference() const noexcept { return {m_core, m_declaration}; }
-
-protected:
-    detail::Core* m_core;
-    detail::Declaration* m_declaration;
-};
-
-// An action of a command, to be named in of() and together().
-class Action : public Declared
-{
-public:
-    using Declared::Declared;
-
-    Action& group(std::string_view name) { return m_declaration->group = name, *this; }
-    Action& hidden() { return m_declaration->hidden = true, *this; }
-    Action& alias(std::string_view names) { return m_core->addAlias(*m_declaration, names), *this; }
-    Action& deprecated(std::string_view instead)
-    {
-        return m_declaration->deprecation = instead, *this;
-    }
-};
 
 // An option or positional argument whose member is a T. Each operation returns the option itself,
 // so that calls can be chained. A mistake is a std::logic_error that names the declaration.
@@ -123,13 +93,14 @@ public:
     template <class Number = Element, class = std::enable_if_t<detail::isNumber<Number>>>
     Option& deprecated(Number old, Number replacement)
     {
-        m_core->replaceValue(*m_declaration, detail::variantOf(old),
-                             detail::variantOf(replacement));
-        return *this;
+        const auto variant = [](Number number)
+        {
+            return detail::variantOf(number);
+        };
+        return m_core->replaceValue(*m_declaration, variant(old), variant(replacement)), *this;
     }
 
-    // The option itself is deprecated: the help says so and what to do instead, such as
-    // "use --new".
+    // The option itself is deprecated; `instead` is for the help and Parsed::warnings(): "use --new".
     Option& deprecated(std::string_view instead)
     {
         return m_declaration->deprecation = instead, *this;
@@ -171,17 +142,8 @@ public:
     // Takes no value and counts how often it is given. For integers.
     Option& count()
     {
-        static_assert(std::is_integral_v<Element> && detail::isNumber<Element>,
-                      "only an integer can count");
-        m_core->setCounting(*m_declaration,
-                            [](void* member)
-                            {
-                                Element& counter = *static_cast<Element*>(member);
-                                if (counter != std::numeric_limits<Element>::max())
-                                {
-                                    ++counter;
-                                }
-                            });
+        static_assert(std::is_integral_v<Element> && detail::isNumber<Element>, "not an integer");
+        m_core->setCounting(*m_declaration, detail::increment<Element>);
         return *this;
     }
 
@@ -222,7 +184,7 @@ public:
     // The heading under which the help lists the option.
     Option& group(std::string_view name) { return m_declaration->group = name, *this; }
 
-    // Accepted, but not shown in the help.
+    // Not shown in the help.
     Option& hidden() { return m_declaration->hidden = true, *this; }
 };
 

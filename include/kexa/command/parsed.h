@@ -4,6 +4,7 @@
 
 #include <cassert>
 #include <cstddef>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -15,6 +16,16 @@ namespace kexa
 {
 inline namespace v1
 {
+
+namespace detail
+{
+
+template <class T>
+inline constexpr bool isOptional = false;
+template <class T>
+inline constexpr bool isOptional<std::optional<T>> = true;
+
+} // namespace detail
 
 #if KEXA_COMMAND_EXCEPTIONS
 // What valueOrThrow() throws. what() is the message.
@@ -86,23 +97,33 @@ public:
     }
 #endif
 
-    // Where a member's value comes from. A second pointer names a member of a nested struct, as in
-    // source(&Settings::selection, &Selection::size).
-    template <class Base, class Member>
-    Source source(Member Base::*member) const
+    // Where a member's value comes from. Further pointers lead into nested structs and into those of
+    // subcommands, as in source(&Settings::push, &Push::force).
+    template <class... Pointers>
+    Source source(Pointers... members) const
     {
-        return m_outcome.sourceOf(offsetOf(&(m_settings.*member)));
-    }
-    template <class Base, class Middle, class Inner, class Member>
-    Source source(Middle Base::*middle, Member Inner::*member) const
-    {
-        return m_outcome.sourceOf(offsetOf(&(m_settings.*middle.*member)));
+        return sourceIn(m_outcome, &m_settings, m_settings, members...);
     }
 
     // Every value that was given, in the order of the command line.
-    const std::vector<Occurrence>& occurrences() const noexcept
+    std::vector<Occurrence> occurrences() const
     {
-        return m_outcome.occurrences;
+        return m_outcome.occurrences();
+    }
+
+    // What to tell the user although the line is right: the deprecated options that it gives. run()
+    // prints them to standard error.
+    const std::vector<std::string>& warnings() const noexcept
+    {
+        return m_outcome.warnings;
+    }
+
+    // What the parser beneath has read, for options that the program has declared at
+    // Command::parser(). Null where the program has not called that before the parse. Belongs to
+    // this object, and is not to be used after the Command is gone.
+    kexa_3_3::IParseResult* result() const noexcept
+    {
+        return m_outcome.result.get();
     }
 
     const detail::Outcome& outcome() const noexcept
@@ -114,10 +135,27 @@ private:
     template <class>
     friend class Command;
 
-    std::size_t offsetOf(const void* member) const noexcept
+    // whole: the struct whose members the outcome is about; object: it or a struct within it.
+    template <class Object, class Base, class Member, class... Pointers>
+    static Source sourceIn(const detail::Outcome& outcome, const void* whole, const Object& object,
+                           Member Base::*member, Pointers... others)
     {
-        return static_cast<std::size_t>(static_cast<const char*>(member) -
-                                        reinterpret_cast<const char*>(&m_settings));
+        const auto& found = object.*member;
+        if constexpr (sizeof...(others) == 0)
+        {
+            return outcome.sourceOf(static_cast<std::size_t>(reinterpret_cast<const char*>(&found) -
+                                                             static_cast<const char*>(whole)));
+        }
+        else if constexpr (detail::isOptional<Member>)
+        {
+            return found && outcome.inner != nullptr
+                       ? sourceIn(*outcome.inner, &*found, *found, others...)
+                       : Source::defaulted;
+        }
+        else
+        {
+            return sourceIn(outcome, whole, found, others...);
+        }
     }
 
     Settings m_settings{};

@@ -20,7 +20,7 @@ int report(const Parsed<Settings>& parsed)
     return detail::report(parsed.outcome());
 }
 
-// Parses the arguments of main() or wmain() and calls the body with the struct, or with the Parsed
+// Parses the arguments of main() or wmain(), prints warnings to standard error and calls the body with the struct, or with the Parsed
 // struct where it takes that. Returns the exit code: the body's own (0 where it returns nothing),
 // else that of report(). Catches nothing that the body throws.
 template <class Settings, class Character, class Body>
@@ -31,6 +31,7 @@ int run(Command<Settings>& command, int argc, Character** argv, Body&& body)
     {
         return report(parsed);
     }
+    detail::warn(parsed.outcome());
     const auto call = [](auto&& function, auto&& argument) -> int
     {
         if constexpr (std::is_void_v<decltype(function(argument))>)

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string_view>
 
+#include "kexa/command/detail/erased.h"
 #include "kexa/command/option.h"
 
 namespace kexa
@@ -54,7 +55,8 @@ public:
         return declare<Option<Member>, Member>(detail::Kind::positional, member, name, description);
     }
 
-    // Declares what takes everything behind the positional arguments, hyphens or not.
+    // Declares what takes everything that is left over, hyphens or not: from the first plain argument
+    // that no positional member takes, or from "--". Options before that are the program's own.
     template <class Base, class Member>
     Option<Member> rest(Member Base::*member, std::string_view name, std::string_view description)
     {

@@ -16,6 +16,10 @@ enum class Mode
     careful
 };
 
+struct Inner
+{
+};
+
 struct Settings
 {
     bool flag = false;
@@ -24,6 +28,8 @@ struct Settings
     std::string text = "none";
     std::string empty;
     std::vector<int> list;
+    std::vector<int> more;
+    std::optional<Inner> inner;
     Mode mode = Mode::fast;
 };
 
@@ -141,6 +147,33 @@ INSTANTIATE_TEST_SUITE_P(
             "kexa: command 'tool', '-x': 'A=B' names no environment variable"},
         Row{[](auto& c) { c.positional(&Settings::number, "x", "").count(); },
             "kexa: command 'tool', 'x': only an option with an integer can count"},
+        Row{[](auto& c) { c.option(&Settings::number, "x", "").environment("X").count(); },
+            "kexa: command 'tool', '-x': counts, and so has no values, rules, implicit value or "
+            "environment variable"},
+        Row{[](auto& c) { c.option(&Settings::number, "x", "").implicit("3").count(); },
+            "kexa: command 'tool', '-x': counts, and so has no values, rules, implicit value or "
+            "environment variable"},
+        Row{[](auto& c) { c.option(&Settings::number, "x", "").range(1, 9).count(); },
+            "kexa: command 'tool', '-x': counts, and so has no values, rules, implicit value or "
+            "environment variable"},
+        Row{[](auto& c) { c.option(&Settings::number, "x", "").count().range(1, 9); },
+            "kexa: command 'tool', '-x': counts, and so has no values to check"},
+        Row{[](auto& c) { c.option(&Settings::number, "x", "").count().values({5}); },
+            "kexa: command 'tool', '-x': counts, and so has no values to check"},
+        Row{[](auto& c) { c.option(&Settings::number, "x", "").count().environment("X"); },
+            "kexa: command 'tool', '-x': takes no value from the environment"},
+        Row{[](auto& c) { c.option(&Settings::action, "x", "").required(); },
+            "kexa: command 'tool', '-x': takes no value: only what takes one can be required"},
+        Row{[](auto& c) { c.option(&Settings::number, "x", "").count().required(); },
+            "kexa: command 'tool', '-x': takes no value: only what takes one can be required"},
+        Row{[](auto& c)
+            {
+                c.positional(&Settings::list, "a", "");
+                c.positional(&Settings::more, "b", "").required();
+                c.parseLine("");
+            },
+            "kexa: command 'tool', 'b': never gets what 'a' can take: limit one of them with "
+            "times()"},
         Row{[](auto& c)
             {
                 c.option(&Settings::mode, "x", "");
@@ -151,6 +184,33 @@ INSTANTIATE_TEST_SUITE_P(
 INSTANTIATE_TEST_SUITE_P(
     Commands, Misuse,
     testing::Values(
+        Row{[](auto& c)
+            {
+                const auto action = c.action(&Settings::action, "act", "");
+                c.option(&Settings::text, "x", "").of(action, action);
+            },
+            "kexa: command 'tool', '-x': the action '--act' is named twice"},
+        Row{[](auto& c)
+            {
+                c.verbs();
+                c.action(&Settings::action, "act", "");
+                c.subcommand(&Settings::inner, kexa::Command<Inner>("act"));
+            },
+            "kexa: command 'tool', '--act': cannot be a verb: a subcommand has the name 'act'"},
+        Row{[](auto& c)
+            {
+                c.subcommand(&Settings::inner, kexa::Command<Inner>("act"));
+                c.verbs();
+                c.action(&Settings::action, "act", "");
+            },
+            "kexa: command 'tool', '--act': cannot be a verb: a subcommand has the name 'act'"},
+        Row{[](auto& c)
+            {
+                c.subcommand(&Settings::inner, kexa::Command<Inner>("act"));
+                c.action(&Settings::action, "act", "");
+                c.verbs();
+            },
+            "kexa: command 'tool', '--act': cannot be a verb: a subcommand has the name 'act'"},
         Row{[](auto& c)
             {
                 kexa::Command<Settings> other("other");

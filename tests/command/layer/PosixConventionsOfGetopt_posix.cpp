@@ -6,16 +6,12 @@
 #include <string>
 #include <vector>
 
+#include "GetoptLong_posix.h"
 #include "PosixRows.h"
 #include "text/LineSplitting.h"
 
-namespace
+std::string runGetopt(std::vector<std::string> arguments)
 {
-
-// Returns the settings as show() does, "error" where getopt_long finds one.
-std::string runGetopt(const char* line)
-{
-    std::vector<std::string> arguments = kexa::detail::splitLine(line).arguments;
     arguments.insert(arguments.begin(), "tar");
     std::vector<char*> argv;
     for (std::string& argument : arguments)
@@ -74,11 +70,14 @@ std::string runGetopt(const char* line)
     return show(settings);
 }
 
+namespace
+{
+
 TEST(PosixConventions, AreThoseOfGetoptLongWhereBothSpeakOfTheSame)
 {
     for (const PosixRow& row : posixRows())
     {
-        const std::string outcome = runGetopt(row.line);
+        const std::string outcome = runGetopt(kexa::detail::splitLine(row.line).arguments);
         switch (row.getopt)
         {
         case Getopt::same:

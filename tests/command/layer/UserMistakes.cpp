@@ -27,6 +27,7 @@ struct Settings
     std::uint32_t buffer = 4096;
     double ratio = 0.5;
     std::string output = "out";
+    int depth = 1;
     std::vector<int> sizes;
     std::vector<std::string> paths;
 };
@@ -47,6 +48,7 @@ kexa::Command<Settings> makeCommand()
     command.option(&Settings::buffer, "buffer-size", "Bytes to read at a time").range(1, 1 << 26);
     command.option(&Settings::ratio, "ratio", "How many");
     command.option(&Settings::output, "output,o", "Write here").of(sum);
+    command.option(&Settings::depth, "depth", "How deep").of(list, sum);
     command.option(&Settings::sizes, "sizes", "Sizes")
         .separator(',')
         .check([](int size) { return size % 2 == 0 ? nullptr : "is odd"; });
@@ -149,6 +151,10 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"--list --remove x", "2 Action '-remove' and action '-list' were defined, but only one "
                                  "action possible."},
         Row{"-l --output=f x", "2 Action '-list' doesn't accept option '-output' | output #2"},
+        Row{"--list --sum -o f x", "accepted"}, Row{"-s -o f x", "accepted"},
+        Row{"-o f x --list", "2 Action '-list' doesn't accept option '-output' | output #1"},
+        Row{"--remove -o f --depth 3 x",
+            "2 Action '-remove' doesn't accept option '-depth' | depth #4"},
         Row{"-l", "2 missing argument: path | path"}, Row{"", "2 missing argument: path | path"},
         Row{"-l 'x", "2 unterminated quote: 'x"}));
 

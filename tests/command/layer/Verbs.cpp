@@ -162,6 +162,48 @@ INSTANTIATE_TEST_SUITE_P(
                                   "  -v, --verbose  Say more\n"
                                   "  -h, --help     Show this help\n"}));
 
+TEST(Subcommands, TellWhereTheirValuesComeFrom)
+{
+    kexa::Command<Git> git = makeGit();
+    using kexa::Source;
+    const auto pushed = git.parseLine("push -f");
+    EXPECT_EQ(pushed.source(&Git::push), Source::given);
+    EXPECT_EQ(pushed.source(&Git::push, &Push::force), Source::given);
+    EXPECT_EQ(pushed.source(&Git::push, &Push::refs), Source::defaulted);
+    EXPECT_EQ(pushed.source(&Git::remote, &Remote::add, &Add::force), Source::defaulted);
+    const auto added = git.parseLine("remote add origin");
+    EXPECT_EQ(added.source(&Git::remote, &Remote::add, &Add::name), Source::given);
+    EXPECT_EQ(added.source(&Git::remote, &Remote::add, &Add::force), Source::defaulted);
+    EXPECT_EQ(added.source(&Git::push, &Push::force), Source::defaulted);
+}
+
+TEST(Subcommands, AreTopicsOfTheHelp)
+{
+    kexa::Command<Git> git = makeGit();
+    const std::string push = git.help("push");
+    EXPECT_EQ(push.substr(0, 15), "Usage: git push");
+    EXPECT_EQ(git.parseLine("--help push").text(), push);
+    EXPECT_EQ(git.parseLine("-h pu -x").text(), push);
+    EXPECT_EQ(git.parseLine("--help=push").text(), push);
+    EXPECT_EQ(git.parseLine("--help verbose").text(), "  -v, --verbose  Say more\n");
+    EXPECT_EQ(git.parseLine("--help there-is-none").text(), git.help());
+    EXPECT_EQ(git.parseLine("push --help force").text(), "  -f, --force  Overwrite\n");
+}
+
+TEST(Subcommands, WarnOfWhatIsDeprecated)
+{
+    kexa::Command<Push> push("push", "Sends commits.");
+    push.option(&Push::force, "force", "Overwrite").deprecated("use --lease");
+    kexa::Command<Git> git("git", "Keeps versions.");
+    git.option(&Git::verbose, "verbose,v", "Say more").deprecated("use --log");
+    git.subcommand(&Git::push, push);
+    using Texts = std::vector<std::string>;
+    EXPECT_EQ(
+        git.parseLine("-v -v push --force").warnings(),
+        (Texts{"'--verbose' is deprecated: use --log", "'--force' is deprecated: use --lease"}));
+    EXPECT_EQ(git.parseLine("push").warnings(), Texts());
+}
+
 TEST(Subcommands, AreNamedWithTheirPathInReports)
 {
     kexa::Command<Git> git = makeGit();

@@ -9,8 +9,8 @@
 namespace unit
 {
 
-// Makes the option known to the index as a registry does. The index learns from then on of further
-// names and of the option becoming positional.
+// Adds the option to the index as a registry does. Names that it gets later are added as well, and
+// the index notes when the option becomes positional.
 //
 // number: the option's place in table order, which no other option of the index has.
 inline void enterOption(kexa_3_3::OptionDescription& option, kexa_3_3::OptionIndex& index,

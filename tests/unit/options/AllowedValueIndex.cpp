@@ -131,7 +131,7 @@ public:
     }
 
 private:
-    // Small numbers, and some around those that a double still tells apart.
+    // Small numbers, and some around the largest integers that a double holds exactly.
     std::uint64_t integer()
     {
         constexpr std::uint64_t exact = std::uint64_t{1} << 53;

@@ -196,7 +196,7 @@ std::string randomDigits(NumberTexts& random, unsigned longest)
     return digits;
 }
 
-// What `std::strtod` says, a number that a double cannot hold being null.
+// Returns what std::strtod reads; null for a number that a double cannot hold.
 variant_t readDouble(const std::string& text)
 {
     const double number = std::strtod(text.c_str(), nullptr);

@@ -50,10 +50,10 @@ TEST_F(OptionGroups, GroupIsCutAtItsFirstColon)
     add(L"h", L"");
     add(L"i", L"Advanced:");
     EXPECT_EQ(groupsOf(options), (Groups{{L"advanced", L"Advanced options"},
-                                        {L"plain", L""},
-                                        {L"x", L"y:z"},
-                                        {L"", L"Of no group"},
-                                        {L"Advanced", L""}}));
+                                         {L"plain", L""},
+                                         {L"x", L"y:z"},
+                                         {L"", L"Of no group"},
+                                         {L"Advanced", L""}}));
     for (const std::size_t index : {0U, 1U, 2U})
     {
         EXPECT_EQ(options[index].group.name, L"advanced") << index;

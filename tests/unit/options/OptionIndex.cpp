@@ -40,14 +40,8 @@ class NaiveTable
 public:
     std::vector<Option> options;
 
-    [[nodiscard]] Found findNamed(const std::wstring& text) const
-    {
-        return find(text, false);
-    }
-    [[nodiscard]] Found findCandidate(const std::wstring& text) const
-    {
-        return find(text, true);
-    }
+    [[nodiscard]] Found findNamed(const std::wstring& text) const { return find(text, false); }
+    [[nodiscard]] Found findCandidate(const std::wstring& text) const { return find(text, true); }
 
     // The candidates that begin with a text, in table order; `option` receives that of the last.
     [[nodiscard]] Texts candidates(const std::wstring& beginning, std::size_t& option) const

@@ -45,7 +45,7 @@ protected:
         return verdict;
     }
 
-    // Accepted as it stands: the value is the one written, nothing is said.
+    // Accepted unchanged: the value is the one written, and no warning is printed.
     void expectAccepted(std::wstring_view text, const variant_t& expected)
     {
         EXPECT_EQ(check(text), ValueVerdict::accepted) << toUtf8(text);

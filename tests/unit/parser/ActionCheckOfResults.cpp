@@ -26,7 +26,7 @@ const OptionGroup no_group;
 using Keywords = std::set<std::wstring>;
 
 // "code: message".
-std::wstring answer(int code, const std::wstring& message)
+std::wstring outcome(int code, const std::wstring& message)
 {
     return std::to_wstring(code) + L": " + message;
 }
@@ -64,7 +64,7 @@ protected:
     {
         std::wstring message;
         const int code = checkActions(result.options(), options, groups, message);
-        return answer(code, message);
+        return outcome(code, message);
     }
 
     Garbage pool{unit::heap_only};
@@ -245,14 +245,14 @@ std::wstring walk(const std::vector<std::wstring>& entries, const RegisteredOpti
                                                                       actions.end());
                                              }))
         {
-            return answer(2, L"Action '-" + std::wstring(option->primaryName()) +
-                                 L"' and action '-" + std::wstring(chosen->primaryName()) +
-                                 L"' were defined, but only one action possible.");
+            return outcome(2, L"Action '-" + std::wstring(option->primaryName()) +
+                                  L"' and action '-" + std::wstring(chosen->primaryName()) +
+                                  L"' were defined, but only one action possible.");
         }
     }
     if (chosen == nullptr)
     {
-        return options.hasActions() && valueOptionSeen ? answer(2, L"No action defined.") : passes;
+        return options.hasActions() && valueOptionSeen ? outcome(2, L"No action defined.") : passes;
     }
     for (const std::wstring& name : entries)
     {
@@ -263,9 +263,9 @@ std::wstring walk(const std::vector<std::wstring>& entries, const RegisteredOpti
                                           { return chosen->keywords().contains(keyword); });
         if (!accepted)
         {
-            return answer(2, L"Action '-" + std::wstring(chosen->primaryName()) +
-                                 L"' doesn't accept option '-" +
-                                 std::wstring(option->primaryName()) + L"'");
+            return outcome(2, L"Action '-" + std::wstring(chosen->primaryName()) +
+                                  L"' doesn't accept option '-" +
+                                  std::wstring(option->primaryName()) + L"'");
         }
     }
     return passes;
@@ -273,7 +273,7 @@ std::wstring walk(const std::vector<std::wstring>& entries, const RegisteredOpti
 
 TEST(ActionCheckComparison, EveryResultIsCheckedAsAWalkDoes)
 {
-    std::map<std::wstring, int> answers;
+    std::map<std::wstring, int> outcomes;
     for (unsigned seed = 0; seed < 1500; ++seed)
     {
         std::mt19937_64 random(seed);
@@ -328,13 +328,13 @@ TEST(ActionCheckComparison, EveryResultIsCheckedAsAWalkDoes)
         std::wstring message;
         const int code = checkActions(result.options(), options, groups, message);
         const std::wstring expected = walk(entries, options, groups);
-        ASSERT_EQ(answer(code, message), expected) << "seed " << seed;
-        ++answers[expected.substr(0, 12)];
+        ASSERT_EQ(outcome(code, message), expected) << "seed " << seed;
+        ++outcomes[expected.substr(0, 12)];
     }
-    EXPECT_GT(answers[passes], 20);
-    EXPECT_GT(answers[unknown], 20);
-    EXPECT_GT(answers[L"2: No action"], 20);
-    EXPECT_GT(answers[L"2: Action '-"], 20);
+    EXPECT_GT(outcomes[passes], 20);
+    EXPECT_GT(outcomes[unknown], 20);
+    EXPECT_GT(outcomes[L"2: No action"], 20);
+    EXPECT_GT(outcomes[L"2: Action '-"], 20);
 }
 
 } // namespace

@@ -228,7 +228,7 @@ public:
     Registration refused = {nullptr, 1};
 };
 
-TEST(DerivedParser, SeesTheOptionThatEnablesOptionFiles)
+TEST(DerivedParser, DeclaresTheOptionThatEnablesOptionFiles)
 {
     WatchedParser parser;
     EXPECT_TRUE(parser.enableOptionFiles(L"reads options", L"files:Files"));
@@ -236,7 +236,7 @@ TEST(DerivedParser, SeesTheOptionThatEnablesOptionFiles)
     EXPECT_TRUE(parser.hasOption(L"option-file", false, L"files"));
 }
 
-TEST(DerivedParser, DecidesWhetherThatOptionIsDeclared)
+TEST(DerivedParser, MayRefuseThatOption)
 {
     WatchedParser parser;
     parser.refuses = true;
@@ -244,7 +244,7 @@ TEST(DerivedParser, DecidesWhetherThatOptionIsDeclared)
     EXPECT_FALSE(parser.hasOption(L"option-file", false, nullptr));
 }
 
-TEST(DerivedParser, SeesTheStepsOfAParse)
+TEST(DerivedParser, ReceivesTheStepsOfAParse)
 {
     WatchedParser parser;
     ParseResult result;
@@ -256,7 +256,7 @@ TEST(DerivedParser, SeesTheStepsOfAParse)
     EXPECT_EQ(parser.calls, (Texts{L"parseArguments c d e", L"parseVector -- 2", L"checkActions"}));
 }
 
-TEST(DerivedParser, SeesEveryOptionFileAsAVector)
+TEST(DerivedParser, ReceivesEveryOptionFileAsAVector)
 {
     const toolbox::TemporaryFolder folder;
     const std::wstring argument = L"--option-file=" + folder.write(L"file", "a\nb\nc\n");

@@ -20,10 +20,10 @@ protected:
         unit::GivenArguments given({argument, L"next"});
         ArgumentQueue queue(given);
         std::wstring message;
-        const int answer = parser.recognize(queue, options, message);
+        const int status = parser.recognize(queue, options, message);
         EXPECT_EQ(message, L"") << toUtf8(argument);
         EXPECT_EQ(unit::takeAll(queue), (Texts{argument, L"next"})) << toUtf8(argument);
-        return answer;
+        return status;
     }
     int recognize(const std::wstring& argument)
     {

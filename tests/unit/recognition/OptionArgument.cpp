@@ -92,7 +92,9 @@ TEST(OptionArgument, CharactersBehindTheArgumentAreNoPartOfIt)
         const OptionArgument parts = splitOptionArgument(text.substr(0, length), whiteSpace);
         const OptionArgument expected = splitOptionArgument(alone, whiteSpace);
         EXPECT_EQ(parts.name, expected.name) << length;
-        EXPECT_EQ(parts.name.text().data() - text.data(), expected.name.text().data() - alone.data()) << length;
+        EXPECT_EQ(parts.name.text().data() - text.data(),
+                  expected.name.text().data() - alone.data())
+            << length;
         EXPECT_EQ(parts.value, expected.value) << length;
         EXPECT_EQ(parts.hasValue, expected.hasValue) << length;
     }

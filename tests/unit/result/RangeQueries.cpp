@@ -22,9 +22,9 @@ const OptionGroup no_group;
 
 constexpr std::int32_t lowest = std::numeric_limits<std::int32_t>::min();
 
-// What a query answered: "code text value position".
-std::wstring answer(int code, std::wstring_view text = L"none", const variant_t& value = {},
-                    std::int32_t position = no_position)
+// The outcome of a query: "code text value position".
+std::wstring outcome(int code, std::wstring_view text = L"none", const variant_t& value = {},
+                     std::int32_t position = no_position)
 {
     return std::to_wstring(code) + L" " + std::wstring(text) + L" " + valueText(value) + L" " +
            std::to_wstring(position);
@@ -40,9 +40,9 @@ public:
     {
         if (!begin(from, to))
         {
-            return answer(1);
+            return outcome(1);
         }
-        return hasOccurrences() ? getNextValue() : defaultAnswer();
+        return hasOccurrences() ? getNextValue() : defaultOutcome();
     }
     bool isPresent(std::int32_t from, std::int32_t to)
     {
@@ -60,17 +60,17 @@ public:
         {
             if (m_from != no_position || m_to != no_position)
             {
-                return answer(1);
+                return outcome(1);
             }
             m_from = 0;
             m_to = no_position;
-            return defaultAnswer();
+            return defaultOutcome();
         }
         if (m_entry.values.empty())
         {
             return m_position == m_entry.positions.size()
-                       ? answer(1)
-                       : answer(0, L"none", {}, m_entry.positions[m_position++]);
+                       ? outcome(1)
+                       : outcome(0, L"none", {}, m_entry.positions[m_position++]);
         }
         while (m_value < m_entry.values.size() && m_entry.values[m_value].position < m_from)
         {
@@ -78,10 +78,10 @@ public:
         }
         if (m_value == m_entry.values.size() || m_entry.values[m_value].position > m_to)
         {
-            return answer(1);
+            return outcome(1);
         }
         const ValueEntry& value = m_entry.values[m_value++];
-        return answer(0, value.text, value.value, value.position);
+        return outcome(0, value.text, value.value, value.position);
     }
     std::int32_t getNextPosition()
     {
@@ -111,10 +111,10 @@ private:
         }
         return m_position != m_entry.positions.size();
     }
-    [[nodiscard]] std::wstring defaultAnswer() const
+    [[nodiscard]] std::wstring defaultOutcome() const
     {
-        return answer(0, m_entry.defaultText, m_entry.defaultValue,
-                      static_cast<std::int32_t>(m_entry.defaultPosition));
+        return outcome(0, m_entry.defaultText, m_entry.defaultValue,
+                       static_cast<std::int32_t>(m_entry.defaultPosition));
     }
 
     const OptionResult& m_entry;
@@ -124,14 +124,14 @@ private:
     std::size_t m_position = 0;
 };
 
-std::wstring answerOf(int code, const Value& value)
+std::wstring outcomeOf(int code, const Value& value)
 {
     EXPECT_EQ(value.status, code);
     const auto* const text = static_cast<const wchar_t*>(value.data);
-    return answer(code, text == nullptr ? L"none" : text, value.value, value.position);
+    return outcome(code, text == nullptr ? L"none" : text, value.value, value.position);
 }
 
-// Positions that nobody gives to a command line, in no order; some with values.
+// Random positions, in no order, of which a command line gives only some; some with values.
 class RandomEntries
 {
 public:
@@ -189,7 +189,7 @@ private:
     std::mt19937_64 m_random;
 };
 
-// A row of random queries, each answered as the plain steps say.
+// Expects of random queries what the plain steps return.
 void expectAgreement(ParseResult& result, Walk& walk, RandomEntries& random)
 {
     for (int query = 0; query < 25; ++query)
@@ -200,7 +200,7 @@ void expectAgreement(ParseResult& result, Walk& walk, RandomEntries& random)
         switch (random.below(6))
         {
         case 0:
-            ASSERT_EQ(answerOf(result.getFirstValue(&value, L"name", from, to), value),
+            ASSERT_EQ(outcomeOf(result.getFirstValue(&value, L"name", from, to), value),
                       walk.getFirstValue(from, to))
                 << from << " to " << to;
             break;
@@ -212,7 +212,7 @@ void expectAgreement(ParseResult& result, Walk& walk, RandomEntries& random)
             ASSERT_EQ(result.getNextPosition(), walk.getNextPosition());
             break;
         default:
-            ASSERT_EQ(answerOf(result.getNextValue(&value, L"other"), value), walk.getNextValue());
+            ASSERT_EQ(outcomeOf(result.getNextValue(&value, L"other"), value), walk.getNextValue());
             break;
         }
     }
@@ -282,8 +282,8 @@ TEST(RangeQueries, NullOutAdvancesAllTheSame)
     EXPECT_EQ(result.getFirstValue(nullptr, L"name", 0, 9), 0);
     EXPECT_EQ(result.getNextValue(nullptr, nullptr), 0);
     Value value;
-    EXPECT_EQ(answerOf(result.getNextValue(&value, nullptr), value),
-              answer(0, L"t", variant_t(3), 3));
+    EXPECT_EQ(outcomeOf(result.getNextValue(&value, nullptr), value),
+              outcome(0, L"t", variant_t(3), 3));
     EXPECT_EQ(result.getNextValue(nullptr, nullptr), 1);
 }
 
@@ -295,7 +295,7 @@ TEST(RangeQueries, UnknownNameEndsTheWalk)
     ParseResult result;
     EXPECT_EQ(result.getNextPosition(), no_position);
     Value value;
-    EXPECT_EQ(answerOf(result.getNextValue(&value, L"name"), value), answer(1));
+    EXPECT_EQ(outcomeOf(result.getNextValue(&value, L"name"), value), outcome(1));
     OptionResult record;
     record.positions = {1, 2};
     ASSERT_EQ(result.storeOption(option, record), 0);
@@ -305,10 +305,10 @@ TEST(RangeQueries, UnknownNameEndsTheWalk)
         EXPECT_EQ(result.isPresent(L"name", 0, 9), 1);
         EXPECT_EQ(result.isPresent(unknown, 0, 9), 0);
         EXPECT_EQ(result.getNextPosition(), no_position);
-        EXPECT_EQ(answerOf(result.getNextValue(&value, L"name"), value), answer(1));
+        EXPECT_EQ(outcomeOf(result.getNextValue(&value, L"name"), value), outcome(1));
         value.position = 5;
         value.value = variant_t(1);
-        EXPECT_EQ(answerOf(result.getFirstValue(&value, unknown, 0, 9), value), answer(1));
+        EXPECT_EQ(outcomeOf(result.getFirstValue(&value, unknown, 0, 9), value), outcome(1));
     }
 }
 

@@ -140,7 +140,8 @@ TEST(Garbage, JoinedTextIsBothOneBehindTheOther)
         std::wstring_view first;
         std::wstring_view second;
         std::wstring_view joined;
-    } rows[] = {{L"no-", L"name", L"no-name"}, {L"", L"b", L"b"}, {L"a", L"", L"a"}, {L"", L"", L""}};
+    } rows[] = {
+        {L"no-", L"name", L"no-name"}, {L"", L"b", L"b"}, {L"a", L"", L"a"}, {L"", L"", L""}};
     for (const auto& row : rows)
     {
         const std::wstring_view joined = pool.keepJoined(row.first, row.second);

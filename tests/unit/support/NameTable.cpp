@@ -91,9 +91,11 @@ TEST_F(NameTableTest, EmptyTableFindsNothing)
 
 TEST_F(NameTableTest, NamesAreComparedWhole)
 {
-    const std::vector<std::wstring> texts = {
-        L"name", L"nam",  L"namee", L"Name", L"name ", std::wstring(L"name\0", 5),
-        L"",     L"eman", L"\uFFFD", std::wstring(1, L'\0')};
+    const std::vector<std::wstring> texts = {L"name",   L"nam",
+                                             L"namee",  L"Name",
+                                             L"name ",  std::wstring(L"name\0", 5),
+                                             L"",       L"eman",
+                                             L"\uFFFD", std::wstring(1, L'\0')};
     for (std::size_t number = 0; number < texts.size(); ++number)
     {
         EXPECT_EQ(table.find(HashedText(texts[number])), nullptr) << toUtf8(texts[number]);

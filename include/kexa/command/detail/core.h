@@ -118,6 +118,9 @@ public:
     State& state() noexcept { return *m_state; }
 
 private:
+    // Verbs share their names with subcommands.
+    void checkVerb(const Declaration& action, const std::string& name) const;
+    void checkSubcommand(const std::string& name) const;
     void lead(const std::string& path); // sets the names that lead to the command
 
     std::unique_ptr<Definition> m_definition;

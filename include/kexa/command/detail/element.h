@@ -8,13 +8,10 @@
 #include <type_traits>
 #include <utility>
 
-#if !defined(KEXA_COMMAND_NO_PATHS)
-#include <filesystem>
-#endif
-
 #include "kexa/command/convert.h"
 #include "kexa/command/detail/declaration.h"
 #include "kexa/command/detail/numbers.h"
+#include "kexa/command/detail/traits.h"
 #include "kexa/option.h"
 
 namespace kexa
@@ -23,32 +20,6 @@ inline namespace v1
 {
 namespace detail
 {
-
-template <class T, class = void>
-struct HasConvert : std::false_type
-{
-};
-template <class T>
-struct HasConvert<T, std::void_t<decltype(convert<T>::fromText(std::declval<std::string_view>()))>>
-    : std::true_type
-{
-};
-template <class T, class = void>
-struct HasText : std::false_type
-{
-};
-template <class T>
-struct HasText<T, std::void_t<decltype(convert<T>::toText(std::declval<const T&>()))>>
-    : std::true_type
-{
-};
-
-template <class T>
-inline constexpr bool isCharacter = std::is_same_v<T, char> || std::is_same_v<T, wchar_t> ||
-                                    std::is_same_v<T, char16_t> || std::is_same_v<T, char32_t>;
-template <class T>
-inline constexpr bool isNumber =
-    std::is_arithmetic_v<T> && !std::is_same_v<T, bool> && !isCharacter<T>;
 
 // The primary template has the types of the program.
 template <class T, class = void>
@@ -176,69 +147,6 @@ struct Element<T, std::enable_if_t<std::is_enum_v<T> && !HasConvert<T>::value>>
     static constexpr const char* name = "value";
     static bool read(Input&, T&) { return false; }
     static std::string text(const T&) { return std::string(); }
-};
-
-#if !defined(KEXA_COMMAND_NO_PATHS)
-template <>
-struct Element<std::filesystem::path>
-{
-    static constexpr std::int32_t rawType = kexa_3_3::value_type_string;
-    static constexpr const char* name = "path";
-    static bool read(Input& input, std::filesystem::path& value)
-    {
-#if defined(_WIN32)
-        value = readWideText(input);
-#else
-        value = readText(input);
-#endif
-        return true;
-    }
-    static std::string text(const std::filesystem::path& value)
-    {
-#if defined(_WIN32)
-        return narrowText(value.native());
-#else
-        return value.native();
-#endif
-    }
-};
-#endif
-
-template <class T>
-bool readElement(Input& input, T& value);
-
-// key=value, each of them of a type of its own.
-template <class Key, class Mapped>
-struct Element<std::pair<Key, Mapped>, void>
-{
-    static constexpr std::int32_t rawType = kexa_3_3::value_type_string;
-    static constexpr const char* name = "key=value";
-
-    template <class Part>
-    static bool readPart(Input& input, std::wstring_view text, Part& part)
-    {
-        const vexkit2::variant_t value = convertText(Element<Part>::rawType, text, input.reason);
-        if (value.kind() == vexkit2::kind_null)
-        {
-            return false;
-        }
-        Input inner{&value, input.declaration, std::string()};
-        const bool isRead = Element<Part>::read(inner, part);
-        input.reason = std::move(inner.reason);
-        return isRead;
-    }
-    static bool read(Input& input, std::pair<Key, Mapped>& value)
-    {
-        std::wstring_view key;
-        std::wstring_view mapped;
-        return splitPair(input, key, mapped) && readPart(input, key, value.first) &&
-               readPart(input, mapped, value.second);
-    }
-    static std::string text(const std::pair<Key, Mapped>& value)
-    {
-        return std::string(Element<Key>::text(value.first)) + "=" +
-               std::string(Element<Mapped>::text(value.second));
-    }
 };
 
 // Reads one value: by its name where the option has a table, and subject to the option's rules.

@@ -3,6 +3,7 @@
 #define KEXA_COMMAND_DETAIL_NUMBERS_H
 
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -58,6 +59,17 @@ vexkit2::variant_t variantOf(Number value)
     else
     {
         return vexkit2::variant_t(static_cast<std::uint64_t>(value));
+    }
+}
+
+// Adds one to an integer of this type that is not at its highest value.
+template <class Integer>
+void increment(void* member)
+{
+    Integer& counter = *static_cast<Integer*>(member);
+    if (counter != std::numeric_limits<Integer>::max())
+    {
+        ++counter;
     }
 }
 
