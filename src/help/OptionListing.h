@@ -17,8 +17,7 @@ namespace kexa_3_3
 // Returns the listing of the entries, group by group and sorted by primary name within each group.
 // Marked entries are skipped, and so are entries whose group is not listed or not shown.
 //
-// groups:  in the order of the listing. Each group has its heading even if it
-//          has no entries.
+// groups:  in the order of the listing. Each group has its heading even if it has no entries.
 // entries: never null.
 // hidden:  see passesHiddenTest().
 [[nodiscard]] std::wstring

@@ -61,8 +61,8 @@ void AllowedValueIndex::indexText(std::size_t number)
 }
 
 // Two integers are equal when their values are; any other two numbers when they are as doubles, to
-// which large integers are rounded. So a candidate is sorted in the way in which the values of the
-// option are compared with it. A NaN equals nothing and would spoil the order.
+// which large integers are rounded. So a candidate is sorted by the kind of number as which the
+// option's values are compared with it. A NaN equals nothing and would break the order.
 void AllowedValueIndex::indexNumber(std::size_t number)
 {
     const variant_t& candidate = *m_candidates[number];
@@ -88,7 +88,7 @@ AllowedValueIndex::IntegerKey AllowedValueIndex::integerKey(const variant_t& val
 }
 
 // Returns the index of the first candidate under the key that equals the value. A candidate whose
-// text is the key need not equal a text: it may be a number that reads so.
+// text is the key need not equal a string value: it may be a number that is written so.
 template <class Key>
 std::size_t AllowedValueIndex::findIn(const Sorted<Key>& sorted, const Key& key,
                                       const variant_t& value) const

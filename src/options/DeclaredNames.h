@@ -39,7 +39,7 @@ public:
         }
     }
 
-    // Whether an option may have so many names.
+    // Whether an option may have these names.
     [[nodiscard]] bool areAcceptable() const noexcept
     {
         constexpr std::size_t longest_short_form = 2;
@@ -67,7 +67,7 @@ private:
     }
 
     std::array<HashedText, most> m_names;
-    std::size_t m_count = 0; // of all pieces, also where there are too many
+    std::size_t m_count = 0; // of all pieces, even if there are too many
 };
 
 } // namespace kexa_3_3

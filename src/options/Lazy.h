@@ -6,7 +6,8 @@
 namespace kexa_3_3
 {
 
-// For what few objects of a class have: the others pay for a pointer. A copy has a copy of it.
+// For a member that few objects of a class use: in the others it is only a null pointer. Copying an
+// object copies the member.
 template <class T>
 class Lazy
 {
@@ -23,7 +24,7 @@ public:
     // Null before make() was called.
     [[nodiscard]] const T* get() const noexcept { return m_made.get(); }
 
-    // Throws what making it throws, changing nothing.
+    // Makes the member if it does not exist. Throws what its constructor throws, changing nothing.
     T& make()
     {
         if (m_made == nullptr)

@@ -1,4 +1,4 @@
-// A member that a copy of its object does not take over.
+// A member that is not copied with its object.
 #pragma once
 
 namespace kexa_3_3

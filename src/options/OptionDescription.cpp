@@ -81,7 +81,7 @@ IOption& OptionDescription::addKeywords(const wchar_t* list)
     {
         return *this;
     }
-    // Collected first: the option gets all of them or, where memory runs out, none.
+    // Collected first: the option gets all of them or, if memory runs out, none.
     Keywords added;
     forEachPiece(viewOf(list), L',',
                  [this, &added](std::wstring_view piece)

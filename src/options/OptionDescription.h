@@ -35,20 +35,20 @@ struct OptionGroup
     std::wstring_view text;
 };
 
-// Which values an option accepts, where it does not accept all of its type.
+// Which values an option accepts, if it does not accept all of its type.
 struct ValueRestriction
 {
     std::vector<vexkit2::variant_t> allowedValues;
     std::map<vexkit2::variant_t, vexkit2::variant_t> deprecatedValues; // old value to replacement
 
-    // The candidates for a typed value. Made on first use after a change of them.
+    // The candidates for a typed value. Made on first use, and again after a change of the values.
     mutable NotCopied<std::unique_ptr<AllowedValueIndex>> index;
 };
 
-// The place of an option among all that the parsers of this process ever declared.
+// Identifies an option among all that the parsers of this process ever declared.
 struct OptionIdentity
 {
-    std::uint64_t index = 0; // that of its OptionIndex; 0 for an option of none
+    std::uint64_t index = 0; // the identity of its OptionIndex; 0: the option is in none
     std::size_t number = 0;
 
     friend bool operator==(const OptionIdentity&, const OptionIdentity&) = default;
@@ -93,11 +93,11 @@ public:
                                             m_keywords.get()->contains(positional_keyword)));
     }
 
-    // Makes the option one of an index, which learns from then on of further names and of the
-    // option becoming positional. The caller adds the names that it has so far.
+    // Makes the option report further names, and that it becomes positional, to an index from now
+    // on. The caller adds the existing names to the index.
     void enterInto(OptionIndex& index, std::size_t number) noexcept;
 
-    // Equal for no two options of this process that are in an index.
+    // Unique in this process among the options that are in an index.
     [[nodiscard]] OptionIdentity identity() const noexcept;
 
     using Keywords = std::set<std::wstring_view>;
@@ -107,7 +107,7 @@ public:
         return m_keywords.get() == nullptr ? none : *m_keywords.get();
     }
 
-    // Null where no allowed and no deprecated value was declared.
+    // Null if no allowed and no deprecated value was declared.
     [[nodiscard]] const ValueRestriction* restriction() const noexcept
     {
         return m_restriction.get();

@@ -85,7 +85,7 @@ std::optional<std::size_t> OptionIndex::findCandidate(HashedText text) const noe
     return known == nullptr ? std::nullopt : std::optional<std::size_t>(known->firstOption);
 }
 
-// Sorts in what was added since the last search.
+// Inserts the candidates added since the last search into the sorted list.
 void OptionIndex::sortCandidates() const
 {
     if (m_sorted.size() == m_candidateCount)

@@ -21,12 +21,12 @@ class Garbage;
 // The prefix under which a boolean option is switched off.
 inline constexpr std::wstring_view negation = L"no-";
 
-// Stands beside the table of options, which are numbered by their place there. The candidates for a
-// typed name are the names of all options and, of boolean ones, also "no-" before a name. Table
-// order is the order of options, in an option that of its names, and a name before its negation.
+// Refers to options by their index in the table of options. The candidates for a typed name are the
+// names of all options and, for boolean options, each name with "no-" in front. Table order means:
+// by option, then in the order of the option's names, each name before its negation.
 //
-// A lookup takes time that grows with the logarithm of the number of names. Names may be added at
-// any time; the first search for a beginning afterwards sorts the new ones in.
+// Searches for a whole name take constant time, searches for a beginning logarithmic time. Names
+// may be added at any time; the first search for a beginning afterwards sorts the new ones in.
 class OptionIndex
 {
 public:
@@ -39,8 +39,8 @@ public:
     // A number that no other index in this process has.
     [[nodiscard]] std::uint64_t identity() const noexcept { return m_identity; }
 
-    // Copies a name into the pool; that of a boolean option stands behind "no-" there, so that its
-    // negation needs no copy. Throws std::bad_alloc.
+    // Copies a name into the pool. In front of a boolean option's name the pool holds "no-", so
+    // that the negation needs no copy. Throws std::bad_alloc.
     [[nodiscard]] HashedText keep(HashedText name, bool boolean);
 
     // Makes room for `names` further names. Throws std::bad_alloc, changing nothing.
@@ -69,15 +69,15 @@ public:
     struct PrefixMatches
     {
         std::size_t count = 0;
-        std::size_t option = 0;      // where count is 1
-        std::wstring_view candidate; // where count is 1; lies in the pool
+        std::size_t option = 0;      // set if count is 1
+        std::wstring_view candidate; // set if count is 1; lies in the pool
     };
     [[nodiscard]] PrefixMatches matchPrefix(std::wstring_view beginning) const;
 
     // The texts of these candidates, in table order.
     [[nodiscard]] std::vector<std::wstring_view> listPrefix(std::wstring_view beginning) const;
 
-    // Notes that an option became positional, which it stays.
+    // Records that an option became positional. It stays positional.
     void notePositional(std::size_t option) noexcept;
 
     // The first positional option in table order.

@@ -86,7 +86,7 @@ const Registration& RegisteredOptionStorage::registerOption(const wchar_t* names
     }
     catch (const std::exception&)
     {
-        // There is no memory: a failed declaration like any other.
+        // Out of memory: a failed declaration like any other.
         if (isMade)
         {
             m_options.pop_back();
@@ -118,7 +118,7 @@ const OptionDescription* RegisteredOptionStorage::find(HashedText name) const no
     return number ? &m_options[*number] : nullptr;
 }
 
-// Gives the last option its names and makes it known by them. Throws std::bad_alloc; the index is
+// Gives the last option its names and adds them to the index. Throws std::bad_alloc; the index is
 // unchanged then.
 void RegisteredOptionStorage::enter(OptionDescription& option, const DeclaredNames& names)
 {
@@ -141,7 +141,7 @@ void RegisteredOptionStorage::enter(OptionDescription& option, const DeclaredNam
     m_hasActions = m_hasActions || !option.takesValue();
 }
 
-// Returns the group that a declaration names, with the text that it was first declared with.
+// Returns the group that a declaration names, with the text of the group's first declaration.
 OptionGroup RegisteredOptionStorage::enterGroup(std::wstring_view groupText)
 {
     const std::size_t colon = std::min(groupText.find(L':'), groupText.size());

@@ -20,8 +20,8 @@ enum class ValueVerdict : std::uint8_t
     changed, // accepted, and the final value is not the one written: completed or replaced
     // Rejected:
     unreadable, // the text is not a value of the option's type
-    ambiguous,  // the text begins several candidates
-    refused     // the value is not a candidate, and the text begins none
+    ambiguous,  // several candidates begin with the text
+    refused     // no candidate equals the value or begins with the text
 };
 
 [[nodiscard]] constexpr bool isRejected(ValueVerdict verdict) noexcept
@@ -29,7 +29,7 @@ enum class ValueVerdict : std::uint8_t
     return verdict >= ValueVerdict::unreadable;
 }
 
-// Does what checkValue does.
+// As checkValue(), for an option that has allowed values.
 //
 // Preconditions: the option has allowed values, and the value is not null.
 [[nodiscard]] ValueVerdict checkAllowedValue(const OptionDescription& option,
@@ -42,7 +42,7 @@ enum class ValueVerdict : std::uint8_t
 // text:  the value as it was written.
 // value: the text after conversion, null when it did not convert. Receives the final value; when
 //        the text is rejected it is unspecified.
-// texts: receives string values; null for blocks of their own.
+// texts: makes string values; if null, each gets a block of its own.
 [[nodiscard]] inline ValueVerdict checkValue(const OptionDescription& option,
                                              std::wstring_view text, vexkit2::variant_t& value,
                                              SharedTexts* texts)

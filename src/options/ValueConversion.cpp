@@ -195,7 +195,7 @@ template <class Integer>
                              character == L'-';
         if (!belongs || (narrow.empty() && (character == L'+' || character == L'-')))
         {
-            return variant_t(); // shuts out a second sign, hexadecimal numbers, "inf" and "nan"
+            return variant_t(); // excludes a second sign, hexadecimal numbers, "inf" and "nan"
         }
         narrow.push_back(static_cast<char>(character));
     }

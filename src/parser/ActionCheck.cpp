@@ -27,7 +27,7 @@ struct Overview
 {
     std::vector<Given> actions;    // by name
     std::vector<Given> restricted; // options that take a value and have keywords, in any order
-    std::optional<std::wstring_view> firstUnknown; // the first name that the registry does not know
+    std::optional<std::wstring_view> firstUnknown; // the first name that is not declared
     bool valueOptionSeen = false;
 };
 

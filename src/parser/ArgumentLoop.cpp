@@ -39,8 +39,8 @@ struct ArgumentParsers
     AbbreviationParser abbreviation;
 };
 
-// Offers the front argument to both parsers and lets one that claims it parse it: the one with the
-// higher priority when both do. Returns its status, or nothing when none claims the argument.
+// Passes the front argument to the parser that claims it; if both do, to the one with the higher
+// priority. Returns the status of that parser, or nothing if none claims the argument.
 template <class Run>
 std::optional<ParseStatus> parseFront(ArgumentParsers& parsers, ArgumentQueue& arguments,
                                       ParseResult* result, const RegisteredOptionStorage& options,
@@ -75,7 +75,7 @@ result_t BasicParser::parseVector(std::wstring_view endMarker, ArgumentQueue& ar
     ParseResult* const filled = filledBy(result);
     while (!arguments.empty() && arguments.front() != endMarker)
     {
-        // Looked up for each argument: a handler may switch the trace.
+        // Read for each argument: a handler may switch the trace.
         const std::optional<ParseStatus> status =
             traceIsOn() ? parseFront<AnyRun>(parsers, arguments, filled, m_options, message)
                         : parseFront<UsualRun>(parsers, arguments, filled, m_options, message);
@@ -94,8 +94,8 @@ result_t BasicParser::parseVector(std::wstring_view endMarker, ArgumentQueue& ar
     return result_success;
 }
 
-// Returns the receiver of the events of a parse, or null when no handler is registered. None will
-// be during that parse: only a handler could register another.
+// Returns the receiver of the events of a parse, or null if no handler is registered. Null stays
+// right during the whole parse, as only a handler could register another.
 EventHandler* BasicParser::eventReceiver() noexcept
 {
     return m_events.empty() ? nullptr : &m_events;

@@ -21,7 +21,7 @@ namespace kexa_3_3
 class ArgumentQueue;
 class ParseResult;
 
-// See IParser for its operations; three more follow them in the order of slots.
+// See IParser for its operations. Three more follow them in the table of virtual functions.
 class BasicParser : public IParser
 {
 public:
@@ -29,8 +29,8 @@ public:
     BasicParser(const BasicParser&) = delete;
     BasicParser& operator=(const BasicParser&) = delete;
 
-    // Forward to the registered handlers a copy of the text, which is not of a parse of this
-    // parser: the host calls these, or another parser that has this one as a handler.
+    // Forward an event to the registered handlers. The host calls these, or another parser that has
+    // this one as a handler; the text is copied, as it may not live as long as handlers expect.
     bool onOptionParsed(const wchar_t* name) override;
     bool onValueParsed(const wchar_t* name, const ValueRecord* value) override;
     bool onUnknownArgument(const wchar_t* argument) override;
@@ -69,7 +69,7 @@ public:
     virtual result_t parseVector(std::wstring_view endMarker, ArgumentQueue& arguments,
                                  IParseResult* result, std::wstring& message);
 
-    // Checks the actions among what the result holds; the arguments are not looked at.
+    // Checks the actions among what the result holds. The arguments are not used.
     virtual result_t checkActions(const ArgumentQueue& arguments, IParseResult* result,
                                   std::wstring& message);
 

@@ -8,7 +8,7 @@
 namespace kexa_3_3
 {
 
-// Handlers may write to the host's vector and to its texts, or free them, while a parse is at work.
+// Handlers may write to the host's vector and to its texts, or free them, during a parse.
 class CopiedArguments
 {
 public:

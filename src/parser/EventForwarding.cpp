@@ -61,8 +61,8 @@ bool EventForwarding::callEach(Call call) const
         {
             return false;
         }
-        // Searched for anew, as the vector may be another by now. The handler itself may be gone:
-        // only its address is used.
+        // Searched for again, as the vector may have changed. The handler itself may have been
+        // destroyed: only its address is used.
         handler = nextAbove(handler);
     }
     return true;

@@ -32,8 +32,8 @@ std::wstring_view reasonOf(FileProblem problem) noexcept
     }
 }
 
-// Returns the whole text of a value, zero characters included: a name with one of those must not
-// name the file of the text before it.
+// Returns the whole text of a value, zero characters included: if a name contains one, the file
+// that the text before it names must not be read.
 std::wstring wholeText(const Occurrence& stored)
 {
     const std::size_t units = stored.value.kind() == vexkit2::kind_wide_text
@@ -84,7 +84,7 @@ OptionFiles::~OptionFiles()
     }
 }
 
-// Looked up each time: a parse may store the first value, or make the name that of another record.
+// Searched for each time: a parse may store the first value, or give the name another record.
 const StoredOption* OptionFiles::record() const noexcept
 {
     return m_result.options().find(std::wstring_view(option_file_name));

@@ -21,10 +21,10 @@ class ParseResult;
 inline constexpr const wchar_t* option_file_name = L"option-file";
 
 // Reads the files that one parse stores as values of the option, in order, including those that a
-// file names. Each file is read once in a parse, so files that name each other come to an end.
+// file names. Each file is read once in a parse, so files may name each other.
 //
 // Values that the result held before, or that a parse inside an event stores meanwhile, belong to
-// other parses and are passed over.
+// other parses and are skipped.
 class OptionFiles
 {
 public:
@@ -60,7 +60,7 @@ private:
     OptionFiles* m_outer;       // of the parse during which this one began, or null
     std::vector<Range> m_inner; // what parses inside this one stored, in order
     std::size_t m_passed = 0;   // how many of those lie before m_next
-    Occurrences::Place m_next;  // the first occurrence that was not looked at
+    Occurrences::Place m_next;  // the first occurrence that was not read yet
     std::set<std::wstring> m_read;
 };
 

@@ -10,7 +10,7 @@ namespace
 {
 
 // Every ABI that hosts and this library share puts the pointer to the virtual operations at the
-// front of an object: without that no host could call any. Only its value is looked at.
+// front of an object: without that no host could call any. Only the pointer is read.
 [[nodiscard]] const void* virtualTableOf(const IParseResult& result) noexcept
 {
     const void* table = nullptr;

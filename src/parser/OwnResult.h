@@ -8,13 +8,14 @@
 namespace kexa_3_3
 {
 
-// Returns the result as what it is, or null for a host's own implementation and for null. Calls
-// nothing of the object.
+// Returns the result as a ParseResult, or null for a host's own implementation and for null. Calls
+// no operation of the object.
 [[nodiscard]] ParseResult* ownResult(IParseResult* result);
 
-// Returns the result that a step of a parse was given as what it is.
+// Returns the result that a step of a parse fills as a ParseResult.
 //
-// Precondition: null, or made by this library, which was found out when the parse began.
+// Precondition: it is null or was made by this library, which ownResult() decided when the parse
+// began.
 [[nodiscard]] inline ParseResult* filledBy(IParseResult* result)
 {
     assert(ownResult(result) == result);

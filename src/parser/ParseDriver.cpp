@@ -34,8 +34,8 @@ std::span<const wchar_t* const> withoutProgramName(std::int32_t argc, const wcha
 
 } // namespace
 
-// Event handlers are the only code of the host that runs during a parse, so that only they could
-// see whether the host's arguments are copied: without handlers nothing is.
+// Copies the arguments only if a handler is registered: handlers are the only code of the host that
+// runs during a parse and could change them.
 result_t BasicParser::parse(std::int32_t argc, const wchar_t* const* argv, IParseResult* result)
 {
     try
@@ -61,7 +61,7 @@ result_t BasicParser::parse(std::int32_t argc, const wchar_t* const* argv, IPars
     }
 }
 
-// Copies for handlers as parse does.
+// Copies the text only if a handler is registered, which could change it.
 result_t BasicParser::parseCommandLine(const wchar_t* commandLine, IParseResult* result)
 {
     try
@@ -109,7 +109,7 @@ result_t BasicParser::runSteps(ArgumentQueue& arguments, ParseResult* result)
         files.emplace(*result);
     }
     result_t code = parseAndCollect(arguments, result);
-    // Looked up now: a handler may have enabled option files meanwhile.
+    // Read only now: a handler may have enabled option files meanwhile.
     if (code == result_success && m_optionFilesEnabled && files.has_value())
     {
         const auto parseFile = [this, result](ArgumentSource& lines)

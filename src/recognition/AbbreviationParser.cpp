@@ -20,7 +20,7 @@ namespace
 
 constexpr std::size_t shortest_option = 2; // a hyphen and a character
 
-// Says that what should be the value seems to be an option.
+// Returns the message for a next argument that seems to be an option instead of the value.
 std::wstring optionInsteadOfValue(const GivenValue& given)
 {
     return concatenate({L"Option '", given.option.primaryName(),
@@ -74,7 +74,8 @@ int AbbreviationParser::recognizeIn(const ArgumentQueue& arguments,
     return claimed;
 }
 
-// Answers whether the argument names an option, or several: parse then reports the ambiguity.
+// Splits the argument and searches for its name. Returns whether it names an option, or several:
+// parse then reports the ambiguity.
 bool AbbreviationParser::findMatch(std::wstring_view argument, const OptionIndex& index)
 {
     if (argument.size() < shortest_option || countHyphens(argument) == 0)
@@ -160,7 +161,7 @@ void AbbreviationParser::remove(ArgumentQueue& arguments) const
     arguments.removeFront();
 }
 
-// given.value: the value in the same argument; becomes the one to store.
+// given.value: the value in the same argument; receives the value to store.
 template <class Run>
 bool AbbreviationParser::takeValue(GivenValue& given, bool& takesNext, ArgumentQueue& arguments,
                                    std::wstring& error) const
@@ -206,7 +207,7 @@ bool AbbreviationParser::takeNextArgument(GivenValue& given, ArgumentQueue& argu
     return !given.value.empty();
 }
 
-// Says that an option was given a value and takes none.
+// Returns the message for an option that was given a value and takes none.
 std::wstring AbbreviationParser::superfluousValue(const GivenValue& given) const
 {
     const std::wstring_view complaint =

@@ -26,7 +26,7 @@ public:
                       const RegisteredOptionStorage& options, std::int64_t& optionIndex,
                       std::wstring& error) override;
 
-    // Both in a run of one kind (Runs.h), without virtual calls.
+    // recognize and parse in a run of one kind (Runs.h), without virtual calls.
     template <class Run>
     int recognizeIn(const ArgumentQueue& arguments, const RegisteredOptionStorage& options,
                     std::wstring& message);
@@ -41,8 +41,10 @@ private:
     [[nodiscard]] std::wstring_view typedName() const noexcept { return m_split.name.text(); }
     [[nodiscard]] bool findMatch(std::wstring_view argument, const OptionIndex& index);
 
-    // Answer whether an option is given what it needs; otherwise `error` receives the message.
-    // takesNext: set where the value is the next argument, which then is used up too.
+    // Return whether the option has the value that it needs; otherwise `error` receives the
+    // message.
+    //
+    // takesNext: receives whether the value is the next argument, which is then removed too.
     template <class Run>
     [[nodiscard]] bool takeValue(GivenValue& given, bool& takesNext, ArgumentQueue& arguments,
                                  std::wstring& error) const;
@@ -64,7 +66,7 @@ private:
     // Of the argument claimed last.
     OptionArgument m_split;
     BestMatch m_match;
-    std::wstring m_candidateList; // where the name is ambiguous
+    std::wstring m_candidateList; // if the name is ambiguous
 };
 
 } // namespace kexa_3_3

@@ -10,7 +10,7 @@
 namespace kexa_3_3
 {
 
-// Gives arguments one after the other.
+// A sequence of arguments.
 class ArgumentSource
 {
 public:
@@ -18,15 +18,16 @@ public:
     ArgumentSource(const ArgumentSource&) = delete;
     ArgumentSource& operator=(const ArgumentSource&) = delete;
 
-    // Answers whether there was one more. The text lives until the second call after this one.
+    // Returns whether there was one more argument, which `argument` receives. Its text is valid
+    // until the second call after this one.
     [[nodiscard]] virtual bool next(std::wstring_view& argument) = 0;
 
 protected:
     ~ArgumentSource() = default;
 };
 
-// The arguments are not looked at before their turn comes: what a million of them cost is mostly
-// that of fetching their texts from memory, which this does once.
+// Reads each argument once, shortly before it is parsed: most of the cost of a million arguments is
+// that of loading their texts from memory.
 class ArgumentQueue
 {
 public:
@@ -45,11 +46,11 @@ public:
 
     [[nodiscard]] bool empty() const noexcept { return m_empty; }
 
-    // The front argument, which there must be. Its text lives until it is removed and the argument
-    // behind the next one is asked for.
+    // Returns the front argument. Its text stays valid after removeFront(), until the argument
+    // behind the new front one is read. Precondition: !empty().
     [[nodiscard]] std::wstring_view front() const noexcept { return m_front; }
 
-    // Whether there is an argument behind the front one. `second` is it then.
+    // Returns whether there is an argument behind the front one; second() then returns it.
     [[nodiscard]] bool hasSecond()
     {
         if (m_second == Second::unknown)
@@ -60,7 +61,7 @@ public:
     }
     [[nodiscard]] std::wstring_view second() const noexcept { return m_behindFront; }
 
-    // Needs an argument.
+    // Precondition: !empty().
     void removeFront()
     {
         if (m_second == Second::unknown)
@@ -92,9 +93,9 @@ private:
         return true;
     }
 
-    ArgumentSource* m_source = nullptr; // null where pointers were given
+    ArgumentSource* m_source = nullptr; // null if pointers were given
     const wchar_t* const* m_next = nullptr;
-    std::size_t m_left = 0; // how many pointers follow; none where there is a source
+    std::size_t m_left = 0; // how many pointers follow; 0 if there is a source
     std::wstring_view m_front;
     std::wstring_view m_behindFront;
     Second m_second = Second::unknown;

@@ -16,11 +16,11 @@ namespace kexa_3_3
 // front.
 struct BestMatch
 {
-    // How many candidates match: 0 unknown, 1 found, more: ambiguous.
+    // How many candidates match. 0: unknown; 1: found; more: ambiguous.
     std::size_t count = 0;
 
-    // Where count is 1. The candidate's text is that of the pool or, where it was given whole, the
-    // one given.
+    // Set if count is 1. The candidate is the typed name if that equals it, else a text of the
+    // pool.
     std::size_t option = 0;
     std::wstring_view candidate;
 
@@ -31,7 +31,7 @@ struct BestMatch
 };
 
 // Returns the candidate that equals the typed name, even when it also begins others; otherwise the
-// candidates that begin with the typed name. Case counts.
+// candidates that begin with the typed name. Case-sensitive.
 //
 // typedName: outlives the result.
 [[nodiscard]] inline BestMatch findBestMatch(const OptionIndex& index, HashedText typedName)
@@ -44,7 +44,8 @@ struct BestMatch
     return {matches.count, matches.option, matches.candidate};
 }
 
-// All candidates that begin with the name, in table order, each in quotes, separated by ", ".
+// Returns all candidates that begin with the name, in table order, each in quotes, and commas
+// between them.
 [[nodiscard]] std::wstring listCandidates(const OptionIndex& index, std::wstring_view typedName);
 
 } // namespace kexa_3_3

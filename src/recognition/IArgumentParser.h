@@ -21,8 +21,8 @@ class Garbage;
 class IResultCollector;
 class RegisteredOptionStorage;
 
-// Made for one run: the arguments of a command line or of an option file. What an operation is
-// given outlives the run.
+// Made for one run: the arguments of a command line or of an option file. Whatever is passed to its
+// operations outlives the run.
 class IArgumentParser
 {
 public:
@@ -31,10 +31,10 @@ public:
 
     virtual ~IArgumentParser() = default;
 
-    // Returns whether this parser claims the front argument: `claimed` or `declined`. An error in a
-    // claimed argument is left to `parse`.
+    // Returns whether this parser claims the front argument: `claimed` or `declined`. Errors in a
+    // claimed argument are reported by `parse`.
     //
-    // Precondition: there is an argument.
+    // Precondition: the queue is not empty.
     virtual int recognize(const ArgumentQueue& arguments, const RegisteredOptionStorage& options,
                           std::wstring& message) = 0;
 
@@ -42,12 +42,12 @@ public:
     //
     // Precondition: `recognize` was called last for this argument, and claimed it.
     //
-    // collector:   what to store into; may be null.
+    // collector:   receives the values; may be null.
     // optionIndex: receives the index of the option parsed.
     // error:       receives the message of a failure.
     //
-    // Returns `parsed`, the used arguments being removed from the front; otherwise, with a message,
-    // the failing argument and those behind it are still there.
+    // Returns `parsed` after removing the arguments that it parsed. After a failure the failing
+    // argument and those behind it remain in the queue.
     virtual ParseStatus parse(ArgumentQueue& arguments, IResultCollector* collector,
                               const RegisteredOptionStorage& options, std::int64_t& optionIndex,
                               std::wstring& error) = 0;
@@ -58,7 +58,7 @@ public:
     // When several parsers claim an argument, the one with the highest priority parses it.
     [[nodiscard]] virtual std::int32_t priority() const noexcept = 0;
 
-    // For the storing of values.
+    // Returns the receiver of events, or null.
     [[nodiscard]] EventHandler* owner() const noexcept { return m_owner; }
     [[nodiscard]] std::wstring_view name() const noexcept { return m_name; }
 
@@ -108,7 +108,7 @@ private:
     };
 
     EventHandler* m_owner;
-    std::wstring_view m_name = nameless; // of a literal
+    std::wstring_view m_name = nameless; // a literal
     Garbage* m_settings;
     std::uint32_t m_flags;
 };

@@ -12,7 +12,7 @@ WhiteSpace::WhiteSpace()
 namespace
 {
 
-// The beginning of the text up to the first character that ends a name.
+// Returns the beginning of the text, up to the first character that ends a name.
 template <class EndsName>
 HashedText beginningOf(std::wstring_view text, EndsName endsName)
 {
@@ -31,7 +31,7 @@ HashedText WhiteSpace::nameIn(std::wstring_view text) const
 {
     if (m_facet == nullptr)
     {
-        // All that ends a name stands below the letters.
+        // One comparison excludes letters, which never end a name.
         return beginningOf(
             text, [](wchar_t character)
             { return character <= L'=' && (character == L'=' || isClassicSpace(character)); });

@@ -11,26 +11,26 @@
 namespace kexa_3_3
 {
 
-// What may stand before an option's name: the hyphen of keyboards, and the dashes by which word
-// processors replace it (figure, en, em dash, horizontal bar; swung dash).
+// Returns whether the character may stand before an option's name. The hyphen may, and so may the
+// dashes by which word processors replace it: figure, en, em and swung dash, horizontal bar.
 [[nodiscard]] constexpr bool isHyphen(wchar_t character) noexcept
 {
     constexpr wchar_t figure_dash = 0x2012;
-    if (character < figure_dash) // as next to all are
+    if (character < figure_dash) // as nearly all are
     {
         return character == 0x002D;
     }
     return character <= 0x2015 || character == 0x2053;
 }
 
-// 1 where the character at the position is a hyphen character, else 0.
+// Returns 1 if the character at the position is a hyphen character, else 0.
 [[nodiscard]] constexpr std::size_t hyphenPrefixLength(std::wstring_view text,
                                                        std::size_t position) noexcept
 {
     return position < text.size() && isHyphen(text[position]) ? 1 : 0;
 }
 
-// How many hyphen characters stand in front of an option's name: two at most.
+// Returns how many hyphen characters stand in front of an option's name: at most two.
 [[nodiscard]] constexpr std::size_t countHyphens(std::wstring_view argument) noexcept
 {
     const std::size_t first = hyphenPrefixLength(argument, 0);
@@ -49,7 +49,7 @@ public:
                                   : m_facet->is(std::ctype_base::space, character);
     }
 
-    // What stands before the first "=" or white space, or the whole text.
+    // Returns the text before the first "=" or white space, or the whole text.
     [[nodiscard]] HashedText nameIn(std::wstring_view text) const;
 
 private:
@@ -60,7 +60,7 @@ private:
 struct OptionArgument
 {
     HashedText name;
-    std::wstring_view value; // empty where the argument has no value part
+    std::wstring_view value; // empty if the argument has no value part
     bool hasValue = false;
 };
 

@@ -10,7 +10,7 @@
 namespace kexa_3_3
 {
 
-// Values go to the first positional option of the table; the others never get one here.
+// All values go to the first positional option in table order.
 class PositionalOptionsParser final : public IArgumentParser
 {
 public:

@@ -1,4 +1,4 @@
-// The ways in which the arguments of a parse are worked on.
+// The kinds of runs for which the argument parsers are compiled.
 #pragma once
 
 namespace kexa_3_3
@@ -7,8 +7,9 @@ namespace kexa_3_3
 class IResultCollector;
 class ParseResult;
 
-// The trace is on, or a handler listens, which may switch it on and off at any event. What is
-// filled is a collector of a type, or none.
+// A run that may be traced and may have handlers, which may switch the trace at any event.
+//
+// CollectorType: of the collector that receives the values. The collector may be null.
 template <class CollectorType>
 struct WatchedRun
 {
@@ -16,13 +17,13 @@ struct WatchedRun
     static constexpr bool mayBeWatched = true;
 };
 
-// What is right for every parse.
+// The kind that is right for every parse.
 using AnyRun = WatchedRun<IResultCollector>;
 
-// What nearly all of them need, compiled by itself: the trace is off, and what is filled is a
-// result of this library, or none. Trace lines then cost nothing, and calls of the result no
-// detour. It ends at the first event that a handler listens to: what follows is a watched run,
-// since only that offers values to handlers.
+// The kind of nearly all parses: the trace is off, and the collector is a result of this library or
+// null. It is compiled separately, without trace lines and without virtual calls of the result.
+// Where a handler is called the run continues as a WatchedRun: the handler may switch the trace on,
+// and only a WatchedRun offers values to handlers.
 struct UsualRun
 {
     using Collector = ParseResult;

@@ -24,9 +24,9 @@ namespace kexa_3_3
 namespace
 {
 
-// One for the whole process: positions rise from parse to parse, whichever parser gives them. It
-// counts on where the numbers begin at 0 again. Relaxed, as a number guards no other memory: the
-// numbers of one thread rise nevertheless.
+// One counter for the whole process: positions rise from parse to parse, whichever parser assigns
+// them. It does not wrap where the numbers start again at 0. Relaxed, as a number guards no other
+// memory; the numbers of one thread rise nevertheless.
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables)
 std::atomic<std::uint64_t> sequence_counter{0};
 
@@ -47,7 +47,7 @@ std::wstring noValueMessage(std::wstring_view value, const OptionDescription& op
         {L"No value parsed in argument '", value, L"' for option '", option.primaryName(), L"'"});
 }
 
-// The text of a value that is not the one written. A string value holds it already.
+// Returns the text of a value that differs from the one written. A string value contains it.
 std::wstring_view finalText(const OptionDescription& option, const vexkit2::variant_t& value)
 {
     return value.kind() == vexkit2::kind_wide_text ? std::wstring_view(value.get<const wchar_t*>())
@@ -162,7 +162,7 @@ ParseStatus ValueStoring::storePieces(const GivenValue& given, wchar_t separator
                      if (status == ParseStatus::parsed)
                      {
                          trace<Run>(L": value is: '", piece, L"'");
-                         // Room first: behind a failure with a message nothing may throw.
+                         // Memory first: nothing may throw after a failure has set a message.
                          record.positions.push_back(no_position);
                          ValueEntry& entry = record.values.emplace_back();
                          entry.value = convertValue(given.option.valueType, piece, texts);
@@ -186,9 +186,9 @@ ParseStatus ValueStoring::storePieces(const GivenValue& given, wchar_t separator
 
 // Checks a converted piece of the value, numbers it and offers it to the event handlers.
 //
-// entry: the piece as it was written, and what it was converted to. Becomes the one to store: with
-//        its number, and completed or replaced where the check says so. Where a handler throws it
-//        has lost its value.
+// entry: the piece as it was written, and its converted value. Receives what to store: the
+//        position, and the final value if the check completed or replaced it. If a handler throws,
+//        the value is lost.
 template <class Run>
 inline ParseStatus ValueStoring::accept(const GivenValue& given, [[maybe_unused]] bool isCut,
                                         SharedTexts* texts, ValueEntry& entry, std::wstring& error)
@@ -218,7 +218,9 @@ inline ParseStatus ValueStoring::accept(const GivenValue& given, [[maybe_unused]
     return ParseStatus::parsed;
 }
 
-// Lets the event handlers, which there must be, see a value. Answers whether they accept it.
+// Offers a value to the event handlers. Returns whether they accept it.
+//
+// Precondition: a handler is registered.
 bool ValueStoring::offer(const OptionDescription& option, ValueEntry& entry) const
 {
     ValueRecord record = {option.primaryName().data(), std::move(entry.value), entry.position};
@@ -233,7 +235,7 @@ void ValueStoring::traceOffer(const GivenValue& given, std::wstring_view piece) 
                   L"', value: '", piece, L"'");
 }
 
-// Says that a piece of the value is none for the option.
+// Reports that the option does not accept a piece of the value.
 ParseStatus ValueStoring::reject(ValueVerdict verdict, std::wstring_view piece,
                                  const GivenValue& given, std::wstring& error) const
 {
@@ -243,7 +245,7 @@ ParseStatus ValueStoring::reject(ValueVerdict verdict, std::wstring_view piece,
     return ParseStatus::invalid;
 }
 
-// Says that a handler refused a value.
+// Reports that a handler refused a value.
 ParseStatus ValueStoring::refuse(const GivenValue& given, std::wstring& error) const
 {
     error = concatenate({L"Value '", given.value, L"' is not valid for option '",

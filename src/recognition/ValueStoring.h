@@ -1,5 +1,5 @@
-// The last step of parsing an argument: its value is cut, converted, offered to the event handlers
-// and stored.
+// The last step of parsing an argument: its value is split, converted, offered to the event
+// handlers and stored.
 #pragma once
 
 #include <cstdint>
@@ -20,10 +20,11 @@ enum class ValueVerdict : std::uint8_t;
 
 // Returns the number that the next converted value will get. One counter for the whole process
 // numbers the values of all parsers: the numbers rise in each thread, and none is given twice
-// before they begin at 0 again, which is before 2147483647.
+// before they start again at 0, after 2147483646.
 [[nodiscard]] std::int32_t nextSequenceNumber() noexcept;
 
-// Lets the counter go on from a number, so that its wrap can be reached.
+// Makes the counter continue from a number, so that tests can reach the last ones. Precondition:
+// the number is not negative and less than no_position.
 void setNextSequenceNumber(std::int32_t number) noexcept;
 
 // One occurrence of an option in an argument.
@@ -40,14 +41,14 @@ class ValueStoring
 public:
     explicit ValueStoring(const IArgumentParser& parser) noexcept : m_parser(parser) {}
 
-    // collector: what to store into; may be null.
+    // collector: receives the values; may be null.
     // error:     receives the message of a failure.
     // Returns `invalid` when the value does not convert or is not allowed, `refused` when a handler
     // refused it. Nothing of the occurrence is stored then.
     [[nodiscard]] ParseStatus store(const GivenValue& given, IResultCollector* collector,
                                     std::wstring& error);
 
-    // The same in a run of a kind.
+    // As store, in a run of one kind (Runs.h).
     template <class Run>
     [[nodiscard]] ParseStatus storeIn(const GivenValue& given, typename Run::Collector* collector,
                                       std::wstring& error);

@@ -14,19 +14,19 @@ class SharedTexts;
 class IResultCollector
 {
 public:
-    // Stores one occurrence of an option, or its default, under all names of the option. What is
-    // stored before stays; a default is kept as first stored.
+    // Stores one occurrence of an option, or its default, under all names of the option. What was
+    // stored before stays; of several defaults the first is kept.
     //
-    // record: used up, its values being moved away. Its texts are copied.
+    // record: its values are moved from, its texts are copied.
     //
-    // Returns 0. Throws std::out_of_range where the option has no name, and std::bad_alloc; nothing
-    // is stored then.
+    // Returns 0. Throws std::out_of_range if the option has no name, and std::bad_alloc; nothing is
+    // stored then.
     virtual result_t storeOption(const OptionDescription& option, OptionResult& record) = 0;
 
-    // As storeOption, of an occurrence with one value.
+    // As storeOption, for an occurrence with one value.
     virtual result_t storeValue(const OptionDescription& option, ValueEntry& value) = 0;
 
-    // Makes string values, which then share the memory of the result.
+    // Returns the maker of string values whose texts share the memory of the result.
     [[nodiscard]] virtual SharedTexts& texts() noexcept = 0;
 
 protected:

@@ -15,8 +15,7 @@
 namespace kexa_3_3
 {
 
-// A position at which an option occurred, a value given for it, or, most often, both: the value of
-// an occurrence with its position.
+// A position at which an option occurred, a value given for it, or, most often, both.
 struct Occurrence
 {
     const wchar_t* text = nullptr; // null-terminated; lives as long as the result
@@ -103,13 +102,13 @@ public:
     [[nodiscard]] bool hasValues() const noexcept { return m_hasValues; }
     [[nodiscard]] std::size_t size() const noexcept { return m_list.size(); }
 
-    // Returns the occurrence at the place, which then is behind it; null at the end.
+    // Returns the occurrence at `place` and advances `place` behind it; null at the end.
     [[nodiscard]] const Occurrence* next(Place& place) const noexcept
     {
         return place < m_list.size() ? &m_list[place++] : nullptr;
     }
 
-    // As next, passing by those that hold no value.
+    // As next, skipping those that hold no value.
     [[nodiscard]] const Occurrence* nextValue(Place& place) const noexcept
     {
         const Occurrence* occurrence = next(place);
@@ -120,7 +119,7 @@ public:
         return occurrence;
     }
 
-    // As next, passing by those that hold no position.
+    // As next, skipping those that hold no position.
     [[nodiscard]] const Occurrence* nextPosition(Place& place) const noexcept
     {
         const Occurrence* occurrence = next(place);

@@ -15,7 +15,7 @@ namespace
 
 constexpr std::size_t expected_names = 32; // of a command line of usual size
 
-// Whether every value is that of an occurrence of its own, as those of a command line are.
+// Returns whether every value has an occurrence of its own, as on a usual command line.
 bool isPaired(const OptionResult& record) noexcept
 {
     return std::equal(record.positions.begin(), record.positions.end(), record.values.begin(),
@@ -71,11 +71,11 @@ bool OptionResultTable::isFilledFrom(std::uint64_t identity) const noexcept
                        { return stored.source.index == identity; });
 }
 
-// The record that all names of the option find and no other name, or null.
+// Returns the record to which all names of the option lead, and no other name; or null.
 StoredOption* OptionResultTable::findShared(const OptionDescription& option) noexcept
 {
-    // A record that was made for the option stays its own until a name of it comes to lead
-    // elsewhere, or the option gets another name.
+    // A record that was made for the option belongs to it alone until one of its names leads to
+    // another record, or the option gets another name.
     const NamedRecord* const found = m_names.find(option.names.front());
     const bool isShared = found != nullptr && found->record->source.index != 0 &&
                           found->record->source == option.identity() &&
@@ -96,14 +96,14 @@ void OptionResultTable::storeElsewhere(const OptionDescription& option, Occurren
     record.occurrences.append(std::move(added));
 }
 
-// Makes an empty record for an option whose first name is unknown. Other names of it may have led to
-// another option before. Where this throws, some of those may lead to an empty record, in which
-// queries find nothing.
+// Makes an empty record for an option whose first name is new. The other names may lead to records
+// of other options before. If this throws, new names among them may lead to an empty record, in
+// which queries find nothing.
 StoredOption& OptionResultTable::makeShared(const OptionDescription& option)
 {
     m_names.reserveMore(option.names.size());
     StoredOption& record = m_records.emplace_back(option.identity(), m_strings.memory());
-    // The first name comes last of those that may fail: it decides whether the option is known.
+    // Keeping a name may fail. The first name comes last: by it the option is found.
     bool othersAreKnown = false;
     for (auto name = option.names.rbegin(); name != option.names.rend(); ++name)
     {
@@ -126,9 +126,9 @@ StoredOption& OptionResultTable::makeShared(const OptionDescription& option)
     return record;
 }
 
-// Stores an option whose names do not share exactly one record: each gets one of its own, and a name
-// that is unknown starts as a copy of the first one. Where this throws, names may have been given
-// records of their own, whose contents are as before.
+// Stores an option whose names do not share one record: each name gets a record of its own, which
+// for a new name starts as a copy of that of the first name. If this throws, names may have got
+// records of their own, with the contents that they led to before.
 void OptionResultTable::storeApart(const OptionDescription& option, const Occurrences& added)
 {
     m_names.reserveMore(option.names.size());
@@ -168,7 +168,8 @@ StoredOption& OptionResultTable::copyRecord(const StoredOption& from)
     return m_records.emplace_back(std::move(copy));
 }
 
-// Lets a name lead to a record. A name that is new is kept, and there is room for it.
+// Makes a name lead to a record. Preconditions for a new name: its text lies in the pool, and
+// reserveMore() made room.
 void OptionResultTable::bind(HashedText name, StoredOption& record) noexcept
 {
     StoredOption*& target = m_names.findOrAdd(name).record;
@@ -203,15 +204,15 @@ Occurrences OptionResultTable::makeOccurrences(OptionResult& record)
     return occurrences;
 }
 
-// Returns the text of a value as long as the result lives. A string value holds its own, in a block
-// that never moves.
+// Returns the text of a value, which lives as long as the result. A string value contains it, in a
+// block that never moves.
 const wchar_t* OptionResultTable::keepText(const ValueEntry& entry)
 {
     return entry.value.kind() == vexkit2::kind_wide_text ? entry.value.get<const wchar_t*>()
                                                          : m_strings.keep(entry.text).data();
 }
 
-// The default that a record brings, or none.
+// Returns the default that a record contains, or nothing.
 std::optional<Occurrence> OptionResultTable::makeDefault(const OptionResult& record)
 {
     std::optional<Occurrence> made;

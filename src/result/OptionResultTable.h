@@ -21,7 +21,7 @@ class OptionDescription;
 
 // Behaves as if every name had an entry of its own, in which the entries of one option start as
 // copies and receive the same appends. In fact the names of one option share a record as long as
-// nothing tells them apart: names added later, or a result that is filled from two parsers.
+// nothing distinguishes them, as names added later do, or a result that is filled from two parsers.
 class OptionResultTable
 {
 public:
@@ -43,10 +43,10 @@ public:
     // See IResultCollector::storeValue. Precondition: the option has a name.
     void storeValue(const OptionDescription& option, ValueEntry& value);
 
-    // Makes string values, which then share the memory of the result.
+    // Returns the maker of string values whose texts share the memory of the result.
     [[nodiscard]] SharedTexts& texts() noexcept { return m_texts; }
 
-    // The record of a name, or null. It stays where it is as long as the table lives.
+    // The record of a name, or null. Its address is valid as long as the table lives.
     [[nodiscard]] const StoredOption* find(HashedText name) const noexcept;
     [[nodiscard]] const StoredOption* find(std::wstring_view name) const noexcept
     {
@@ -76,7 +76,7 @@ private:
     Garbage& m_strings;
     SharedTexts m_texts;
     NameTable<NamedRecord> m_names;
-    std::uint64_t m_storings = 0;            // under names with records of their own
+    std::uint64_t m_storings = 0;            // by storeApart()
     std::pmr::deque<StoredOption> m_records; // whose elements never move
 };
 

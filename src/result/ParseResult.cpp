@@ -212,7 +212,7 @@ const Occurrence* ParseResult::nextInRange() noexcept
     return nullptr;
 }
 
-// The default, once, where isPresent or a query without bounds prepared for it.
+// Returns the default, once, after isPresent or a query without bounds; otherwise null.
 const Occurrence* ParseResult::nextDefault() noexcept
 {
     if (m_rangeFrom != no_position || m_rangeTo != no_position)

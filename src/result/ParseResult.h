@@ -47,7 +47,7 @@ public:
     // What is stored, for the later steps of a parse.
     [[nodiscard]] const OptionResultTable& options() const noexcept { return m_options; }
 
-    // The option files of the innermost parse that fills this now, or null. Only kept here.
+    // The option files of the innermost parse that fills this now, or null. Not used here.
     [[nodiscard]] OptionFiles* openFiles() const noexcept { return m_openFiles; }
     void setOpenFiles(OptionFiles* files) noexcept { m_openFiles = files; }
 
@@ -68,7 +68,7 @@ private:
     [[nodiscard]] const Occurrence* nextInRange() noexcept;
     [[nodiscard]] const Occurrence* nextDefault() noexcept;
 
-    InlineBlock<8192> m_firstBlock; // holds what a command line of usual size leaves
+    InlineBlock<8192> m_firstBlock; // holds what a usual command line stores
     Garbage m_strings; // keeps every text handed out, so it is destroyed after what refers to it
     OptionResultTable m_options;
 

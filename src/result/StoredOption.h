@@ -22,10 +22,10 @@ struct StoredOption
     {
     }
 
-    // The declaration that the record was made for, under all names that this had then. Nothing but
-    // what belongs to that declaration is in it as long as `names` is their number.
+    // The declaration that the record was made for, with all names that it had then. As long as
+    // `names` is the number of those, the record holds only what belongs to that declaration.
     OptionIdentity source;
-    std::size_t names = 0; // how many find it
+    std::size_t names = 0; // how many names lead to the record
 
     std::uint64_t lastStoring = 0; // see OptionResultTable::storeApart
     Occurrences occurrences;

@@ -1,4 +1,4 @@
-// Memory inside of an object, for its first small needs.
+// Memory inside an object, for its first allocations.
 #pragma once
 
 #include <array>
@@ -8,7 +8,7 @@
 namespace kexa_3_3
 {
 
-// Size: in bytes. They are not set to anything.
+// Size: in bytes, which are not initialized.
 template <std::size_t Size>
 class InlineBlock
 {

@@ -77,8 +77,8 @@ private:
     static constexpr std::uint32_t no_entry = 0xFFFFFFFF;
     static constexpr std::size_t largest_room = std::size_t{1} << 31;
 
-    // The hash is kept beside the number, so that a search looks at next to no other entry than the
-    // one it finds, and growth at none.
+    // The hash is stored beside the number, so that a search rarely reads an entry that it does not
+    // return, and growth reads none.
     struct Slot
     {
         std::uint32_t number = no_entry;

@@ -48,8 +48,8 @@ vexkit2::variant_t SharedTexts::add(std::wstring_view text)
     return vexkit2::variant_t::share_block(vexkit2::kind_wide_text, copy);
 }
 
-// Makes a region with room for a block of `size` bytes. What is left of the one before is given up,
-// which is little beside a text that did not fit.
+// Makes a region with room for a block of `size` bytes. The rest of the previous region stays
+// unused; it is smaller than that block.
 void SharedTexts::beginRegion(std::size_t size)
 {
     const std::size_t room = std::max(m_nextSize, size);

@@ -32,7 +32,7 @@ private:
     static constexpr std::size_t first_region = 1024; // bytes
     static constexpr std::size_t largest_region = std::size_t{1} << 20;
 
-    vexkit2::detail::shared_memory_t* m_region = nullptr; // this object holds a share of it
+    vexkit2::detail::shared_memory_t* m_region = nullptr; // this object holds a reference to it
     std::byte* m_free = nullptr;                          // behind the last text in it
     std::size_t m_left = 0;                               // bytes
     std::size_t m_nextSize = first_region;

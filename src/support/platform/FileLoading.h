@@ -26,8 +26,7 @@ inline constexpr std::size_t largest_file = std::size_t{1} << 30;
 // Reads all bytes of a file, or of a pipe up to its end. Returns FileProblem::none on success.
 //
 // name:  absolute, or relative to the current directory. On Linux it is converted to UTF-8, and
-// each
-//        lone surrogate U+DC80 to U+DCFF to the byte 0x80 to 0xFF. A host can thus name a file
+//        each lone surrogate U+DC80 to U+DCFF to the byte 0x80 to 0xFF. A host can thus name a file
 //        whose name is not well-formed UTF-8.
 // bytes: receives the content; unspecified after a failure.
 [[nodiscard]] FileProblem loadFile(const std::wstring& name, std::string& bytes);

@@ -22,8 +22,8 @@ public:
     ~basic_nullbuf() override = default;
 };
 
-// The trace switch. One for the whole process: parsers in several threads interfere in what they
-// trace, and in nothing else. Relaxed, as it guards no other memory.
+// The trace switch. One for the whole process: parsers in several threads may switch each other's
+// trace on and off. Relaxed, as it guards no other memory.
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables)
 extern std::atomic<bool> trace_switch;
 

@@ -12,11 +12,11 @@
 namespace kexa_3_3
 {
 
-// The hash of a text, taken character by character. Two steps a character, since each waits for the
-// one before; the product at the end gathers in its highest bits what depends on all characters
-// (multiplicative hashing by the golden ratio: D. E. Knuth, The Art of Computer Programming, 6.4).
-// Only texts that a host declares are stored in tables, so the hash need not withstand an enemy who
-// chooses them.
+// The hash of a text, computed character by character. Only two operations for each character,
+// since each depends on the one before. The multiplication at the end makes the highest bits depend
+// on all characters (multiplicative hashing by the golden ratio: D. E. Knuth, The Art of Computer
+// Programming, 6.4). Only texts that a host declares are stored in tables, so the hash need not
+// resist texts that are chosen to collide.
 class TextHash
 {
 public:
@@ -34,9 +34,9 @@ private:
     std::uint64_t m_state = 0;
 };
 
-// A view of a text that is looked up again and again. The text outlives it. Two words, so that it is
-// passed in registers: copies through memory shortly after it was made cost a fifth of the time of a
-// small command line.
+// A view of a text that is searched for more than once. The text outlives it. Two words, so that it
+// is passed in registers: copies through memory shortly after it was made cost a fifth of the time
+// of a small command line.
 class HashedText
 {
 public:
@@ -60,7 +60,7 @@ public:
         assert(*this == HashedText(text));
     }
 
-    // A null-terminated text, of which length and hash are taken in one pass.
+    // Returns the view of a null-terminated string, reading it only once for length and hash.
     [[nodiscard]] static HashedText ofTerminated(const wchar_t* text) noexcept
     {
         TextHash hash;
@@ -72,7 +72,9 @@ public:
         return HashedText(std::wstring_view(text, static_cast<std::size_t>(end - text)), hash);
     }
 
-    // copy: an equal text at another place.
+    // Returns a view of a copy, without computing the hash again.
+    //
+    // copy: an equal text at another address.
     [[nodiscard]] HashedText movedTo(std::wstring_view copy) const noexcept
     {
         assert(copy == text());
@@ -90,7 +92,7 @@ public:
     }
 
 private:
-    // A longer text, of 4 GiB of characters and more, is cut.
+    // A text of 2^32 characters or more is cut.
     [[nodiscard]] static std::uint32_t lengthOf(std::wstring_view text) noexcept
     {
         constexpr std::size_t longest = std::numeric_limits<std::uint32_t>::max();

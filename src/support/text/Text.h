@@ -9,7 +9,8 @@
 namespace kexa_3_3
 {
 
-// A C string as a view; null counts as empty. A zero stands behind the last character in any case.
+// Returns a view of a null-terminated string; null counts as an empty one. What the view refers to
+// is null-terminated in any case.
 [[nodiscard]] inline std::wstring_view viewOf(const wchar_t* text)
 {
     return text == nullptr ? std::wstring_view(L"", 0) : std::wstring_view(text);
@@ -20,7 +21,7 @@ namespace kexa_3_3
     return text;
 }
 
-// The pieces one after the other.
+// Returns the pieces joined to one text.
 [[nodiscard]] inline std::wstring concatenate(std::initializer_list<std::wstring_view> pieces)
 {
     std::size_t length = 0;
@@ -55,8 +56,8 @@ void forEachPiece(std::wstring_view text, wchar_t separator, Use use)
     }
 }
 
-// Whether the character stands in a text. Meant for texts that mostly are short: the C library's
-// search would take longer to call than to run.
+// Returns whether a text contains the character. For texts that are mostly short: there, calling
+// the C library's search would take longer than the search.
 [[nodiscard]] inline bool containsCharacter(std::wstring_view text, wchar_t character) noexcept
 {
     constexpr std::size_t short_text = 16;
@@ -64,12 +65,12 @@ void forEachPiece(std::wstring_view text, wchar_t separator, Use use)
     {
         return text.find(character) != std::wstring_view::npos;
     }
-    // Not std::any_of, nor a find: those look at four characters in turn, for long texts.
+    // Not std::any_of or a find, which are unrolled for long texts.
     return std::ranges::any_of(text, [character](wchar_t other) { return other == character; });
 }
 
-// White space of the classic locale. The same six characters everywhere, since the C runtimes
-// disagree on which wide characters beyond them are blank.
+// White space of the classic locale: six characters on every system, since the C runtimes disagree
+// on which other wide characters are blank.
 [[nodiscard]] constexpr bool isClassicSpace(wchar_t character) noexcept
 {
     return character == L' ' || (character >= L'\t' && character <= L'\r');
