@@ -20,9 +20,9 @@ namespace kexa_3_3
 // groups:  in the order of the listing. Each group has its heading even if it has no entries.
 // entries: never null.
 // hidden:  see passesHiddenTest().
-[[nodiscard]] std::wstring
-formatOptionHelp(const std::vector<OptionGroup>& groups,
-                 std::vector<const OptionDescription*> entries, bool hidden);
+[[nodiscard]] std::wstring formatOptionHelp(const std::vector<OptionGroup>& groups,
+                                            std::vector<const OptionDescription*> entries,
+                                            bool hidden);
 
 // Returns the names of an option and the values that it takes, for example
 // "-v, -verbose | -no-verbose".

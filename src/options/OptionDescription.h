@@ -90,7 +90,7 @@ public:
     [[nodiscard]] bool isPositional() const noexcept
     {
         return takesValue() && (marked || (m_keywords.get() != nullptr &&
-                                            m_keywords.get()->contains(positional_keyword)));
+                                           m_keywords.get()->contains(positional_keyword)));
     }
 
     // Makes the option report further names, and that it becomes positional, to an index from now
