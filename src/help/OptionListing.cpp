@@ -128,9 +128,8 @@ std::wstring formatNames(const OptionDescription& option)
     return column;
 }
 
-std::wstring
-formatOptionHelp(const std::vector<OptionGroup>& groups,
-                 std::vector<const OptionDescription*> entries, bool hidden)
+std::wstring formatOptionHelp(const std::vector<OptionGroup>& groups,
+                              std::vector<const OptionDescription*> entries, bool hidden)
 {
     assert(std::find(entries.begin(), entries.end(), nullptr) == entries.end());
     sortByName(entries);

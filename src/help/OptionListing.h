@@ -21,9 +21,9 @@ namespace kexa_3_3
 //          has no entries.
 // entries: never null.
 // hidden:  see passesHiddenTest().
-[[nodiscard]] std::wstring
-formatOptionHelp(const std::vector<OptionGroup>& groups,
-                 std::vector<const OptionDescription*> entries, bool hidden);
+[[nodiscard]] std::wstring formatOptionHelp(const std::vector<OptionGroup>& groups,
+                                            std::vector<const OptionDescription*> entries,
+                                            bool hidden);
 
 // Returns the names of an option and the values that it takes, for example
 // "-v, -verbose | -no-verbose".

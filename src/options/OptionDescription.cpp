@@ -141,7 +141,8 @@ bool shareKeyword(const OptionDescription& left, const OptionDescription& right)
                                     ? std::tie(left.keywords(), right.keywords())
                                     : std::tie(right.keywords(), left.keywords());
     return std::any_of(fewer.begin(), fewer.end(),
-                       [&more = more](std::wstring_view keyword) { return more.contains(keyword); });
+                       [&more = more](std::wstring_view keyword)
+                       { return more.contains(keyword); });
 }
 
 } // namespace kexa_3_3

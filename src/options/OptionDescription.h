@@ -90,7 +90,7 @@ public:
     [[nodiscard]] bool isPositional() const noexcept
     {
         return takesValue() && (marked || (m_keywords.get() != nullptr &&
-                                            m_keywords.get()->contains(positional_keyword)));
+                                           m_keywords.get()->contains(positional_keyword)));
     }
 
     // Makes the option one of an index, which learns from then on of further names and of the

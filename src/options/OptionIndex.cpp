@@ -116,9 +116,9 @@ std::pair<OptionIndex::Candidates::const_iterator, OptionIndex::Candidates::cons
 OptionIndex::prefixRange(std::wstring_view beginning) const
 {
     sortCandidates();
-    const auto first = std::lower_bound(
-        m_sorted.cbegin(), m_sorted.cend(), beginning,
-        [](const Candidate& candidate, std::wstring_view text) { return candidate.text < text; });
+    const auto first = std::lower_bound(m_sorted.cbegin(), m_sorted.cend(), beginning,
+                                        [](const Candidate& candidate, std::wstring_view text)
+                                        { return candidate.text < text; });
     const auto last = std::partition_point(first, m_sorted.cend(),
                                            [beginning](const Candidate& candidate)
                                            { return candidate.text.starts_with(beginning); });

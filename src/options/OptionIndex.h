@@ -50,8 +50,8 @@ public:
         m_texts.reserveMore(texts_of_name * names);
         if (m_repeated.capacity() - m_repeated.size() < texts_of_name * names)
         {
-            m_repeated.reserve(std::max(2 * m_repeated.capacity(),
-                                        m_repeated.size() + texts_of_name * names));
+            m_repeated.reserve(
+                std::max(2 * m_repeated.capacity(), m_repeated.size() + texts_of_name * names));
         }
     }
 
@@ -119,7 +119,7 @@ private:
     NameTable<KnownText> m_texts;
     Candidates m_repeated; // candidates whose text was known when they were added
     std::uint32_t m_candidateCount = 0;
-    mutable Candidates m_sorted; // by text; made when it is first needed
+    mutable Candidates m_sorted;              // by text; made when it is first needed
     mutable std::size_t m_sortedTexts = 0;    // that many of m_texts are in it
     mutable std::size_t m_sortedRepeated = 0; // that many of m_repeated are in it
     std::optional<std::size_t> m_firstPositional;

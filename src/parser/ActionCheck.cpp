@@ -44,8 +44,7 @@ Overview survey(const OptionResultTable& result, const RegisteredOptionStorage& 
         const OptionDescription* const option = options.find(stored.name);
         if (option == nullptr)
         {
-            overview.firstUnknown =
-                std::min(overview.firstUnknown.value_or(name), name);
+            overview.firstUnknown = std::min(overview.firstUnknown.value_or(name), name);
         }
         else if (!option->takesValue())
         {
@@ -103,8 +102,7 @@ const Given* findUnaccepted(const std::vector<Given>& restricted, const OptionDe
     const Given* first = nullptr;
     for (const Given& given : restricted)
     {
-        if ((first == nullptr || given.name < first->name) &&
-            !shareKeyword(*given.option, action))
+        if ((first == nullptr || given.name < first->name) && !shareKeyword(*given.option, action))
         {
             first = &given;
         }

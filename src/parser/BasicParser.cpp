@@ -119,8 +119,8 @@ bool BasicParser::hasOption(const wchar_t* name, bool switchesOnly, const wchar_
     for (std::size_t index = 0; index < m_options.size(); ++index)
     {
         const OptionDescription& option = m_options[index];
-        if (option.takesValue() != switchesOnly && (group == nullptr || option.group.name == group) &&
-            option.hasName(wanted))
+        if (option.takesValue() != switchesOnly &&
+            (group == nullptr || option.group.name == group) && option.hasName(wanted))
         {
             return true;
         }

@@ -63,8 +63,8 @@ int AbbreviationParser::recognizeIn(const ArgumentQueue& arguments,
     }
     if (m_match.count == 1)
     {
-        trace<Run>(L": best match option for '", typedName(), L"' in argument '", argument, L"' is '",
-                   m_match.candidate, L"'");
+        trace<Run>(L": best match option for '", typedName(), L"' in argument '", argument,
+                   L"' is '", m_match.candidate, L"'");
     }
     else
     {
