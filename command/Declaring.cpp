@@ -172,11 +172,6 @@ KEXA_COMMAND_INLINE void Core::setTimes(Declaration& declaration, std::size_t mi
 
 KEXA_COMMAND_INLINE void Core::setRequired(Declaration& declaration) const
 {
-    if (declaration.isFlag() || declaration.kind == Kind::count)
-    {
-        misuseOf(*this, *m_definition, declaration,
-                 "takes no value: only what takes one can be required");
-    }
     declaration.required = true;
     if (isPositional(declaration))
     {

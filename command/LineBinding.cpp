@@ -74,6 +74,7 @@ KEXA_COMMAND_INLINE bool LineBinding::parseGiven()
 {
     const std::vector<Given>& givens = m_scan.givens();
     const Fault& fault = m_scan.fault();
+    m_outcome.values.reserve(m_outcome.values.size() + givens.size());
     std::vector<const wchar_t*> arguments = {L""};
     arguments.reserve(givens.size() + fault.raw.size() + 2);
     if (m_scan.isTraced())

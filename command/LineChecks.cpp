@@ -18,9 +18,11 @@ KEXA_COMMAND_INLINE bool LineBinding::isChosen(const std::vector<std::size_t>& a
                        [this](std::size_t action) { return m_sources[action] == Source::given; });
 }
 
+// The parser looks at all names of what was given, in alphabetical order.
 KEXA_COMMAND_LOCAL bool isBefore(const Declaration* left, const Declaration* right)
 {
-    return left->names.front() < right->names.front();
+    return *std::min_element(left->names.begin(), left->names.end()) <
+           *std::min_element(right->names.begin(), right->names.end());
 }
 
 // Whether one group of actions that may be given together holds the first of these.

@@ -38,57 +38,62 @@ KEXA_COMMAND_LOCAL void parseArguments(State& state, std::vector<Argument> argum
     outcome.files = std::move(files);
 }
 
-KEXA_COMMAND_LOCAL std::vector<Argument> numbered(std::vector<std::wstring> texts)
+// Makes `count` arguments; text(i) returns that with the index i, from 0.
+template <class Text>
+std::vector<Argument> makeArguments(std::size_t count, const Text& text)
 {
     std::vector<Argument> arguments;
-    arguments.reserve(texts.size());
-    for (std::wstring& text : texts)
+    arguments.reserve(count);
+    for (std::size_t i = 0; i < count; ++i)
     {
         Place place;
-        place.index = static_cast<int>(arguments.size()) + 1;
-        arguments.push_back({std::move(text), place});
+        place.index = static_cast<int>(i) + 1;
+        arguments.push_back({text(i), place});
     }
     return arguments;
+}
+
+// How many arguments there are behind the program's name.
+KEXA_COMMAND_LOCAL std::size_t argumentCount(int argc)
+{
+    return argc > 1 ? static_cast<std::size_t>(argc) - 1 : 0;
 }
 
 KEXA_COMMAND_INLINE void Core::parse(int argc, const char* const* argv, void* object,
                                      Outcome& outcome)
 {
-    std::vector<std::wstring> texts;
     if (std::optional<std::vector<std::wstring>> reread = rereadArguments(argc, argv))
     {
-        texts = std::move(*reread);
+        return parseArguments(
+            *m_state,
+            makeArguments(reread->size(), [&](std::size_t i) { return std::move((*reread)[i]); }),
+            object, outcome);
     }
-    else
+    const auto text = [argv](std::size_t i)
     {
-        for (int i = 1; i < argc; ++i)
-        {
-            texts.push_back(argv[i] == nullptr ? std::wstring() : widen(argv[i]));
-        }
-    }
-    parseArguments(*m_state, numbered(std::move(texts)), object, outcome);
+        return argv[i + 1] == nullptr ? std::wstring() : widen(argv[i + 1]);
+    };
+    parseArguments(*m_state, makeArguments(argumentCount(argc), text), object, outcome);
 }
 
 KEXA_COMMAND_INLINE void Core::parse(int argc, const wchar_t* const* argv, void* object,
                                      Outcome& outcome)
 {
-    std::vector<std::wstring> texts;
-    for (int i = 1; i < argc; ++i)
+    const auto text = [argv](std::size_t i)
     {
-        texts.emplace_back(argv[i] == nullptr ? L"" : argv[i]);
-    }
-    parseArguments(*m_state, numbered(std::move(texts)), object, outcome);
+        return std::wstring(argv[i + 1] == nullptr ? L"" : argv[i + 1]);
+    };
+    parseArguments(*m_state, makeArguments(argumentCount(argc), text), object, outcome);
 }
 
 KEXA_COMMAND_INLINE void Core::parse(const std::vector<std::string>& arguments, void* object,
                                      Outcome& outcome)
 {
-    std::vector<std::wstring> texts;
-    for (const std::string& argument : arguments)
+    const auto text = [&arguments](std::size_t i)
     {
-        texts.push_back(widen(argument));
-    }
-    parseArguments(*m_state, numbered(std::move(texts)), object, outcome);
+        return widen(arguments[i]);
+    };
+    parseArguments(*m_state, makeArguments(arguments.size(), text), object, outcome);
 }
 
 KEXA_COMMAND_INLINE void Core::parseLine(std::string_view line, void* object, Outcome& outcome)

@@ -234,6 +234,10 @@ Verdict CommandComparison::compare(const std::vector<std::string>& arguments,
     const result_t code = m_raw.parse(arguments);
     const std::string message = code == result_success ? std::string() : m_raw.message();
     verdict.rule = ruleOfMessage(message);
+    if (message.find("doesn't accept option") != std::string::npos && hasSeveralActions())
+    {
+        verdict.rule = Rule::severalActions;
+    }
     if (verdict.rule != Rule::none)
     {
         return verdict;
@@ -248,6 +252,12 @@ Verdict CommandComparison::compare(const std::vector<std::string>& arguments,
         verdict.difference = "parser: " + raw + "\ncommand: " + bound;
     }
     return verdict;
+}
+
+bool CommandComparison::hasSeveralActions() const
+{
+    return std::count_if(m_declarations.actions.begin(), m_declarations.actions.end(),
+                         [this](const std::string& action) { return m_raw.isPresent(action); }) > 1;
 }
 
 std::string lineOf(const std::vector<std::string>& arguments)

@@ -23,6 +23,7 @@ enum class Rule : unsigned char
     emptyArgument,  // a positional argument that is an empty text
     traceKeyword,   // an argument like others
     bytesOfFile,    // the layer keeps bytes that are no UTF-8
+    severalActions, // an option may belong to any of the actions given
     takenByNobody   // an argument behind "--" where there is no positional argument
 };
 
@@ -47,6 +48,7 @@ public:
 
 private:
     std::string valuesOfRaw() const;
+    bool hasSeveralActions() const;
     std::string valuesOf(const DrawnSettings& settings) const;
     std::string findContradiction(const kexa::Parsed<DrawnSettings>& parsed) const;
 

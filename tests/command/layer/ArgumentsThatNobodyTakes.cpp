@@ -47,9 +47,9 @@ TEST(ArgumentsThatNobodyTakes, AreRefusedBehindTheMarkerToo)
     }
 }
 
-TEST(ArgumentsThatNobodyTakes, AreRefusedWhereTheParserBeneathTakesThem)
+TEST(ArgumentsThatNobodyTakes, AreRefusedBehindTheMarkerThoughTheParserBeneathTakesThem)
 {
-    for (const char* line : {"--raw=text", "--number=1 --raw=text"})
+    for (const char* line : {"-- --raw=text", "--number=1 -- --raw=text"})
     {
         kexa::Command<Settings> command("mixed");
         command.option(&Settings::number, "number", "");

@@ -162,10 +162,6 @@ INSTANTIATE_TEST_SUITE_P(
             "kexa: command 'tool', '-x': counts, and so has no values to check"},
         Row{[](auto& c) { c.option(&Settings::number, "x", "").count().environment("X"); },
             "kexa: command 'tool', '-x': takes no value from the environment"},
-        Row{[](auto& c) { c.option(&Settings::action, "x", "").required(); },
-            "kexa: command 'tool', '-x': takes no value: only what takes one can be required"},
-        Row{[](auto& c) { c.option(&Settings::number, "x", "").count().required(); },
-            "kexa: command 'tool', '-x': takes no value: only what takes one can be required"},
         Row{[](auto& c)
             {
                 c.positional(&Settings::list, "a", "");
