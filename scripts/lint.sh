@@ -12,7 +12,7 @@ scripts/install-packages.sh cmake ninja-build clang clang-tidy cppcheck g++-ming
 jobs=$(nproc)
 sources=("$@")
 # Large files first, so that no processor is left with a large file at the end.
-[ ${#sources[@]} -gt 0 ] || mapfile -t sources < <(ls -S src/*/*.cpp)
+[ ${#sources[@]} -gt 0 ] || mapfile -t sources < <(ls -S src/*/*.cpp src/*/*/*.cpp)
 
 mkdir -p build
 cmake --preset clang -B build/lint -DKEXA_BUILD_TESTS=OFF -DKEXA_BUILD_EXAMPLES=OFF \

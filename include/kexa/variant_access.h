@@ -89,6 +89,10 @@ bool variant_t::can_get() const noexcept
                                                     as_signed() >= static_cast<s64_t>(limits::min())
                                               : m_value.m_u64 <= static_cast<u64_t>(limits::max()));
     }
+    else
+    {
+        return false; // never compiled: another T was refused above
+    }
 }
 
 template <class T>

@@ -23,6 +23,7 @@ namespace
 {
     const bool splits = wide_is_utf16 && length > 1 && length < text.size() &&
                         isHighSurrogate(text[length - 1]) && isLowSurrogate(text[length]);
+    // cppcheck-suppress knownConditionTrueFalse ; true where a wide character has 16 bits
     return splits ? length - 1 : length;
 }
 

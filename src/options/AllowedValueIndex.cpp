@@ -115,25 +115,27 @@ std::size_t AllowedValueIndex::findByWalk(const variant_t& value) const
 
 const vexkit2::variant_t* AllowedValueIndex::findEqual(const variant_t& value) const
 {
-    std::size_t number = none;
+    const std::size_t number = numberOf(value);
+    return number == none ? nullptr : m_candidates[number];
+}
+
+// Returns the number of the first candidate that equals the value, or none.
+std::size_t AllowedValueIndex::numberOf(const variant_t& value) const
+{
     if (m_valueType == value_type_string)
     {
-        number = findIn(m_texts, std::wstring_view(value.get<const wchar_t*>()), value);
+        return findIn(m_texts, std::wstring_view(value.get<const wchar_t*>()), value);
     }
-    else if (isInteger(value))
+    if (isInteger(value))
     {
-        number = std::min(findIn(m_integers, integerKey(value), value),
-                          findIn(m_doubles, value.get<double>(), value));
+        return std::min(findIn(m_integers, integerKey(value), value),
+                        findIn(m_doubles, value.get<double>(), value));
     }
-    else if (isFloating(value))
+    if (isFloating(value))
     {
-        number = findIn(m_doubles, value.get<double>(), value);
+        return findIn(m_doubles, value.get<double>(), value);
     }
-    else
-    {
-        number = findByWalk(value);
-    }
-    return number == none ? nullptr : m_candidates[number];
+    return findByWalk(value);
 }
 
 AllowedValueIndex::TextMatches AllowedValueIndex::matchText(std::wstring_view beginning) const

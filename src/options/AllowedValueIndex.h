@@ -55,6 +55,7 @@ private:
     template <class Key>
     [[nodiscard]] std::size_t findIn(const Sorted<Key>& sorted, const Key& key,
                                      const variant_t& value) const;
+    [[nodiscard]] std::size_t numberOf(const variant_t& value) const;
     [[nodiscard]] std::size_t findByWalk(const variant_t& value) const;
     void indexText(std::size_t number);
     void indexNumber(std::size_t number);

@@ -20,6 +20,7 @@ public:
     }
     Lazy(Lazy&&) noexcept = default;
     Lazy& operator=(const Lazy&) = delete;
+    Lazy& operator=(Lazy&&) = delete;
 
     // Null before make() was called.
     [[nodiscard]] const T* get() const noexcept { return m_made.get(); }

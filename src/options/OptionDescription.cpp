@@ -115,6 +115,7 @@ OptionIdentity OptionDescription::identity() const noexcept
                                   : OptionIdentity{place.index->identity(), place.number};
 }
 
+// NOLINTNEXTLINE(readability-make-member-function-const): it changes the index.
 void OptionDescription::notePositional() noexcept
 {
     if (m_place.held.index != nullptr && isPositional())

@@ -69,6 +69,7 @@ public:
     OptionDescription(const OptionDescription&) = default;
     OptionDescription(OptionDescription&&) = default;
     OptionDescription& operator=(const OptionDescription&) = delete;
+    OptionDescription& operator=(OptionDescription&&) = delete;
 
     // Each throws std::bad_alloc, changing nothing.
     IOption& addName(const wchar_t* name) override;

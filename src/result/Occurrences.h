@@ -38,6 +38,7 @@ public:
     ~Occurrences() = default;
     Occurrences(Occurrences&&) noexcept = default;
     Occurrences& operator=(const Occurrences&) = delete;
+    Occurrences& operator=(Occurrences&&) = delete;
 
     // A copy in the same memory. Throws std::bad_alloc.
     Occurrences(const Occurrences& other)
@@ -90,6 +91,7 @@ public:
     }
 
     // Adds a copy of all that another list holds. Precondition: reserveMore() made room.
+    // NOLINTNEXTLINE(bugprone-exception-escape): copies of values share blocks that are there.
     void append(const Occurrences& other) noexcept
     {
         assert(m_list.capacity() - m_list.size() >= other.m_list.size());

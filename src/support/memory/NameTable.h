@@ -62,10 +62,6 @@ public:
         const std::uint32_t number = m_slots[placeOf(name)].number;
         return number == no_entry ? nullptr : &m_entries[number];
     }
-    [[nodiscard]] Entry* find(HashedText name) noexcept
-    {
-        return const_cast<Entry*>(std::as_const(*this).find(name));
-    }
 
     [[nodiscard]] bool empty() const noexcept { return m_entries.empty(); }
     [[nodiscard]] std::size_t size() const noexcept { return m_entries.size(); }

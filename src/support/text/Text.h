@@ -13,7 +13,8 @@ namespace kexa_3_3
 // is null-terminated in any case.
 [[nodiscard]] inline std::wstring_view viewOf(const wchar_t* text)
 {
-    return text == nullptr ? std::wstring_view(L"", 0) : std::wstring_view(text);
+    using namespace std::string_view_literals;
+    return text == nullptr ? L""sv : std::wstring_view(text);
 }
 
 [[nodiscard]] inline std::wstring_view viewOf(const std::wstring& text) noexcept
