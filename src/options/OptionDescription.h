@@ -102,7 +102,7 @@ public:
     [[nodiscard]] OptionIdentity identity() const noexcept;
 
     using Keywords = std::set<std::wstring_view>;
-    [[nodiscard]] const Keywords& keywords() const noexcept
+    [[nodiscard]] const Keywords& keywords() const
     {
         static const Keywords none;
         return m_keywords.get() == nullptr ? none : *m_keywords.get();

@@ -92,7 +92,11 @@ void OptionIndex::sortCandidates() const
     {
         return;
     }
-    m_sorted.reserve(m_candidateCount);
+    if (m_sorted.capacity() < m_candidateCount)
+    {
+        // Doubled, since a former array stays in the arena.
+        m_sorted.reserve(std::max<std::size_t>(m_candidateCount, 2 * m_sorted.capacity()));
+    }
     const auto known = static_cast<std::ptrdiff_t>(m_sorted.size());
     for (; m_sortedTexts < m_texts.size(); ++m_sortedTexts)
     {

@@ -172,11 +172,11 @@ template <class Integer>
     {
         digits.remove_prefix(1);
     }
-    constexpr long long far = 1LL << 40; // more than the digits of any text could make up for
+    constexpr long long huge = 1LL << 40; // more than the digits of any text could make up for
     long long exponent = 0;
     for (const char digit : digits)
     {
-        exponent = std::min(far, exponent * 10 + (digit - '0'));
+        exponent = std::min(huge, exponent * 10 + (digit - '0'));
     }
     magnitude += negative ? -exponent : exponent;
     return magnitude < 0;

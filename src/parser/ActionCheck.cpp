@@ -64,31 +64,26 @@ Overview survey(const OptionResultTable& result, const RegisteredOptionStorage& 
     return overview;
 }
 
-// Returns whether one group contains all the names.
-bool areCompatible(const std::vector<std::wstring>& names, const ActionGroups& groups)
-{
-    return std::any_of(groups.begin(), groups.end(),
-                       [&names](const std::set<std::wstring>& group)
-                       {
-                           return std::all_of(names.begin(), names.end(),
-                                              [&group](const std::wstring& name)
-                                              { return group.find(name) != group.end(); });
-                       });
-}
-
 // Returns the first action, by name, that may not be combined with those before it, or null.
 const Given* findConflict(const std::vector<Given>& actions, const ActionGroups& groups)
 {
-    std::vector<std::wstring> names;
+    // The groups that contain all actions so far.
+    std::vector<const std::set<std::wstring>*> fitting;
+    for (const std::set<std::wstring>& group : groups)
+    {
+        fitting.push_back(&group);
+    }
+    std::set<const OptionDescription*> known; // an action is given under each of its names
     for (const Given& action : actions)
     {
-        const std::wstring_view name = action.option->primaryName();
-        if (std::find(names.begin(), names.end(), name) != names.end())
+        if (!known.insert(action.option).second)
         {
             continue;
         }
-        names.emplace_back(name);
-        if (names.size() > 1 && !areCompatible(names, groups))
+        const std::wstring name(action.option->primaryName());
+        std::erase_if(fitting, [&name](const std::set<std::wstring>* group)
+                      { return group->find(name) == group->end(); });
+        if (known.size() > 1 && fitting.empty())
         {
             return &action;
         }

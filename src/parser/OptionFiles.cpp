@@ -39,7 +39,13 @@ std::wstring wholeText(const Occurrence& stored)
     const std::size_t units = stored.value.kind() == vexkit2::kind_wide_text
                                   ? stored.value.byte_length() / sizeof(wchar_t)
                                   : 0;
-    return units == 0 ? std::wstring(stored.text) : std::wstring(stored.text, units - 1);
+    std::wstring text(stored.text, units);
+    // A host's own bytes need not end with a zero.
+    if (!text.empty() && text.back() == L'\0')
+    {
+        text.pop_back();
+    }
+    return text.empty() ? std::wstring(stored.text) : text;
 }
 
 result_t readFile(const std::wstring& name, const OptionFiles::ParseFile& parseFile,

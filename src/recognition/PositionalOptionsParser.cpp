@@ -68,12 +68,19 @@ ParseStatus PositionalOptionsParser::parseIn(ArgumentQueue& arguments,
     {
         const std::wstring_view argument = arguments.front();
         const GivenValue given = {option, argument, argument};
-        reportOption(option);
-        // A handler may have switched the trace on.
-        using Watched = WatchedRun<typename Run::Collector>;
-        const ParseStatus status =
-            owner() == nullptr ? storeAndRemove<Run>(given, collector, arguments, error)
-                               : storeAndRemove<Watched>(given, collector, arguments, error);
+        ParseStatus status = ParseStatus::parsed;
+        if (owner() == nullptr) [[likely]]
+        {
+            // cppcheck-suppress redundantInitialization ; no variable is left undefined
+            status = storeAndRemove<Run>(given, collector, arguments, error);
+        }
+        else
+        {
+            reportOption(option);
+            // A handler may have switched the trace on.
+            using Watched = WatchedRun<typename Run::Collector>;
+            status = storeAndRemove<Watched>(given, collector, arguments, error);
+        }
         if (status != ParseStatus::parsed)
         {
             return status;

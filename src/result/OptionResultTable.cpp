@@ -189,6 +189,7 @@ void OptionResultTable::bind(HashedText name, StoredOption& record) noexcept
 Occurrences OptionResultTable::makeOccurrences(OptionResult& record)
 {
     Occurrences occurrences(m_strings.memory());
+    occurrences.reserveMore(record.positions.size() + record.values.size());
     const bool paired = isPaired(record);
     if (!paired)
     {

@@ -154,4 +154,20 @@ TEST(ResultDefaults, OptionWithoutADefaultIsAbsent)
     EXPECT_FALSE(host.isPresent(L"name"));
 }
 
+TEST(ResultDefaults, SharedNameHasTheDefaultOfTheOptionDeclaredLast)
+{
+    Host host;
+    host.addOption(L"first").addName(L"same").setDefaultValue(variant_t(L"1"));
+    host.addOption(L"second").addName(L"same").setDefaultValue(variant_t(L"2"));
+    ASSERT_EQ(host.parse({}), 0);
+    const auto defaultOf = [&host](const wchar_t* name)
+    {
+        const Value value = getLastValue(&host.result(), name, 0, no_position);
+        return std::wstring(value.as<const wchar_t*>());
+    };
+    EXPECT_EQ(defaultOf(L"first"), L"1");
+    EXPECT_EQ(defaultOf(L"second"), L"2");
+    EXPECT_EQ(defaultOf(L"same"), L"2");
+}
+
 } // namespace

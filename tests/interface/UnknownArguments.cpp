@@ -27,6 +27,32 @@ using UnknownIsDropped = UnknownArguments;
 INSTANTIATE_TEST_SUITE_P(Flags, UnknownIsAnError, testing::Values(2, 2 | 8, 2 | 4 | 8 | 16 | 32));
 INSTANTIATE_TEST_SUITE_P(Flags, UnknownIsDropped, testing::Values(0, 1, 8, 4 | 8 | 16 | 32));
 
+TEST(UnknownArgumentTexts, LiveAsLongAsTheParserOnceForEachText)
+{
+    struct Keeper final : EventHandler
+    {
+        bool onUnknownArgument(const wchar_t* argument) override
+        {
+            texts.push_back(argument);
+            return true;
+        }
+        std::vector<const wchar_t*> texts;
+    };
+    Host host;
+    Keeper keeper;
+    host.parser().addEventHandler(&keeper);
+    ASSERT_EQ(host.parse({L"x", L"y", L"x"}), 0);
+    ASSERT_EQ(host.parseLines(L"x\ny\nx"), 0);
+    ASSERT_EQ(keeper.texts.size(), 6U);
+    for (const std::size_t index : {0U, 2U, 3U, 5U})
+    {
+        EXPECT_STREQ(keeper.texts[index], L"x");
+        EXPECT_EQ(keeper.texts[index], keeper.texts[0]);
+    }
+    EXPECT_STREQ(keeper.texts[1], L"y");
+    EXPECT_EQ(keeper.texts[4], keeper.texts[1]);
+}
+
 } // namespace
 
 TEST_P(UnknownIsAnError, TheMessageEndsWithTheArgumentAsGiven)

@@ -50,6 +50,7 @@ public:
         if (slot.number == no_entry)
         {
             assert(m_entries.size() < m_entries.capacity());
+            assert(2 * m_entries.size() < m_slots.size()); // searches end at a free slot
             slot = {static_cast<std::uint32_t>(m_entries.size()), name.hash()};
             m_entries.emplace_back().name = name;
         }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cassert>
-#include <cwchar>
 #include <limits>
 #include <new>
 
@@ -41,7 +40,7 @@ vexkit2::variant_t SharedTexts::add(std::wstring_view text)
     assert(m_region != nullptr && size <= m_left);
     auto* const header = new (m_free) block_header_t(m_region, (text.size() + 1) * sizeof(wchar_t));
     auto* const copy = static_cast<wchar_t*>(static_cast<void*>(header + 1));
-    std::wmemcpy(copy, text.data(), text.size());
+    text.copy(copy, text.size());
     copy[text.size()] = L'\0';
     m_free += size;
     m_left -= size;

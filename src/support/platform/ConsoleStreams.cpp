@@ -58,7 +58,7 @@ private:
         {
             return true;
         }
-        if (!wide_is_utf16)
+        if constexpr (!wide_is_utf16)
         {
             return writeConsole(m_target, text);
         }

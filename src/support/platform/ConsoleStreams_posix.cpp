@@ -18,17 +18,17 @@ bool writeConsole(ConsoleTarget target, std::wstring_view text)
     while (written < bytes.size())
     {
         const ssize_t count = ::write(descriptor, bytes.data() + written, bytes.size() - written);
-        if (count >= 0)
+        if (count > 0)
         {
             written += static_cast<std::size_t>(count);
         }
-        else if (errno == EAGAIN)
+        else if (count < 0 && errno == EAGAIN)
         {
             // The descriptor is non-blocking and full: block until it can be written again.
             pollfd waiting = {descriptor, POLLOUT, 0};
             static_cast<void>(::poll(&waiting, 1, -1));
         }
-        else if (errno != EINTR)
+        else if (count == 0 || errno != EINTR)
         {
             return false;
         }
