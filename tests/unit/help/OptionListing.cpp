@@ -25,7 +25,7 @@ protected:
                            const wchar_t* description = L"text")
     {
         OptionDescription& option =
-            options.emplace_back(groups.emplace_back(group, L"not used"), false, pool);
+            options.emplace_back(groups.emplace_back(OptionGroup{group, L"not used"}), false, pool);
         option.addName(name);
         option.valueType = value_type_none;
         option.description = description;
