@@ -75,7 +75,7 @@ void checkExtended(toolbox::Choices& choices, const toolbox::DrawnDeclarations& 
     }
     catch (const std::logic_error& misuse)
     {
-        fuzzing::require(*misuse.what() != '\0', "a wrong declaration is told with a text");
+        fuzzing::require(*misuse.what() != '\0', "a wrong declaration is reported with a text");
     }
 }
 
@@ -104,7 +104,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     catch (const std::logic_error& misuse)
     {
-        fuzzing::require(*misuse.what() != '\0', "a wrong declaration is told with a text");
+        fuzzing::require(*misuse.what() != '\0', "a wrong declaration is reported with a text");
     }
     return 0;
 }

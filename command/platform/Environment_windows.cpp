@@ -22,7 +22,7 @@ KEXA_COMMAND_INLINE std::optional<std::string> environmentVariable(std::string_v
     std::wstring value(255, L'\0');
     for (;;)
     {
-        ::SetLastError(ERROR_SUCCESS); // an empty value is told from none by the error alone
+        ::SetLastError(ERROR_SUCCESS); // only the error distinguishes an empty value from none
         const DWORD length = ::GetEnvironmentVariableW(wideName.c_str(), value.data(),
                                                        static_cast<DWORD>(value.size() + 1));
         if (length == 0 && ::GetLastError() != ERROR_SUCCESS)

@@ -38,7 +38,7 @@ protected:
         return events;
     }
 
-    // The same arguments by the layer's functions, and files that the files name behind them.
+    // The arguments as the layer reads them; files that a file names come behind it.
     static Events layerReads(const std::wstring& name)
     {
         constexpr std::string_view option = "--option-file=";

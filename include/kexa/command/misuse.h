@@ -1,4 +1,4 @@
-// How a mistake in a declaration is told.
+// Reports mistakes in declarations.
 #ifndef KEXA_COMMAND_MISUSE_H
 #define KEXA_COMMAND_MISUSE_H
 

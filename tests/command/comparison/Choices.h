@@ -31,7 +31,7 @@ public:
     }
 };
 
-// The same choices for the same seed, on every system.
+// Choices that depend on the seed alone, on every system.
 class RandomChoices final : public Choices
 {
 public:

@@ -176,7 +176,7 @@ std::string findContradiction(const kexa::Error& error, std::size_t argumentCoun
     return std::string();
 }
 
-// Where a value comes from is told alike by source() and by the occurrences, and a member that was
+// source() and the occurrences agree on where a value comes from, and a member that was
 // not given is as its initialiser leaves it.
 std::string CommandComparison::findContradiction(const kexa::Parsed<DrawnSettings>& parsed) const
 {

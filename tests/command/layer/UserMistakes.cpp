@@ -1,4 +1,4 @@
-// What a user who makes a mistake is told: the whole message, the hint and where it was.
+// The report of each mistake of a user: the whole message, the hint and the place.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -158,7 +158,7 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"-l", "2 missing argument: path | path"}, Row{"", "2 missing argument: path | path"},
         Row{"-l 'x", "2 unterminated quote: 'x"}));
 
-// Where several mistakes are on a line the first one is told.
+// If a line has several mistakes, the first one is reported.
 INSTANTIATE_TEST_SUITE_P(
     Several, UserMistake,
     testing::Values(
